@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+
+namespace GeometryEngine {
+
+struct TDXFPoint {
+  double x = 0;
+  double y = 0;
+};
+
+struct TDXFLine {
+  std::int32_t point1 = 0;
+  std::int32_t point2 = 0;
+};
+
+struct TDXFArc {
+  TDXFPoint centre;
+  double startAngle = 0;
+  double endAngle = 0;
+  double radius = 0;
+  TDXFPoint startPoint;
+  TDXFPoint endPoint;
+};
+
+}  // namespace GeometryEngine

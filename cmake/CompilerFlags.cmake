@@ -1,0 +1,18 @@
+# Flags of every target of the project: the language, the warnings, and the arithmetic that gives the same bits everywhere.
+
+add_library(geometryengine_flags INTERFACE)
+target_compile_features(geometryengine_flags INTERFACE cxx_std_20)
+target_compile_options(geometryengine_flags INTERFACE
+  -ffp-contract=off
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wdouble-promotion -Wold-style-cast
+  -Wcast-align -Wcast-qual -Wnon-virtual-dtor -Woverloaded-virtual -Wformat=2 -Wundef -Wswitch-enum
+  -Wimplicit-fallthrough -Wmissing-declarations
+  $<$<CXX_COMPILER_ID:GNU>:-Wuseless-cast -Wlogical-op -Wduplicated-cond -Wduplicated-branches>)
+if(GEOMETRYENGINE_WARNINGS_AS_ERRORS)
+  target_compile_options(geometryengine_flags INTERFACE -Werror)
+endif()
+if(GEOMETRYENGINE_SANITIZE)
+  target_compile_options(geometryengine_flags INTERFACE
+    -fsanitize=${GEOMETRYENGINE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(geometryengine_flags INTERFACE -fsanitize=${GEOMETRYENGINE_SANITIZE})
+endif()

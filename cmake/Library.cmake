@@ -1,0 +1,38 @@
+# The shared library. A host that brings its own settings store and base package sets GEOMETRYENGINE_HOST_ROOT to a
+# folder that holds GeometryEngine/host/ with the same headers.
+
+include(GenerateExportHeader)
+
+file(GLOB_RECURSE geometryengine_sources CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR}
+     ${PROJECT_SOURCE_DIR}/GeometryEngine/*.cpp)
+list(FILTER geometryengine_sources EXCLUDE REGEX "^GeometryEngine/host/")
+
+# Makes a shared library of the sources with the host package found below `host_root`.
+function(geometryengine_add_library target host_root)
+  file(GLOB host_sources CONFIGURE_DEPENDS ${host_root}/GeometryEngine/host/*.cpp)
+  list(TRANSFORM geometryengine_sources PREPEND ${PROJECT_SOURCE_DIR}/ OUTPUT_VARIABLE sources)
+  add_library(${target} SHARED ${sources} ${host_sources})
+  target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:geometryengine_flags>)
+  target_compile_features(${target} PUBLIC cxx_std_20)
+  set_target_properties(${target} PROPERTIES
+    CXX_EXTENSIONS OFF
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON
+    VERSION ${PROJECT_VERSION}
+    SOVERSION ${PROJECT_VERSION_MAJOR})
+  target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/generated>)
+  if(NOT host_root STREQUAL PROJECT_SOURCE_DIR)
+    target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${host_root}>)
+  endif()
+  target_include_directories(${target} PUBLIC
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
+    $<INSTALL_INTERFACE:include>)
+  target_compile_definitions(${target} PRIVATE GeometryEngine_EXPORTS)
+endfunction()
+
+set(GEOMETRYENGINE_HOST_ROOT ${PROJECT_SOURCE_DIR} CACHE PATH "Folder that holds GeometryEngine/host/")
+geometryengine_add_library(GeometryEngine ${GEOMETRYENGINE_HOST_ROOT})
+add_library(GeometryEngine::GeometryEngine ALIAS GeometryEngine)
+generate_export_header(GeometryEngine
+  EXPORT_MACRO_NAME GEOMETRYENGINE_API
+  EXPORT_FILE_NAME ${PROJECT_BINARY_DIR}/generated/GeometryEngine/Export.h)
