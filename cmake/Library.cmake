@@ -2,6 +2,7 @@
 # folder that holds GeometryEngine/host/ with the same headers.
 
 include(GenerateExportHeader)
+include(GNUInstallDirs)
 
 file(GLOB_RECURSE geometryengine_sources CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR}
      ${PROJECT_SOURCE_DIR}/GeometryEngine/*.cpp)
@@ -19,15 +20,17 @@ function(geometryengine_add_library target host_root)
     CXX_VISIBILITY_PRESET hidden
     VISIBILITY_INLINES_HIDDEN ON
     VERSION ${PROJECT_VERSION}
-    SOVERSION ${PROJECT_VERSION_MAJOR})
+    SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})  # below 1.0 a minor version may break the interface
   target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/generated>)
   if(NOT host_root STREQUAL PROJECT_SOURCE_DIR)
     target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${host_root}>)
   endif()
   target_include_directories(${target} PUBLIC
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
-    $<INSTALL_INTERFACE:include>)
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
   target_compile_definitions(${target} PRIVATE GeometryEngine_EXPORTS)
+  target_link_options(${target} PRIVATE LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
+  set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
 endfunction()
 
 set(GEOMETRYENGINE_HOST_ROOT ${PROJECT_SOURCE_DIR} CACHE PATH "Folder that holds GeometryEngine/host/")
