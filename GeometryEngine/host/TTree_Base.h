@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <vector>
 
@@ -35,6 +36,15 @@ class GEOMETRYENGINE_API TTree_Base {
   explicit TTree_Base(TNodeFactory aFactory);
 
  private:
+  bool IsEnterable(const TTreeNode_Base* aNode) const;
+  bool IsEntered(const TTreeNode_Base* aNode) const;
+  bool IsMovable(const TTreeNode_Base* aNode) const;
+  bool IsMovableTo(const TTreeNode_Base* aNode, const TTreeNode_Base* aNewParent) const;
+  static void Attach(TTreeNode_Base* aNode, TTreeNode_Base* aParent);
+  static void Detach(TTreeNode_Base* aNode);
+  static void HandChildrenToParent(TTreeNode_Base& aNode);
+  void RenumberFrom(std::size_t aPlace);
+
   TNodeFactory fFactory;
   std::vector<std::unique_ptr<TTreeNode_Base>> fNodes;  ///< the flat index; position 0 is the root
 };

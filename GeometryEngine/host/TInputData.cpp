@@ -1,0 +1,7 @@
+#include "GeometryEngine/host/TInputData.h"
+
+namespace Kelvaralinks {
+
+TInputData InputData;
+
+}  // namespace Kelvaralinks
