@@ -35,6 +35,8 @@ class GEOMETRYENGINE_API TTreeNode_CoreProperties : public TTreeNode_Base {
   const std::string& UniqueName() const;
 
   bool IsOfType(TGeometryRegionType aType) const;
+  /// False for a missing node, so that the answer of a search can be handed on unchecked.
+  static bool IsOfType(const TTreeNode_CoreProperties* aNode, TGeometryRegionType aType);
   bool IsOfType_WithinSet(const TGeometryRegionTypesSet& aTypes) const;
   TGeometryRegionType GetStandardRegionType() const;
   TTreeNodeArray_CoreProperties GetChildren() const;
@@ -53,6 +55,8 @@ class GEOMETRYENGINE_API TTreeNode_CoreProperties : public TTreeNode_Base {
   static const TTreeNode_CoreProperties* TypeCast(const TTreeNode_Base* aNode);
 
  private:
+  bool NameClashes(const TTree_CoreProperties& aTree, std::string_view aName) const;
+
   std::uint32_t fColour = 0;
   TGeometryRegionType fRegionType = rtUndefined;
   TGeometryRegionType fRegionType_Mapped = rtUndefined;

@@ -1,0 +1,119 @@
+// The names of a region: given, made unique, and as the exports want them.
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstddef>
+
+#include "GeometryEngine/GeometryEngine_Tree_MotorProperties/TTreeNode_CoreProperties.h"
+#include "GeometryEngine/GeometryEngine_Tree_MotorProperties/TTree_CoreProperties.h"
+#include "GeometryEngine/host/TDataStore.h"
+#include "GeometryEngine/host/TInputData.h"
+
+namespace GeometryEngine {
+
+namespace {
+
+constexpr double kUniqueNamesOn = 1;                   // value of the switch, no unit
+constexpr std::int32_t kLargestNameCounter = 1000000;  // attempts before the last candidate is taken as it stands
+
+constexpr std::array<std::uint8_t, 3> kMachineTypes_SharedBarNames = {1, 6, 8};  // selector values, no unit
+constexpr std::array<std::uint8_t, 2> kMachineTypes_Bars = {1, 8};               // selector values, no unit
+
+constexpr TGeometryRegionTypesSet kTypes_WithoutUniqueName = {rtAirGap, rtSurrounding};
+constexpr TGeometryRegionTypesSet kTypes_PlainName_FEA = {rtWedge,       rtImpregnation, rtLiner,      rtCoilDivider,
+                                                          rtSlotOpening, rtMagnetPocket, rtCoolingDuct};
+constexpr TGeometryRegionTypesSet kTypes_Lamination = {rtLaminationStator, rtLaminationRotor};
+
+template <std::size_t N>
+bool IsMachineTypeAmong(const std::array<std::uint8_t, N>& aTypes) {
+  return std::find(aTypes.begin(), aTypes.end(), Kelvaralinks::InputData.MachineType) != aTypes.end();
+}
+
+char FoldCase(char aLetter) {
+  constexpr char kToLowerCase = 'a' - 'A';
+  return aLetter >= 'A' && aLetter <= 'Z' ? static_cast<char>(aLetter + kToLowerCase) : aLetter;
+}
+
+bool SameName_IgnoringCase(std::string_view aName_A, std::string_view aName_B) {
+  return std::equal(aName_A.begin(), aName_A.end(), aName_B.begin(), aName_B.end(),
+                    [](char a, char b) { return FoldCase(a) == FoldCase(b); });
+}
+
+std::string NumberedName(const std::string& aName, std::int32_t aNumber) {
+  std::array<char, 16> digits{};
+  const std::to_chars_result written = std::to_chars(digits.data(), digits.data() + digits.size(), aNumber);
+  return aName + "_" + std::string(digits.data(), written.ptr);
+}
+
+}  // namespace
+
+void TTreeNode_CoreProperties::SetRegionName(std::string_view aName) {
+  fRegionName = aName;
+  fUniqueName.clear();
+  SetRegionName_Unique();
+}
+
+const std::string& TTreeNode_CoreProperties::GetRegionName_Unique() const {
+  return fUniqueName.empty() ? fRegionName : fUniqueName;
+}
+
+void TTreeNode_CoreProperties::SetRegionName_Unique() {
+  if (GetTree() == nullptr) return;
+  const double uniqueNames = Kelvaralinks::dataStore.GetValue(Maindataenum::TInputFields::ifUniqueRegionNames);
+  if (uniqueNames == kUniqueNamesOn && CheckApply_UniqueRegionName()) {
+    fUniqueName = GenerateUniqueRegionName();
+  } else {
+    fUniqueName.clear();
+  }
+}
+
+bool TTreeNode_CoreProperties::CheckApply_UniqueRegionName() const {
+  if (fRegionName.empty() || IsOfType_WithinSet(kTypes_WithoutUniqueName)) return false;
+  return !(IsMachineTypeAmong(kMachineTypes_SharedBarNames) && IsOfType(rtRotorBar));
+}
+
+bool TTreeNode_CoreProperties::NameClashes(const TTree_CoreProperties& aTree, std::string_view aName) const {
+  for (TIndex index = 1; index < aTree.GetCount(); ++index) {
+    const TTreeNode_CoreProperties* node = aTree.GetNodeFromIndex(index);
+    if (node == nullptr || index == GetTreeIndex()) continue;
+    if (SameName_IgnoringCase(node->GetRegionName_Unique(), aName)) return true;
+  }
+  return false;
+}
+
+std::string TTreeNode_CoreProperties::GenerateUniqueRegionName() const {
+  std::string name = GetRegionName_Unique();
+  const TTree_CoreProperties* tree = GetTree();
+  if (tree == nullptr) return name;
+  std::int32_t counter = 0;
+  while (counter <= kLargestNameCounter && NameClashes(*tree, name)) {
+    ++counter;
+    name = NumberedName(fRegionName, counter);
+  }
+  return name;
+}
+
+const std::string& TTreeNode_CoreProperties::GetRegionName_FEA() const {
+  return fUniqueName.empty() || IsOfType_WithinSet(kTypes_PlainName_FEA) ? fRegionName : fUniqueName;
+}
+
+std::string_view TTreeNode_CoreProperties::GetComponentName_3D() const {
+  if (IsOfType_WithinSet(kTypes_Lamination)) return "Lamination";
+  if (IsOfType(rtRotorBar) && IsMachineTypeAmong(kMachineTypes_Bars)) return "Bars";
+  return GetRegionTypeString(fRegionType);
+}
+
+void TTreeNode_CoreProperties::CopyRegionParameters(const TTreeNode_CoreProperties& aRegion, bool aApplyUniqueName) {
+  fColour = aRegion.fColour;
+  fRegionType = aRegion.fRegionType;
+  fRegionType_Mapped = aRegion.fRegionType_Mapped;
+  fRegionName = aRegion.fRegionName;
+  if (aApplyUniqueName) {
+    SetRegionName_Unique();
+  } else {
+    fUniqueName = aRegion.fUniqueName;
+  }
+}
+
+}  // namespace GeometryEngine

@@ -1,0 +1,39 @@
+#include "GeometryEngine/GeometryEngine_Tree_MotorProperties/TTree_CoreProperties.h"
+
+namespace GeometryEngine {
+
+namespace {
+
+std::unique_ptr<TTreeNode_Base> NewNode(TTree_Base& aTree) {
+  return std::make_unique<TTreeNode_CoreProperties>(&aTree);
+}
+
+}  // namespace
+
+TTree_CoreProperties::TTree_CoreProperties() : TTree_CoreProperties(&NewNode) {}
+
+TTree_CoreProperties::TTree_CoreProperties(TNodeFactory aFactory) : TTree_Base(aFactory) {}
+
+TTree_CoreProperties::~TTree_CoreProperties() = default;
+
+TTreeNode_CoreProperties* TTree_CoreProperties::GetNodeFromIndex(TIndex aIndex) const {
+  return TTreeNode_CoreProperties::TypeCast(TTree_Base::GetNodeFromIndex(aIndex));
+}
+
+void TTree_CoreProperties::GetRegionsFromTypeSet(const TGeometryRegionTypesSet& aTypes,
+                                                 TTreeNodeArray_CoreProperties& aRegions) const {
+  for (TIndex index = 0; index < GetCount(); ++index) {
+    TTreeNode_CoreProperties* node = GetNodeFromIndex(index);
+    if (node != nullptr && node->IsOfType_WithinSet(aTypes)) aRegions.push_back(node);
+  }
+}
+
+TTreeNode_CoreProperties* TTree_CoreProperties::GetConductorRegionFromName(std::string_view aConductorName) const {
+  for (TIndex index = 0; index < GetCount(); ++index) {
+    TTreeNode_CoreProperties* node = GetNodeFromIndex(index);
+    if (TTreeNode_CoreProperties::IsOfType(node, rtConductor) && node->RegionName() == aConductorName) return node;
+  }
+  return nullptr;
+}
+
+}  // namespace GeometryEngine
