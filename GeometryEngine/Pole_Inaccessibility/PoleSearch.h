@@ -10,11 +10,11 @@ namespace GeometryEngine {
 
 /// What a pole search needs to know of a region: its chains and those of its children.
 struct TPoleRegion {
-  TEntityStorage* fOutline = nullptr;         ///< its bounds are recomputed
+  TEntityStorage* fOutline = nullptr;  ///< its bounds are recomputed
   const TEntityStorage* fInternal = nullptr;
   std::vector<const TEntityStorage*> fChildOutlines;
   TEntityCoordinate fCentroid;
-  bool fSearchable = false;                   ///< a valid closed region that is no polyline
+  bool fSearchable = false;  ///< a valid closed region that is no polyline
 };
 
 /// One square cell of the search.
