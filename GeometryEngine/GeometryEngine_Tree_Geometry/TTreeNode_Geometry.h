@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 #include "GeometryEngine/DXF_EntityStorage/TEntityStorage.h"
 #include "GeometryEngine/Export.h"
@@ -111,6 +112,9 @@ class GEOMETRYENGINE_API TTreeNode_Geometry : public TTreeNode_CoreProperties {
   static const TTreeNode_Geometry* TypeCast(const TTreeNode_Base* aNode);
 
  private:
+  bool HasInside() const;
+  bool PointInsideChild(const TEntityCoordinate& aPoint, const TGeometryRegionTypesSet& aRegionTypes) const;
+
   TEntityStorage fEntities;
   TEntityStorage fEntities_Internal;
   TEntityCoordinate fCentroid;

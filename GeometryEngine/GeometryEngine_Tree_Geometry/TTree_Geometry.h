@@ -35,6 +35,8 @@ class GEOMETRYENGINE_API TTree_Geometry : public TTree_CoreProperties {
   TEntityArray GetEntities_NoDuplicates(const TGeometryRegionTypesSet& aRegionTypes) const;
 
  private:
+  TTreeNodeArray_Geometry RegionsFrom(TIndex aFirst) const;
+
   double fMin_X = 0;
   double fMax_X = 0;
   double fMin_Y = 0;
