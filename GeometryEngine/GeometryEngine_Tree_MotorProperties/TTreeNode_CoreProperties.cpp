@@ -1,16 +1,10 @@
 #include "GeometryEngine/GeometryEngine_Tree_MotorProperties/TTreeNode_CoreProperties.h"
 
-#include "GeometryEngine/GeometryEngine_Tree_MotorProperties/TTree_CoreProperties.h"
-
 namespace GeometryEngine {
 
 TTreeNode_CoreProperties::TTreeNode_CoreProperties(TTree_Base* aTree) : TTreeNode_Base(aTree) {}
 
 TTreeNode_CoreProperties::~TTreeNode_CoreProperties() = default;
-
-TTree_CoreProperties* TTreeNode_CoreProperties::GetTree() const {
-  return dynamic_cast<TTree_CoreProperties*>(TTreeNode_Base::GetTree());
-}
 
 std::uint32_t TTreeNode_CoreProperties::Colour() const {
   return fColour;

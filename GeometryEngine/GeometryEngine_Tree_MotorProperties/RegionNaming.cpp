@@ -1,4 +1,5 @@
-// The names of a region: given, made unique, and as the exports want them.
+// The names of a region: given, made unique within its tree, and as the exports want them. All that a node asks of its
+// tree stands here, so that TTreeNode_CoreProperties.cpp needs no tree: trees know nodes, and not the other way round.
 
 #include <algorithm>
 #include <array>
@@ -47,6 +48,10 @@ std::string NumberedName(const std::string& aName, std::int32_t aNumber) {
 }
 
 }  // namespace
+
+TTree_CoreProperties* TTreeNode_CoreProperties::GetTree() const {
+  return dynamic_cast<TTree_CoreProperties*>(TTreeNode_Base::GetTree());
+}
 
 void TTreeNode_CoreProperties::SetRegionName(std::string_view aName) {
   fRegionName = aName;
