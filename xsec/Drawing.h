@@ -15,11 +15,11 @@ namespace xsec {
 struct DrawingEntity {
   GeometryEngine::TDXFEntity geometry;
   std::string layer;
-  std::string type;          ///< the type in the file that it was made from: "LINE", "LWPOLYLINE", ...
-  std::string block;         ///< the block it was placed by, empty outside blocks
-  std::string handle;        ///< the file's own handle, empty when it has none
-  std::size_t line = 0;      ///< line of the file where the entity begins, 0 when unknown
-  std::int32_t colour = 256; ///< colour index; 256 = by layer
+  std::string type;           ///< the type in the file that it was made from: "LINE", "LWPOLYLINE", ...
+  std::string block;          ///< the block it was placed by, empty outside blocks
+  std::string handle;         ///< the file's own handle, empty when it has none
+  std::size_t line = 0;       ///< line of the file where the entity begins, 0 when unknown
+  std::int32_t colour = 256;  ///< colour index; 256 = by layer
 };
 
 /// How the drawing's lengths became millimetres.

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "xsec/Drawing.h"
+
+/// From a DXF file to lines and arcs in millimetres.
+///
+/// Read are LINE, ARC, CIRCLE (always as two half circles), LWPOLYLINE and POLYLINE with bulges, ELLIPSE and SPLINE
+/// (flattened), and INSERT with nesting, scaling, mirroring, rotation and arrays. Paper space and every other type is
+/// counted in Drawing::skipped by type, layer and reason. Layers that the file freezes or switches off are read like
+/// any other: an outline does not change because its layer is hidden.
+namespace xsec {
+
+struct ReadOptions {
+  /// Wins over what the file says. Its source is taken as it is; the command line puts "--units" there.
+  std::optional<DrawingUnits> units;
+  /// UNITS: millimetres. The furthest that a flattened curve may lie from its chords. Without a value it is 0.01 mm or
+  /// a thousandth of the curve's own size, whichever is less, so that a drawing in metres that names no unit keeps its
+  /// curves.
+  std::optional<double> flattenTolerance;
+};
+
+/// Reads a file. Throws InputError with file, line and advice when it cannot be read.
+/// The linear tolerance and the snapping mode of the host's settings have no influence: coordinates that two entities
+/// share in the file are the same bits in the result.
+Drawing ReadDrawing(const std::string& aPath, const ReadOptions& aOptions = {});
+
+/// Reads text that is already in memory; aPath is for messages only.
+Drawing ReadDrawingText(std::string_view aText, const std::string& aPath, const ReadOptions& aOptions = {});
+
+}  // namespace xsec
