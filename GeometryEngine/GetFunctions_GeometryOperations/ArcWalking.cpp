@@ -1,0 +1,57 @@
+#include "GeometryEngine/GetFunctions_GeometryOperations/ArcWalking.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "GeometryEngine/GeometryFuncts/detail/CirclePoint.h"
+#include "GeometryEngine/host/Numerics.h"
+
+namespace GeometryEngine {
+
+namespace {
+
+constexpr std::int32_t kLeastChords = 3;
+
+double GetWalkedAngle(std::int32_t aIndex, TTravelDirection aDirection, double aStartAngle, double aStep) {
+  switch (aDirection) {
+    case Travel_AntiClockwise:
+      return aStartAngle + aIndex * aStep;
+    case Travel_Clockwise:
+      return aStartAngle - aIndex * aStep;
+  }
+  return 0;
+}
+
+}  // namespace
+
+double GetEntityStartAngle_Arc(const TEntityCoordinate& aCoordinate, const TDXFEntity& aEntity) {
+  if (aCoordinate == aEntity.StartCoords) return aEntity.startAngle;
+  if (aCoordinate == aEntity.EndCoords) return aEntity.endAngle;
+  return 0;
+}
+
+double GetEntityEndAngle_Arc(const TEntityCoordinate& aCoordinate, const TDXFEntity& aEntity) {
+  if (aCoordinate == aEntity.StartCoords) return aEntity.endAngle;
+  if (aCoordinate == aEntity.EndCoords) return aEntity.startAngle;
+  return 0;
+}
+
+TTravelDirection GetArcTravelDirection(double aAngle, const TDXFEntity& aEntity) {
+  return aAngle == aEntity.startAngle ? Travel_AntiClockwise : Travel_Clockwise;
+}
+
+TArcSegments GetArcSegmentPoints_Surf(const TDXFEntity& aEntity, double aTolerance) {
+  const double sweep = aEntity.ArcSweep();
+  const double chordAngle = std::acos(1 - aTolerance / aEntity.radius) * kDegreesPerRadian;
+  const std::int32_t count =
+      chordAngle == 0 ? kLeastChords : std::max(kLeastChords, ToInteger_Saturated(sweep / chordAngle));
+  return {count, sweep / count};
+}
+
+TEntityCoordinate GetArc_LineSegmentCoord(const TDXFEntity& aEntity, std::int32_t aIndex, TTravelDirection aDirection,
+                                          double aStartAngle, double aStep) {
+  return detail::GetCirclePoint(aEntity.CentreCoords, aEntity.radius,
+                                GetWalkedAngle(aIndex, aDirection, aStartAngle, aStep));
+}
+
+}  // namespace GeometryEngine

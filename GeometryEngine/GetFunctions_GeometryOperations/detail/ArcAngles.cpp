@@ -1,0 +1,11 @@
+#include "GeometryEngine/GetFunctions_GeometryOperations/detail/ArcAngles.h"
+
+#include "GeometryEngine/host/Numerics.h"
+
+namespace GeometryEngine::detail {
+
+TArcAngles GetArcAngles(const TDXFEntity& aArc) {
+  return {GetAngleInRange(aArc.startAngle, 0, 360), GetAngleInRange(aArc.endAngle, 0, 360)};
+}
+
+}  // namespace GeometryEngine::detail
