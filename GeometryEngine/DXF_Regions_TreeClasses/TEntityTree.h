@@ -31,6 +31,8 @@ class GEOMETRYENGINE_API TEntityTree {
   void ResetTravelledFlag(TIndex aIndex);
   TTreeNode* GetNodeFromIndex(TIndex aIndex) const;
   TTreeNode* Item(TIndex aIndex) const;
+  /// The entity that the node refers to; an empty one without storage or outside of it.
+  const TDXFEntity& GetNodeEntity(const TTreeNode& aNode) const;
   TIndex GetCount() const;
   TIndex Count() const;
   TTreeNode* RootNode() const;
@@ -40,6 +42,12 @@ class GEOMETRYENGINE_API TEntityTree {
 
  private:
   friend class TTreeNode;
+  void AttachChild(TTreeNode& aParentNode, TTreeNode& aNode, TIndex aIndex);
+  void HandChildrenTo(TTreeNode& aParentNode, TTreeNode& aNode);
+  void ReleaseSubtree(TTreeNode& aNode);
+  void EmptyChildLists();
+  std::unique_ptr<TTreeNode> TakeDroppedNode();
+
   std::unique_ptr<TTreeNode> fRootNode;
   std::vector<TTreeNode*> fTreeNodes;
   TIndex findex = 0;

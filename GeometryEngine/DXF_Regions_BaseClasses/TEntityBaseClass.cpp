@@ -1,0 +1,78 @@
+#include "GeometryEngine/DXF_Regions_BaseClasses/TEntityBaseClass.h"
+
+#include <cmath>
+
+namespace GeometryEngine {
+
+namespace {
+
+constexpr const char* kTreeName_Coordinates = "Coordinates_SlotPole";
+constexpr const char* kTreeName_Coordinates_Duplicated = "Coordinates_Symmetry";
+constexpr const char* kTreeName_Intercepts = "Intercepts";
+constexpr const char* kTreeName_Regions = "Regions";
+
+TEntityArray GetRegionEntities(const TEntityTree& aRegionTree, const TTreeNode& aRegion) {
+  TEntityArray entities;
+  for (const TTreeNode* child : aRegion.Children()) entities.push_back(aRegionTree.GetNodeEntity(*child));
+  return entities;
+}
+
+}  // namespace
+
+TEntityBaseClass::TEntityBaseClass()
+    : fCoordinateTree(kTreeName_Coordinates),
+      fCoordinateTree_Duplicated(kTreeName_Coordinates_Duplicated),
+      fInterceptTree(kTreeName_Intercepts),
+      fRegionTree(kTreeName_Regions) {}
+
+TEntityBaseClass::~TEntityBaseClass() = default;
+
+TEntityTree& TEntityBaseClass::CoordinateTree() {
+  return fCoordinateTree;
+}
+
+const TEntityTree& TEntityBaseClass::CoordinateTree() const {
+  return fCoordinateTree;
+}
+
+TEntityTree& TEntityBaseClass::CoordinateTree_Duplicated() {
+  return fCoordinateTree_Duplicated;
+}
+
+const TEntityTree& TEntityBaseClass::CoordinateTree_Duplicated() const {
+  return fCoordinateTree_Duplicated;
+}
+
+TEntityTree& TEntityBaseClass::InterceptTree() {
+  return fInterceptTree;
+}
+
+const TEntityTree& TEntityBaseClass::InterceptTree() const {
+  return fInterceptTree;
+}
+
+TEntityTree& TEntityBaseClass::RegionTree() {
+  return fRegionTree;
+}
+
+const TEntityTree& TEntityBaseClass::RegionTree() const {
+  return fRegionTree;
+}
+
+void TEntityBaseClass::AddRegionEntities(TTreeNode_Geometry* aRegion, TIndex aRegionIndex) {
+  const TTreeNode* region = fRegionTree.RootNode()->GetNode(aRegionIndex);
+  if (aRegion == nullptr || region == nullptr) return;
+  const bool closed = aRegion->RegionPolyType() == ptClosed;
+  TEntityStorage& entities = aRegion->Entities();
+  entities.StartCoordinate(region->Coordinates());
+  if (closed) {
+    aRegion->Centroid(region->RegionCentroid());
+    aRegion->RegionArea_Base(std::abs(region->GaussArea()));
+  }
+  const TEntityArray chain = GetRegionEntities(fRegionTree, *region);
+  entities.FreeEntities();
+  entities.AddEntities(chain);
+  if (closed && region->GaussArea() < 0) entities.ReverseEntities();
+}
+
+}  // namespace GeometryEngine

@@ -1,0 +1,174 @@
+#include "GeometryEngine/DXF_Regions_TreeClasses/TTreeNode.h"
+
+#include <string_view>
+
+#include "GeometryEngine/DXF_Regions_TreeClasses/TEntityTree.h"
+
+namespace GeometryEngine {
+
+namespace {
+
+constexpr std::int32_t kRegionIndex_Unidentified = -1;
+
+std::string_view NameOf(const TEntityTree* aTree) {
+  return aTree == nullptr ? std::string_view{} : std::string_view{aTree->Name()};
+}
+
+}  // namespace
+
+TTreeNode::TTreeNode(TEntityTree* aTree) : ftree(aTree) {
+  if (ftree != nullptr) findex = ftree->findex++;
+}
+
+TTreeNode::~TTreeNode() {
+  if (ftree != nullptr) ftree->ReleaseSubtree(*this);
+}
+
+TEntityTree* TTreeNode::tree() const {
+  return ftree;
+}
+
+TTreeNode* TTreeNode::Parent() const {
+  return fParent;
+}
+
+TIndex TTreeNode::AbsoluteIndex() const {
+  return findex;
+}
+
+TIndex TTreeNode::RelativeIndex() const {
+  return frelindex;
+}
+
+std::int32_t TTreeNode::Level() const {
+  return fLevel;
+}
+
+TIndex TTreeNode::GetCount() const {
+  return fNumChildNodes;
+}
+
+TIndex TTreeNode::Count() const {
+  return GetCount();
+}
+
+const std::vector<TTreeNode*>& TTreeNode::Children() const {
+  return fChildren;
+}
+
+TTreeNode* TTreeNode::GetNode(TIndex aIndex) const {
+  return IsIndexWithin(aIndex, fChildren.size()) ? fChildren[static_cast<std::size_t>(aIndex)] : nullptr;
+}
+
+TIndex TTreeNode::EntityIndex() const {
+  return fEntityIndex;
+}
+
+void TTreeNode::EntityIndex(TIndex aEntityIndex) {
+  fEntityIndex = aEntityIndex;
+}
+
+const TEntityCoordinate& TTreeNode::Coordinates() const {
+  return fCoordinates;
+}
+
+void TTreeNode::Coordinates(const TEntityCoordinate& aCoordinates) {
+  fCoordinates = aCoordinates;
+}
+
+double TTreeNode::coordinate_X() const {
+  return fCoordinates.x;
+}
+
+void TTreeNode::coordinate_X(double aX) {
+  fCoordinates.x = aX;
+}
+
+double TTreeNode::coordinate_Y() const {
+  return fCoordinates.y;
+}
+
+void TTreeNode::coordinate_Y(double aY) {
+  fCoordinates.y = aY;
+}
+
+std::int32_t TTreeNode::RegionIndex() const {
+  return fRegionIndex;
+}
+
+void TTreeNode::RegionIndex(std::int32_t aRegionIndex) {
+  fRegionIndex = aRegionIndex;
+}
+
+bool TTreeNode::Travelled() const {
+  return fTravelled;
+}
+
+void TTreeNode::Travelled(bool aTravelled) {
+  fTravelled = aTravelled;
+}
+
+double TTreeNode::GaussArea() const {
+  return fGaussArea;
+}
+
+void TTreeNode::GaussArea(double aGaussArea) {
+  fGaussArea = aGaussArea;
+}
+
+const TEntityCoordinate& TTreeNode::RegionCentroid() const {
+  return fCentroid;
+}
+
+void TTreeNode::RegionCentroid(const TEntityCoordinate& aCentroid) {
+  fCentroid = aCentroid;
+}
+
+TTravelDirection TTreeNode::TravelDirection() const {
+  return fTravelDirection;
+}
+
+void TTreeNode::TravelDirection(TTravelDirection aTravelDirection) {
+  fTravelDirection = aTravelDirection;
+}
+
+const TIntegerArray& TTreeNode::SubRegions() const {
+  return fSubRegionsArray;
+}
+
+TIndex TTreeNode::NumberSubRegions() const {
+  return NumSubRegions();
+}
+
+TIndex TTreeNode::NumSubRegions() const {
+  return ToIndex(fSubRegionsArray.size());
+}
+
+std::int32_t TTreeNode::GetSubRegion(TIndex aIndex) const {
+  return IsIndexWithin(aIndex, fSubRegionsArray.size()) ? fSubRegionsArray[static_cast<std::size_t>(aIndex)]
+                                                        : kNotFound;
+}
+
+void TTreeNode::AddSubRegion(std::int32_t aRegionIndex) {
+  fSubRegionsArray.push_back(aRegionIndex);
+}
+
+void TTreeNode::RemoveSubRegion(std::int32_t aRegionIndex) {
+  RemoveElementFromArray_Integer(fSubRegionsArray, aRegionIndex);
+}
+
+bool TTreeNode::CheckSubRegionIdentified(std::int32_t aRegionIndex) const {
+  return GetIsElementInArray_Integer(fSubRegionsArray, aRegionIndex);
+}
+
+void TTreeNode::ResetRegionIdentifier() {
+  fRegionIndex = kRegionIndex_Unidentified;
+  fSubRegionsArray.clear();
+}
+
+bool TTreeNode::Equal(const TTreeNode* aTreeNode) const {
+  return aTreeNode != nullptr && NameOf(ftree) == NameOf(aTreeNode->ftree) && findex == aTreeNode->findex &&
+         frelindex == aTreeNode->frelindex && fLevel == aTreeNode->fLevel && fEntityIndex == aTreeNode->fEntityIndex;
+}
+
+}  // namespace GeometryEngine
