@@ -11,6 +11,10 @@ namespace {
 
 constexpr std::int32_t kRegionIndex_Root = -2;
 
+std::string_view NameOf(const TEntityTree* aTree) {
+  return aTree == nullptr ? std::string_view{} : std::string_view{aTree->Name()};
+}
+
 std::ptrdiff_t ClampedPosition(TIndex aIndex, std::size_t aCount) {
   return std::clamp<std::ptrdiff_t>(aIndex, 0, static_cast<std::ptrdiff_t>(aCount));
 }
@@ -187,6 +191,21 @@ TEntityStorage* TEntityTree::pEntityStorage() const {
 
 void TEntityTree::pEntityStorage(TEntityStorage* apEntityStorage) {
   fEntityStorage = apEntityStorage;
+}
+
+// What a node asks of its tree. It stands here, so that the node's own source needs to know of no tree.
+
+TTreeNode::TTreeNode(TEntityTree* aTree) : ftree(aTree) {
+  if (ftree != nullptr) findex = ftree->findex++;
+}
+
+TTreeNode::~TTreeNode() {
+  if (ftree != nullptr) ftree->ReleaseSubtree(*this);
+}
+
+bool TTreeNode::Equal(const TTreeNode* aTreeNode) const {
+  return aTreeNode != nullptr && NameOf(ftree) == NameOf(aTreeNode->ftree) && findex == aTreeNode->findex &&
+         frelindex == aTreeNode->frelindex && fLevel == aTreeNode->fLevel && fEntityIndex == aTreeNode->fEntityIndex;
 }
 
 }  // namespace GeometryEngine

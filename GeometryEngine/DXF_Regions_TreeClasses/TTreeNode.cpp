@@ -1,28 +1,12 @@
 #include "GeometryEngine/DXF_Regions_TreeClasses/TTreeNode.h"
 
-#include <string_view>
-
-#include "GeometryEngine/DXF_Regions_TreeClasses/TEntityTree.h"
-
 namespace GeometryEngine {
 
 namespace {
 
 constexpr std::int32_t kRegionIndex_Unidentified = -1;
 
-std::string_view NameOf(const TEntityTree* aTree) {
-  return aTree == nullptr ? std::string_view{} : std::string_view{aTree->Name()};
-}
-
 }  // namespace
-
-TTreeNode::TTreeNode(TEntityTree* aTree) : ftree(aTree) {
-  if (ftree != nullptr) findex = ftree->findex++;
-}
-
-TTreeNode::~TTreeNode() {
-  if (ftree != nullptr) ftree->ReleaseSubtree(*this);
-}
 
 TEntityTree* TTreeNode::tree() const {
   return ftree;
@@ -164,11 +148,6 @@ bool TTreeNode::CheckSubRegionIdentified(std::int32_t aRegionIndex) const {
 void TTreeNode::ResetRegionIdentifier() {
   fRegionIndex = kRegionIndex_Unidentified;
   fSubRegionsArray.clear();
-}
-
-bool TTreeNode::Equal(const TTreeNode* aTreeNode) const {
-  return aTreeNode != nullptr && NameOf(ftree) == NameOf(aTreeNode->ftree) && findex == aTreeNode->findex &&
-         frelindex == aTreeNode->frelindex && fLevel == aTreeNode->fLevel && fEntityIndex == aTreeNode->fEntityIndex;
 }
 
 }  // namespace GeometryEngine
