@@ -1,0 +1,81 @@
+#include "xsec/Settings.h"
+
+#include <fmt/format.h>
+
+#include <charconv>
+#include <cmath>
+#include <map>
+
+#include "GeometryEngine/host/TDataStore.h"
+#include "GeometryEngine/host/TInputData.h"
+#include "xsec/Errors.h"
+
+namespace xsec {
+
+namespace {
+
+using Maindataenum::TInputFields;
+using enum Maindataenum::TInputFields;
+
+constexpr double kTolerancePerDiagonal = 1e-6;
+constexpr double kToleranceWithoutSize = 1e-4;  // millimetres
+
+constexpr TInputFields kFieldsOfTheLibrary[] = {
+    ifSlotDuplications, ifPoleDuplications, ifBarDuplications, ifLinearTolerance,   ifSnappingMode,
+    ifAngleTolerance,   ifMinimumLabelArea, ifArcResolution,   ifUniqueRegionNames,
+};
+
+/// The number that all of `text` spells, if it does.
+template <typename Number>
+std::optional<Number> WholeNumber(std::string_view text) {
+  Number number{};
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
+  return number;
+}
+
+std::vector<FieldValue> FieldsInUse(const std::vector<FieldValue>& requested) {
+  std::map<std::uint16_t, double> values;
+  const auto take = [&](std::uint16_t field) {
+    values[field] = Kelvaralinks::dataStore.GetValue(static_cast<TInputFields>(field));
+  };
+  for (const TInputFields field : kFieldsOfTheLibrary) take(static_cast<std::uint16_t>(field));
+  for (const FieldValue& asked : requested) take(asked.field);
+  std::vector<FieldValue> fields;
+  for (const auto& [field, value] : values) fields.push_back({field, value});
+  return fields;
+}
+
+}  // namespace
+
+double DefaultTolerance(const Extents& aExtents) {
+  const double diagonal = std::hypot(aExtents.maxX - aExtents.minX, aExtents.maxY - aExtents.minY);
+  if (std::isfinite(diagonal) && diagonal > 0) return kTolerancePerDiagonal * diagonal;
+  return kToleranceWithoutSize;
+}
+
+FieldValue ParseFieldValue(std::string_view aText) {
+  const std::size_t equals = aText.find('=');
+  if (equals != std::string_view::npos) {
+    const auto field = WholeNumber<std::uint16_t>(aText.substr(0, equals));
+    const auto value = WholeNumber<double>(aText.substr(equals + 1));
+    if (field && value && std::isfinite(*value)) return {*field, *value};
+  }
+  throw UsageError(
+      fmt::format("--setting {}: expected FIELD=VALUE, a field number from 0 to 65535 and a number", aText));
+}
+
+Settings ApplySettings(const SettingsRequest& aRequest, const Extents& aExtents) {
+  auto& store = Kelvaralinks::dataStore;
+  store.Reset();
+  store.SetValue(ifLinearTolerance, aRequest.tolerance.value_or(DefaultTolerance(aExtents)));
+  bool given = aRequest.tolerance.has_value();
+  for (const FieldValue& asked : aRequest.fields) {
+    store.SetValue(static_cast<TInputFields>(asked.field), asked.value);
+    given = given || static_cast<TInputFields>(asked.field) == ifLinearTolerance;
+  }
+  Kelvaralinks::InputData.MachineType = aRequest.machineType;
+  return {store.GetValue(ifLinearTolerance), given, FieldsInUse(aRequest.fields), aRequest.machineType};
+}
+
+}  // namespace xsec

@@ -1,0 +1,46 @@
+#pragma once
+
+// The settings of a run: what the user asked for, and what the library was given. The library reads its settings from
+// the host's store and input-data record at every use, so they are applied once, before the first call.
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "xsec/Drawing.h"
+
+namespace xsec {
+
+/// One input field of the host's store by its number.
+struct FieldValue {
+  std::uint16_t field = 0;
+  double value = 0;
+};
+
+/// What the command line asks for.
+struct SettingsRequest {
+  std::optional<double> tolerance;  ///< UNITS: millimetres
+  std::vector<FieldValue> fields;   ///< in the order given; the last one of a field counts
+  std::uint8_t machineType = 0;
+};
+
+/// What a run uses.
+struct Settings {
+  double tolerance = 0;            ///< UNITS: millimetres
+  bool toleranceGiven = false;     ///< false: it was taken from the size of the drawing
+  std::vector<FieldValue> fields;  ///< every field that the library reads and every one that was asked for, ascending
+  std::uint8_t machineType = 0;
+};
+
+/// The linear tolerance for a drawing of this size: a millionth of its diagonal.
+/// DEGENERATE: 1e-4 mm for a drawing without size.
+double DefaultTolerance(const Extents& aExtents);
+
+/// FIELD=VALUE as the command line spells it. Throws UsageError for anything else.
+FieldValue ParseFieldValue(std::string_view aText);
+
+/// Puts the host's store and input-data record to their starting values, then sets what the request says.
+Settings ApplySettings(const SettingsRequest& aRequest, const Extents& aExtents);
+
+}  // namespace xsec
