@@ -45,6 +45,7 @@ LAYERS = [
     ]),
     ("arrays and chains", [
         "DXF_EntityStorage/TEntityStorage*",
+        "DXF_EntityStorage/detail/*",
         "DXF_Regions_Utilities/SectionBoundaries",
         "GeometryEngine_Arrays/*",
     ]),
