@@ -7,7 +7,6 @@ namespace GeometryEngine {
 
 namespace {
 
-constexpr std::int32_t kRegionIndex_Unidentified = -1;
 constexpr std::int32_t kRegionType_All = 0;
 constexpr std::int32_t kRegionType_AntiClockwise = 1;
 constexpr std::int32_t kRegionType_Clockwise = 2;
@@ -83,7 +82,7 @@ void TEntityBaseClass::AddRegionCoordinates(const TEntityTree& aCoordinateTree,
   if (aNodeIndexes.empty()) return;
   TTreeNode* region = fRegionTree.AddTreeNode_ToRoot();
   region->Coordinates(aStart);
-  region->RegionIndex(kRegionIndex_Unidentified);
+  region->ResetRegionIdentifier();
   region->GaussArea(aArea);
   region->RegionCentroid(aCentroid);
   region->TravelDirection(aArea >= 0 ? Travel_AntiClockwise : Travel_Clockwise);
