@@ -32,6 +32,7 @@ LAYERS = [
     ("one or two entities", [
         "DXF_EntityStorage/AngularDuplication",
         "DXF_EntityStorage/EntityEnds",
+        "DXF_EntityStorage/detail/IsEntityEnd",
         "DXF_Regions_Utilities/DuplicationNumber",
         "DXF_Regions_Utilities/EntityTerms",
         "DXF_Regions_Utilities/RegionPoints",
@@ -45,7 +46,8 @@ LAYERS = [
     ]),
     ("arrays and chains", [
         "DXF_EntityStorage/TEntityStorage*",
-        "DXF_EntityStorage/detail/*",
+        "DXF_EntityStorage/detail/LomutoSort",
+        "DXF_EntityStorage/detail/VertexWalk",
         "DXF_Regions_Utilities/SectionBoundaries",
         "GeometryEngine_Arrays/*",
     ]),

@@ -1,0 +1,145 @@
+"""The checks in tools/ see the faults that they are there for. Each test lays out a small tree with one fault."""
+
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+
+TOOLS = pathlib.Path(__file__).resolve().parents[2] / "tools"
+
+ENGINE = "GeometryEngine/"
+GOOD = {
+    ENGINE + "GeometryEngine.h": ("Export.h", "host/TIndex.h", "DXF_Entity_Types/Tolerances.h",
+                                  "GeometryFuncts/Rotation.h"),
+    ENGINE + "host/TIndex.h": (),
+    ENGINE + "DXF_Entity_Types/Tolerances.h": ("Export.h", "host/TIndex.h"),
+    ENGINE + "DXF_Entity_Types/Tolerances.cpp": ("DXF_Entity_Types/Tolerances.h",),
+    ENGINE + "GeometryFuncts/Rotation.h": ("DXF_Entity_Types/Tolerances.h",),
+    ENGINE + "GeometryFuncts/Rotation.cpp": ("GeometryFuncts/Rotation.h",),
+}
+
+
+class Tree(unittest.TestCase):
+    def setUp(self):
+        self.root = pathlib.Path(tempfile.mkdtemp())
+        self.addCleanup(shutil.rmtree, self.root)
+        for path, names in GOOD.items():
+            self.write(path, names)
+
+    def write(self, path, names=(), text=""):
+        """A source with a guard, includes of the library by their short names, and more text."""
+        file = self.root / path
+        file.parent.mkdir(parents=True, exist_ok=True)
+        guard = "#pragma once\n" if path.endswith(".h") else ""
+        file.write_text(guard + "".join(f'#include "{ENGINE}{name}"\n' for name in names) + text)
+
+    def run_tool(self, name, *arguments):
+        """Runs a copy of the tool that stands in the small tree; gives its exit code and what it printed."""
+        (self.root / "tools").mkdir(exist_ok=True)
+        shutil.copy(TOOLS / name, self.root / "tools")
+        done = subprocess.run([sys.executable, self.root / "tools" / name, *arguments], capture_output=True, text=True)
+        return done.returncode, done.stdout + done.stderr
+
+    def assert_fault(self, tool, words, *arguments):
+        code, text = self.run_tool(tool, *arguments)
+        self.assertEqual(code, 1, text)
+        self.assertIn(words, text)
+
+
+class CheckLayers(Tree):
+    def test_a_good_tree_passes(self):
+        code, text = self.run_tool("check_layers.py")
+        self.assertEqual(code, 0, text)
+
+    def test_an_include_upwards_is_a_fault(self):
+        self.write(ENGINE + "DXF_Entity_Types/Tolerances.cpp", ["GeometryFuncts/Rotation.h"])
+        self.assert_fault("check_layers.py", "(layer 1) includes GeometryEngine/GeometryFuncts/Rotation.h (layer 2)")
+
+    def test_a_circle_of_files_is_a_fault(self):
+        self.write(ENGINE + "host/TIndex.h", ["host/Numerics.h"])
+        self.write(ENGINE + "host/Numerics.h", ["host/TIndex.h"])
+        self.assert_fault("check_layers.py", "circle of includes: ")
+
+    def test_a_circle_of_headers_with_their_sources_is_a_fault(self):
+        self.write(ENGINE + "GeometryFuncts/AxialBlocks.h")
+        self.write(ENGINE + "GeometryFuncts/AxialBlocks_More.cpp", ["GeometryFuncts/Rotation.h"])
+        self.write(ENGINE + "GeometryFuncts/Rotation.cpp", ["GeometryFuncts/AxialBlocks.h"])
+        self.assert_fault("check_layers.py", "circle of headers and sources: ")
+
+    def test_a_file_without_a_layer_is_a_fault(self):
+        self.write(ENGINE + "Elsewhere/Thing.cpp")
+        self.assert_fault("check_layers.py", "Elsewhere/Thing.cpp: in 0 layers")
+
+    def test_a_public_header_that_the_big_one_leaves_out_is_a_fault(self):
+        self.write(ENGINE + "host/Numerics.h")
+        self.assert_fault("check_layers.py", "does not list GeometryEngine/host/Numerics.h")
+
+    def test_the_library_using_the_big_header_is_a_fault(self):
+        self.write(ENGINE + "GeometryFuncts/Rotation.cpp", ["GeometryEngine.h"])
+        self.assert_fault("check_layers.py", "is for hosts")
+
+    def test_a_header_from_elsewhere_is_a_fault(self):
+        self.write(ENGINE + "GeometryFuncts/Rotation.cpp", text="#include <unistd.h>\n")
+        self.assert_fault("check_layers.py", "<unistd.h> is no header of the C++ standard library")
+
+    def test_the_library_including_tests_is_a_fault(self):
+        self.write(ENGINE + "GeometryFuncts/Rotation.cpp", text='#include "tests/support/Geometry.h"\n')
+        self.assert_fault("check_layers.py", "is no file of the library")
+
+    def test_a_host_program_including_private_headers_is_a_fault(self):
+        self.write("xsec/main.cpp", ["GeometryFuncts/detail/Secret.h"])
+        self.assert_fault("check_layers.py", "is private to the library")
+
+
+class CheckSources(Tree):
+    KEPT = "// KEPT: an answer that callers rely on\n"
+
+    def test_a_good_tree_passes(self):
+        self.write(ENGINE + "host/Numerics.cpp", text=self.KEPT)
+        self.write("tests/host/NumericsTest.cpp", text="TEST(Numerics, AnswersAsEverKept) {}\n")
+        code, text = self.run_tool("check_sources.py")
+        self.assertEqual(code, 0, text)
+        self.assertIn("1 KEPT: comments, 1 tests", text)
+
+    def test_a_kept_oddity_without_a_test_is_a_fault(self):
+        self.write(ENGINE + "host/Numerics.cpp", text=self.KEPT)
+        self.write("tests/host/NumericsTest.cpp", text="TEST(Numerics, AnswersAsEver) {}\n")
+        self.assert_fault("check_sources.py", "host: 1 KEPT: comments, but 0 tests")
+
+    def test_a_long_source_is_a_fault(self):
+        self.write(ENGINE + "host/Numerics.cpp", text="\n" * 401)
+        self.assert_fault("check_sources.py", "401 lines, 400 is the most")
+
+    def test_a_header_without_a_guard_is_a_fault(self):
+        (self.root / ENGINE / "host/Numerics.h").write_text("int f();\n")
+        self.assert_fault("check_sources.py", "no #pragma once")
+
+
+class CheckExports(Tree):
+    def library(self, text):
+        source, library = self.root / "library.cpp", self.root / "library.so"
+        source.write_text(text)
+        subprocess.run(["c++", "-shared", "-fPIC", source, "-o", library], check=True)
+        return str(library)
+
+    def test_own_names_pass(self):
+        code, text = self.run_tool("check_exports.py", self.library(
+            "namespace GeometryEngine { struct A { virtual ~A(); }; A::~A() {} int f() { return 1; } }"))
+        self.assertEqual(code, 0, text)
+
+    def test_a_name_from_elsewhere_is_a_fault(self):
+        self.assert_fault("check_exports.py", "none of ours: helper(int)", self.library(
+            "namespace GeometryEngine { int f() { return 1; } } int helper(int x) { return x; }"))
+
+    def test_a_private_name_is_a_fault(self):
+        self.assert_fault("check_exports.py", "none of ours: GeometryEngine::detail::f()", self.library(
+            "namespace GeometryEngine { int f() { return 1; } namespace detail { int f() { return 1; } } }"))
+
+    def test_nothing_exported_is_a_fault(self):
+        self.assert_fault("check_exports.py", "nothing is exported at all", self.library("static int a;"))
+
+
+if __name__ == "__main__":
+    unittest.main()
