@@ -30,6 +30,9 @@ function(geometryengine_add_library target host_root)
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
   target_compile_definitions(${target} PRIVATE GeometryEngine_EXPORTS)
   target_link_options(${target} PRIVATE LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
+  if(NOT GEOMETRYENGINE_SANITIZE)  # whose runtime is in the program, not in the library
+    target_link_options(${target} PRIVATE LINKER:--no-undefined)
+  endif()
   set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
 endfunction()
 
