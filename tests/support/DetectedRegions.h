@@ -1,0 +1,25 @@
+#pragma once
+
+// A host's whole detection request in one call, for tests that compare what comes out of it.
+
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+#include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
+
+namespace test_support {
+
+struct DetectedRegion {
+  double baseArea = 0;
+  double netArea = 0;
+  GeometryEngine::TEntityCoordinate centroid;
+  GeometryEngine::TEntityCoordinate label;
+  std::size_t entities = 0;
+  std::optional<std::size_t> parent;  ///< position in the same list
+};
+
+/// The bounded faces of a drawing, nested, with net areas and label points.
+std::vector<DetectedRegion> DetectRegions(const GeometryEngine::TEntityArray& aEntities);
+
+}  // namespace test_support
