@@ -9,27 +9,35 @@
 #include <map>
 #include <random>
 
-#include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
 #include "GeometryEngine/GeometryCreation_Drawing/EntityConstruction.h"
 #include "tests/reference/PolygonFaces.h"
 #include "tests/support/DetectedRegions.h"
-#include "tests/support/Geometry.h"
+#include "tests/support/Settings.h"
 
+namespace GeometryEngine {
 namespace {
 
-using namespace GeometryEngine;
 using reference::PolygonFace;
-using test_support::DetectedRegion;
+using support::DetectedRegion;
 
-constexpr double kSize = 1000;         // side of the square that a drawing fills
-constexpr double kChordError = 1e-4;   // of the polygons that stand for arcs
-constexpr double kLeastArea = 1.0;     // regions below it may exist on one side only, where an arc all but touches
+constexpr double kSize = 1000;        // side of the square that a drawing fills
+constexpr double kChordError = 1e-4;  // of the polygons that stand for arcs
+constexpr double kLeastArea = 1.0;    // regions below it may exist on one side only, where an arc all but touches
+
+/// The label search stops at a precision of 1; in a region much thinner than that it may answer a point outside.
+constexpr double kLeastThickness = 0.5;
+
+bool IsThin(double aArea, double aPerimeter) {
+  return 2 * aArea < kLeastThickness * aPerimeter;
+}
 
 /// Numbers that are the same on every machine (the distributions of the standard library are not).
 class Random {
  public:
   explicit Random(std::uint32_t aSeed) : fEngine(aSeed) {}
-  double Between(double aLow, double aHigh) { return aLow + (aHigh - aLow) * (fEngine() / 4294967296.0); }
+  double Between(double aLow, double aHigh) {
+    return aLow + (aHigh - aLow) * (static_cast<double>(fEngine()) / 4294967296.0);
+  }
   bool Chance(double aProbability) { return Between(0, 1) < aProbability; }
 
  private:
@@ -63,17 +71,29 @@ TEntityArray CrossingLinesAndArcs(Random& aRandom) {
   return entities;
 }
 
+/// A corner of a regular polygon; the same bits whenever it is asked for, so that loops close for the polygons too.
+TEntityCoordinate Corner(const TEntityCoordinate& aCentre, double aRadius, double aTurn, int aCorner, int aSides) {
+  const double angle = (aTurn + 360.0 * (aCorner % aSides) / aSides) * M_PI / 180;
+  return {aCentre.x + aRadius * std::cos(angle), aCentre.y + aRadius * std::sin(angle)};
+}
+
 void AddCircle(TEntityArray& aEntities, const TEntityCoordinate& aCentre, double aRadius, double aTurn) {
-  aEntities.push_back(CreateEntity_Arc(aCentre.x, aCentre.y, aRadius, aTurn, aTurn + 180));
-  aEntities.push_back(CreateEntity_Arc(aCentre.x, aCentre.y, aRadius, aTurn + 180, aTurn + 360));
+  const TEntityCoordinate a = Corner(aCentre, aRadius, aTurn, 0, 2);
+  const TEntityCoordinate b = Corner(aCentre, aRadius, aTurn, 1, 2);
+  aEntities.push_back(CreateEntity_Arc_StartEnd(aCentre.x, aCentre.y, a.x, a.y, b.x, b.y));
+  aEntities.push_back(CreateEntity_Arc_StartEnd(aCentre.x, aCentre.y, b.x, b.y, a.x, a.y));
 }
 
 void AddPolygon(TEntityArray& aEntities, const TEntityCoordinate& aCentre, double aRadius, double aTurn, int aSides) {
-  const auto corner = [&](int i) {
-    const double angle = (aTurn + 360.0 * (i % aSides) / aSides) * M_PI / 180;
-    return TEntityCoordinate{aCentre.x + aRadius * std::cos(angle), aCentre.y + aRadius * std::sin(angle)};
-  };
-  for (int i = 0; i < aSides; ++i) aEntities.push_back(CreateEntity_Line(corner(i), corner(i + 1)));
+  for (int i = 0; i < aSides; ++i) {
+    aEntities.push_back(
+        CreateEntity_Line(Corner(aCentre, aRadius, aTurn, i, aSides), Corner(aCentre, aRadius, aTurn, i + 1, aSides)));
+  }
+}
+
+void AddSquareInTwoHalves(TEntityArray& aEntities, const TEntityCoordinate& aCentre, double aRadius, double aTurn) {
+  AddPolygon(aEntities, aCentre, aRadius, aTurn, 4);
+  aEntities.push_back(CreateEntity_Line(Corner(aCentre, aRadius, aTurn, 0, 4), Corner(aCentre, aRadius, aTurn, 2, 4)));
 }
 
 /// Loops within loops, some of them cut in two by a line, laid out on a grid so that only nesting relates them.
@@ -92,10 +112,7 @@ TEntityArray NestedLoops(Random& aRandom) {
         radius *= 0.5;
       }
       if (aRandom.Chance(0.3)) {
-        AddPolygon(entities, centre, radius * 0.8, turn, 4);
-        const double angle = turn * M_PI / 180;
-        const TEntityCoordinate arm = radius * 0.8 * TEntityCoordinate{std::cos(angle), std::sin(angle)};
-        entities.push_back(CreateEntity_Line(centre - arm, centre + arm));
+        AddSquareInTwoHalves(entities, centre, radius * 0.8, turn);
         radius = 0;
       }
       radius *= aRandom.Between(0.5, 0.9);
@@ -117,6 +134,7 @@ std::map<std::size_t, std::size_t> MatchByLabel(const std::vector<DetectedRegion
   for (std::size_t i = 0; i < aRegions.size(); ++i) {
     if (aRegions[i].netArea < kLeastArea) continue;
     const auto face = reference::FaceAt(aFaces, aRegions[i].label);
+    if (!face && IsThin(aRegions[i].baseArea, aRegions[i].perimeter)) continue;
     EXPECT_TRUE(face.has_value()) << "region " << i << " of area " << aRegions[i].netArea << ": label ("
                                   << aRegions[i].label.x << ", " << aRegions[i].label.y << ") lies in no face";
     if (face) faceOf[i] = *face;
@@ -125,7 +143,7 @@ std::map<std::size_t, std::size_t> MatchByLabel(const std::vector<DetectedRegion
 }
 
 void ExpectSameRegions(const TEntityArray& aEntities) {
-  const std::vector<DetectedRegion> regions = test_support::DetectRegions(aEntities);
+  const std::vector<DetectedRegion> regions = support::DetectRegions(aEntities);
   const std::vector<PolygonFace> faces = reference::PolygonFaces(aEntities, kChordError);
   const auto faceOf = MatchByLabel(regions, faces);
 
@@ -135,11 +153,12 @@ void ExpectSameRegions(const TEntityArray& aEntities) {
     EXPECT_NEAR(regions[region].netArea, faces[face].netArea, faces[face].perimeter * kChordError + 1e-6)
         << "region " << region << " at (" << regions[region].label.x << ", " << regions[region].label.y << ")";
     const auto parent = regions[region].parent;
-    const std::optional<std::size_t> parentFace = parent ? std::optional(faceOf.at(*parent)) : std::nullopt;
+    const auto parentFace = parent && faceOf.contains(*parent) ? std::optional(faceOf.at(*parent)) : std::nullopt;
     EXPECT_EQ(parentFace, faces[face].parent) << "parent of region " << region;
   }
   for (std::size_t face = 0; face < faces.size(); ++face) {
-    if (faces[face].netArea >= kLeastArea) EXPECT_EQ(found[face], 1) << "face of area " << faces[face].netArea;
+    if (faces[face].netArea < kLeastArea || IsThin(faces[face].netArea, faces[face].perimeter)) continue;
+    EXPECT_EQ(found[face], 1) << "face of area " << faces[face].netArea;
   }
 }
 
@@ -148,12 +167,14 @@ struct Kind {
   TEntityArray (*draw)(Random&);
 };
 
-void PrintTo(const Kind& aKind, std::ostream* aStream) { *aStream << aKind.name; }
+void PrintTo(const Kind& aKind, std::ostream* aStream) {
+  *aStream << aKind.name;
+}
 
 class RandomDrawing : public testing::TestWithParam<std::tuple<Kind, std::uint32_t>> {};
 
 TEST_P(RandomDrawing, HasTheNetAreasAndParentsOfThePolygons) {
-  const test_support::TSettingsGuard settings;
+  const support::TSettingsGuard settings;
   const auto& [kind, seed] = GetParam();
   Random random(seed);
   TEntityArray entities = kind.draw(random);
@@ -165,10 +186,11 @@ INSTANTIATE_TEST_SUITE_P(Drawings, RandomDrawing,
                          testing::Combine(testing::Values(Kind{"Lines", CrossingLines},
                                                           Kind{"LinesAndArcs", CrossingLinesAndArcs},
                                                           Kind{"NestedLoops", NestedLoops}),
-                                          testing::Range(1U, 21U)),
+                                          testing::Range(1U, 101U)),
                          [](const auto& aInfo) {
                            return std::string(std::get<0>(aInfo.param).name) + "Seed" +
                                   std::to_string(std::get<1>(aInfo.param));
                          });
 
 }  // namespace
+}  // namespace GeometryEngine

@@ -4,18 +4,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdarg>
 #include <limits>
 #include <memory>
 #include <numbers>
 #include <stdexcept>
 
-namespace reference {
-
-using GeometryEngine::TCoordinateArray;
-using GeometryEngine::TDXFEntity;
-using GeometryEngine::TEntityArray;
-using GeometryEngine::TEntityCoordinate;
+namespace GeometryEngine::reference {
 
 namespace {
 
@@ -41,7 +35,7 @@ Geometry Own(const Kernel& aKernel, GEOSGeometry* aGeometry) {
 /// The chords of an entity: its own end points, and points on the circle between them.
 TCoordinateArray Chords(const TDXFEntity& aEntity, double aChordError) {
   TCoordinateArray points{aEntity.StartCoords};
-  if (aEntity.EntityType == GeometryEngine::DXFArc) {
+  if (aEntity.EntityType == DXFArc) {
     const double start = aEntity.startAngle * std::numbers::pi / 180;
     double sweep = std::fmod(aEntity.endAngle - aEntity.startAngle, 360.0);
     if (sweep < 0) sweep += 360;
@@ -59,8 +53,7 @@ TCoordinateArray Chords(const TDXFEntity& aEntity, double aChordError) {
 }
 
 GEOSGeometry* LineString(const Kernel& aKernel, const TCoordinateArray& aPoints) {
-  GEOSCoordSequence* sequence =
-      GEOSCoordSeq_create_r(aKernel.handle, static_cast<unsigned>(aPoints.size()), 2);
+  GEOSCoordSequence* sequence = GEOSCoordSeq_create_r(aKernel.handle, static_cast<unsigned>(aPoints.size()), 2);
   for (unsigned i = 0; i < aPoints.size(); ++i) {
     GEOSCoordSeq_setXY_r(aKernel.handle, sequence, i, aPoints[i].x, aPoints[i].y);
   }
@@ -107,9 +100,8 @@ bool InRing(const TCoordinateArray& aRing, const TEntityCoordinate& aPoint) {
 }
 
 bool InFace(const PolygonFace& aFace, const TEntityCoordinate& aPoint) {
-  return InRing(aFace.outer, aPoint) && std::none_of(aFace.holes.begin(), aFace.holes.end(), [&](const auto& aHole) {
-           return InRing(aHole, aPoint);
-         });
+  return InRing(aFace.outer, aPoint) &&
+         std::none_of(aFace.holes.begin(), aFace.holes.end(), [&](const auto& aHole) { return InRing(aHole, aPoint); });
 }
 
 PolygonFace Face(const Kernel& aKernel, const GEOSGeometry* aPolygon) {
@@ -135,12 +127,19 @@ TEntityCoordinate PointIn(const Kernel& aKernel, const GEOSGeometry* aPolygon) {
   return coordinate;
 }
 
+/// A hole that touches the outer ring parts no group of faces from it: they hang together at a vertex.
+bool Touches(const TCoordinateArray& aHole, const TCoordinateArray& aOuter) {
+  return std::any_of(aHole.begin(), aHole.end(), [&](const TEntityCoordinate& a) {
+    return std::any_of(aOuter.begin(), aOuter.end(), [&](const auto& b) { return a.x == b.x && a.y == b.y; });
+  });
+}
+
 std::optional<std::size_t> ParentOf(const std::vector<PolygonFace>& aFaces, const TEntityCoordinate& aPoint) {
   std::optional<std::size_t> parent;
   double smallest = std::numeric_limits<double>::infinity();
   for (std::size_t i = 0; i < aFaces.size(); ++i) {
     for (const TCoordinateArray& hole : aFaces[i].holes) {
-      if (!InRing(hole, aPoint) || EnclosedArea(hole) >= smallest) continue;
+      if (!InRing(hole, aPoint) || EnclosedArea(hole) >= smallest || Touches(hole, aFaces[i].outer)) continue;
       smallest = EnclosedArea(hole);
       parent = i;
     }
@@ -179,4 +178,4 @@ std::optional<std::size_t> FaceAt(const std::vector<PolygonFace>& aFaces, const 
   return std::nullopt;
 }
 
-}  // namespace reference
+}  // namespace GeometryEngine::reference

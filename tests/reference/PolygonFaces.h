@@ -9,21 +9,20 @@
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 
-namespace reference {
+namespace GeometryEngine::reference {
 
 struct PolygonFace {
-  GeometryEngine::TCoordinateArray outer;
-  std::vector<GeometryEngine::TCoordinateArray> holes;
-  double netArea = 0;    ///< area inside the outer ring less the holes
-  double perimeter = 0;  ///< of the outer ring and the holes
-  std::optional<std::size_t> parent;  ///< the face in one of whose holes this face lies
+  TCoordinateArray outer;
+  std::vector<TCoordinateArray> holes;
+  double netArea = 0;                 ///< area inside the outer ring less the holes
+  double perimeter = 0;               ///< of the outer ring and the holes
+  std::optional<std::size_t> parent;  ///< the face in one of whose holes this face lies, clear of its outer ring
 };
 
 /// All bounded faces; arcs stray from their chords by at most `aChordError`.
-std::vector<PolygonFace> PolygonFaces(const GeometryEngine::TEntityArray& aEntities, double aChordError);
+std::vector<PolygonFace> PolygonFaces(const TEntityArray& aEntities, double aChordError);
 
 /// The face that holds the point; nothing when none does.
-std::optional<std::size_t> FaceAt(const std::vector<PolygonFace>& aFaces,
-                                  const GeometryEngine::TEntityCoordinate& aPoint);
+std::optional<std::size_t> FaceAt(const std::vector<PolygonFace>& aFaces, const TEntityCoordinate& aPoint);
 
-}  // namespace reference
+}  // namespace GeometryEngine::reference

@@ -4,9 +4,7 @@
 
 #include "GeometryEngine/GeometryEngine.h"
 
-namespace test_support {
-
-using namespace GeometryEngine;
+namespace GeometryEngine::support {
 
 namespace {
 
@@ -35,6 +33,7 @@ DetectedRegion Describe(const TTreeNode_Geometry& aNode) {
   region.centroid = aNode.Centroid();
   region.label = aNode.RegionCoordinate();
   region.entities = static_cast<std::size_t>(aNode.NumberEntities());
+  for (const TDXFEntity& entity : aNode.Entities().EntityArray()) region.perimeter += entity.EntityLength();
   return region;
 }
 
@@ -64,4 +63,4 @@ std::vector<DetectedRegion> DetectRegions(const TEntityArray& aEntities) {
   return regions;
 }
 
-}  // namespace test_support
+}  // namespace GeometryEngine::support

@@ -8,18 +8,19 @@
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 
-namespace test_support {
+namespace GeometryEngine::support {
 
 struct DetectedRegion {
   double baseArea = 0;
   double netArea = 0;
-  GeometryEngine::TEntityCoordinate centroid;
-  GeometryEngine::TEntityCoordinate label;
+  TEntityCoordinate centroid;
+  TEntityCoordinate label;
   std::size_t entities = 0;
+  double perimeter = 0;               ///< of the outline
   std::optional<std::size_t> parent;  ///< position in the same list
 };
 
 /// The bounded faces of a drawing, nested, with net areas and label points.
-std::vector<DetectedRegion> DetectRegions(const GeometryEngine::TEntityArray& aEntities);
+std::vector<DetectedRegion> DetectRegions(const TEntityArray& aEntities);
 
-}  // namespace test_support
+}  // namespace GeometryEngine::support
