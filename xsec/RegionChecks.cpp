@@ -1,0 +1,151 @@
+#include "xsec/RegionChecks.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "xsec/InnerPoint.h"
+#include "xsec/PieceGraph.h"
+
+namespace xsec {
+
+namespace {
+
+using GeometryEngine::TEntityTree;
+
+constexpr std::size_t kHeightsForLabel = 31;
+/// A label keeps this part of a region's area over its boundary, which is half the width of a long region.
+constexpr double kClearancePerHalfWidth = 0.1;
+constexpr double kAreaAgreement = 1e-6;  // of the larger of two areas
+
+std::size_t IdOf(std::size_t region) {
+  return region + 1;
+}
+
+std::string NameOfPlace(std::size_t region) {
+  return region == kNone ? "no other region" : fmt::format("region {}", IdOf(region));
+}
+
+/// For each loop of the region tree the face whose list of sub-regions it stands in.
+std::vector<std::size_t> ClaimedParents(const TEntityTree& regionTree, std::span<const TracedLoop> faces) {
+  std::vector<std::size_t> claimed(regionTree.RootNode()->Children().size(), kNone);
+  for (std::size_t face = 0; face < faces.size(); ++face) {
+    const auto* node = regionTree.RootNode()->GetNode(GeometryEngine::ToIndex(faces[face].index));
+    for (const std::int32_t inner : node->SubRegions()) claimed[static_cast<std::size_t>(inner)] = face;
+  }
+  return claimed;
+}
+
+RegionSpace SpaceOf(const Region& region, const std::vector<Region>& regions) {
+  RegionSpace space{&region.outline, {}};
+  for (const Loop& hole : region.holes) space.holes.push_back(&hole);
+  for (const std::size_t child : region.children) space.holes.push_back(&regions[child].outline);
+  return space;
+}
+
+double Perimeter(const Region& region) {
+  double perimeter = Length(region.outline);
+  for (const Loop& hole : region.holes) perimeter += Length(hole);
+  return perimeter;
+}
+
+double AreaOfLoops(const Region& region) {
+  double area = SignedArea(region.outline);
+  for (const Loop& hole : region.holes) area += SignedArea(hole);
+  return area;
+}
+
+std::string Coordinates(const Point& point) {
+  return fmt::format("({:.6g}, {:.6g})", point.x, point.y);
+}
+
+void SettleLabel(std::size_t index, Detection& detection, double tolerance) {
+  Region& region = detection.regions[index];
+  const RegionSpace space = SpaceOf(region, detection.regions);
+  const bool inside = IsInside(space, region.label);
+  region.clearance = inside ? Clearance(space, region.label) : 0;
+  const double wanted = std::max(tolerance, kClearancePerHalfWidth * region.netArea / Perimeter(region));
+  if (region.clearance >= wanted) return;
+  const auto better = FindInnerPoint(space, kHeightsForLabel);
+  if (!better || better->clearance <= region.clearance) {
+    if (!inside) detection.diagnostics.warnings.push_back(fmt::format("region {} has no point inside", IdOf(index)));
+    return;
+  }
+  detection.diagnostics.corrections.push_back(
+      {Correction::Kind::Label, index,
+       fmt::format("label of region {} moved from {}, {}, to {}", IdOf(index), Coordinates(region.label),
+                   inside ? "close to its boundary" : "outside it", Coordinates(better->point))});
+  region.label = better->point;
+  region.clearance = better->clearance;
+}
+
+void CompareAreas(std::size_t index, Detection& detection) {
+  const Region& region = detection.regions[index];
+  const double fromLoops = AreaOfLoops(region);
+  const double larger = std::max(std::abs(region.baseArea), std::abs(SignedArea(region.outline)));
+  if (std::abs(fromLoops - region.netArea) <= kAreaAgreement * larger) return;
+  detection.diagnostics.warnings.push_back(
+      fmt::format("net area of region {}: {:.9g} mm2 without its children, but {:.9g} mm2 within its loops", IdOf(index),
+                  region.netArea, fromLoops));
+}
+
+/// How many loops travel each piece.
+std::vector<std::size_t> CountTravels(const TEntityTree& regionTree, std::size_t pieces) {
+  std::vector<std::size_t> travels(pieces, 0);
+  for (const auto* loop : regionTree.RootNode()->Children()) {
+    for (const auto* piece : loop->Children()) ++travels[static_cast<std::size_t>(piece->EntityIndex())];
+  }
+  return travels;
+}
+
+}  // namespace
+
+void CompareNesting(const TEntityTree& aRegionTree, std::span<const TracedLoop> aFaces, Detection& aDetection) {
+  const std::vector<std::size_t> claimed = ClaimedParents(aRegionTree, aFaces);
+  for (std::size_t i = 0; i < aFaces.size(); ++i) {
+    const std::size_t parent = aDetection.regions[i].parent;
+    const std::size_t claim = claimed[aFaces[i].index];
+    if (claim == parent) continue;
+    aDetection.diagnostics.corrections.push_back(
+        {Correction::Kind::Nesting, i,
+         fmt::format("region {} was listed inside {}; a point of it lies inside {}", IdOf(i), NameOfPlace(claim),
+                     NameOfPlace(parent))});
+  }
+}
+
+void CheckRegions(Detection& aDetection, double aTolerance) {
+  for (std::size_t i = 0; i < aDetection.regions.size(); ++i) {
+    aDetection.regions[i].sliver = aDetection.regions[i].baseArea < aTolerance * aTolerance;
+    SettleLabel(i, aDetection, aTolerance);
+    CompareAreas(i, aDetection);
+  }
+}
+
+void CheckPieces(const TEntityTree& aCoordinateTree, const TEntityTree& aRegionTree,
+                 std::span<const std::size_t> aSources, Diagnostics& aDiagnostics) {
+  const PieceGraph graph = ReadPieceGraph(aCoordinateTree);
+  const std::vector<bool> isBridge = FindBridges(graph);
+  const std::vector<std::size_t> travels = CountTravels(aRegionTree, graph.pieces.size());
+  const auto dangles = [&](std::size_t vertex) { return graph.vertices[vertex].size() == 1; };
+  for (std::size_t i = 0; i < graph.pieces.size(); ++i) {
+    const auto& [from, to] = graph.pieces[i];
+    if (!isBridge[i]) {
+      aDiagnostics.lostSides += from == to ? 0 : 2 - std::min<std::size_t>(travels[i], 2);
+      continue;
+    }
+    OpenPiece open{Travel(aCoordinateTree.pEntityStorage()->EntityArray()[i], true), dangles(from), dangles(to)};
+    open.piece.index = i;
+    open.piece.source = aSources[i];
+    aDiagnostics.openPieces.push_back(open);
+  }
+}
+
+void CountCollapsed(const Drawing& aDrawing, Diagnostics& aDiagnostics) {
+  aDiagnostics.collapsed = static_cast<std::size_t>(
+      std::count_if(aDrawing.entities.begin(), aDrawing.entities.end(), [](const DrawingEntity& entity) {
+        return entity.geometry.StartCoords == entity.geometry.EndCoords;
+      }));
+}
+
+}  // namespace xsec

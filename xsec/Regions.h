@@ -1,0 +1,60 @@
+#pragma once
+
+// What the detection of regions gives: plain values, in millimetres and degrees, that every output is written from.
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "GeometryEngine/host/TGeometryRegionType.h"
+#include "xsec/TravelledPiece.h"
+
+namespace xsec {
+
+/// A bounded face of the drawing. Its index among the regions is what `parent` and `children` refer to.
+struct Region {
+  std::string name;        ///< the layer that most of its outline comes from
+  std::string uniqueName;  ///< the name that no other region bears
+  GeometryEngine::TGeometryRegionType type = GeometryEngine::rtUndefined;
+  std::size_t parent = kNone;
+  std::vector<std::size_t> children;
+  std::size_t depth = 0;    ///< number of regions round it
+  Loop outline;             ///< anticlockwise
+  std::vector<Loop> holes;  ///< clockwise, each the outer boundary of a group of touching regions
+  double baseArea = 0;      ///< UNITS: mm2, of the outline
+  double netArea = 0;       ///< UNITS: mm2, without what lies inside it
+  Point centroid;           ///< of the outline
+  Point label;              ///< inside the region and outside its holes
+  double clearance = 0;     ///< from the label to the nearest boundary
+  bool sliver = false;      ///< smaller than a square of the tolerance
+};
+
+/// A piece that bounds no region: it dangles, or it is a bridge between what is closed.
+struct OpenPiece {
+  TravelledPiece piece;
+  bool fromDangles = false;  ///< nothing else ends where it begins
+  bool toDangles = false;
+};
+
+/// A point where an answer of the library was put right.
+struct Correction {
+  enum class Kind { Nesting, Label };
+  Kind kind;
+  std::size_t region;  ///< index of the region that it is about
+  std::string text;
+};
+
+struct Diagnostics {
+  std::vector<std::string> warnings;
+  std::vector<Correction> corrections;
+  std::vector<OpenPiece> openPieces;
+  std::size_t collapsed = 0;  ///< entities whose ends are the same point under the tolerance
+  std::size_t lostSides = 0;  ///< sides of closed pieces that no loop was traced along
+};
+
+struct Detection {
+  std::vector<Region> regions;
+  Diagnostics diagnostics;
+};
+
+}  // namespace xsec

@@ -1,0 +1,60 @@
+#include "xsec/SourceLookup.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace xsec {
+
+namespace {
+
+/// A piece's middle may lie off its source by what its ends have moved: to a vertex, and to 0 from near it.
+constexpr double kReachInTolerances = 4;
+
+/// The cell along one axis that a value falls into; beyond the ends it is the outermost one.
+std::size_t Cell(double value, double min, double max, std::size_t side) {
+  const double part = (value - min) / (max - min);
+  if (!(part > 0)) return 0;
+  return std::min(side - 1, static_cast<std::size_t>(std::min(part, 1.0) * static_cast<double>(side)));
+}
+
+}  // namespace
+
+SourceLookup::SourceLookup(const Drawing& aDrawing) : fBox(EmptyExtents()) {
+  for (const DrawingEntity& entity : aDrawing.entities) {
+    fSources.push_back(Travel(entity.geometry, true));
+    Widen(fBox, Bounds(fSources.back()));
+  }
+  fSide = static_cast<std::size_t>(std::ceil(std::sqrt(static_cast<double>(fSources.size() + 1))));
+  fCells.resize(fSide * fSide);
+  for (std::size_t source = 0; source < fSources.size(); ++source) {
+    for (const std::size_t cell : CellsOf(Bounds(fSources[source]))) fCells[cell].push_back(source);
+  }
+}
+
+std::vector<std::size_t> SourceLookup::CellsOf(const Extents& aBox) const {
+  const std::size_t left = Cell(aBox.minX, fBox.minX, fBox.maxX, fSide);
+  const std::size_t right = Cell(aBox.maxX, fBox.minX, fBox.maxX, fSide);
+  const std::size_t bottom = Cell(aBox.minY, fBox.minY, fBox.maxY, fSide);
+  const std::size_t top = Cell(aBox.maxY, fBox.minY, fBox.maxY, fSide);
+  std::vector<std::size_t> cells;
+  for (std::size_t row = bottom; row <= top; ++row) {
+    for (std::size_t column = left; column <= right; ++column) cells.push_back(row * fSide + column);
+  }
+  return cells;
+}
+
+std::size_t SourceLookup::Find(const TravelledPiece& aPiece, double aTolerance) const {
+  const Point middle = MidPoint(aPiece);
+  const double reach = kReachInTolerances * aTolerance;
+  std::pair best(reach, kNone);
+  for (const std::size_t cell : CellsOf({middle.x - reach, middle.y - reach, middle.x + reach, middle.y + reach})) {
+    for (const std::size_t source : fCells[cell]) {
+      if (fSources[source].isArc != aPiece.isArc) continue;
+      best = std::min(best, std::pair(Distance(fSources[source], middle), source));
+    }
+  }
+  return best.second;
+}
+
+}  // namespace xsec

@@ -1,0 +1,32 @@
+#pragma once
+
+// Which entity of the drawing a piece was cut from. The library's pieces are new records that bear no mark of their
+// origin, so it is found again by place: the piece's middle lies on its source.
+
+#include <cstddef>
+#include <vector>
+
+#include "xsec/Drawing.h"
+#include "xsec/TravelledPiece.h"
+
+namespace xsec {
+
+class SourceLookup {
+ public:
+  explicit SourceLookup(const Drawing& aDrawing);
+
+  /// The entity of the piece's kind that passes closest to its middle, of several equally close the first; kNone when
+  /// none comes near.
+  std::size_t Find(const TravelledPiece& aPiece, double aTolerance) const;
+
+ private:
+  /// The cells that the box touches; what lies outside the grid belongs to its outermost cells.
+  std::vector<std::size_t> CellsOf(const Extents& aBox) const;
+
+  std::vector<TravelledPiece> fSources;
+  Extents fBox;
+  std::size_t fSide = 1;  ///< cells along each axis
+  std::vector<std::vector<std::size_t>> fCells;  ///< indexes of the entities whose box touches the cell, ascending
+};
+
+}  // namespace xsec
