@@ -37,9 +37,8 @@ std::vector<Stretch> WidestStretches(const RegionSpace& space, double y) {
 }  // namespace
 
 bool IsInside(const RegionSpace& aSpace, const Point& aPoint) {
-  return IsInside(*aSpace.outline, aPoint) &&
-         std::none_of(aSpace.holes.begin(), aSpace.holes.end(),
-                      [&](const Loop* hole) { return IsInside(*hole, aPoint); });
+  return IsInside(*aSpace.outline, aPoint) && std::none_of(aSpace.holes.begin(), aSpace.holes.end(),
+                                                           [&](const Loop* hole) { return IsInside(*hole, aPoint); });
 }
 
 double Clearance(const RegionSpace& aSpace, const Point& aPoint) {

@@ -12,7 +12,8 @@ namespace {
 std::vector<std::size_t> ByArea(std::span<const TracedLoop> faces) {
   std::vector<std::size_t> order(faces.size());
   std::iota(order.begin(), order.end(), std::size_t{0});
-  std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) { return faces[a].area < faces[b].area; });
+  std::stable_sort(order.begin(), order.end(),
+                   [&](std::size_t a, std::size_t b) { return faces[a].area < faces[b].area; });
   return order;
 }
 

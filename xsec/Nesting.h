@@ -1,8 +1,8 @@
 #pragma once
 
-// Which region lies inside which. A detection gives two kinds of loops: the anticlockwise outlines of bounded faces, and
-// the clockwise outer boundaries of groups of touching faces. A group that stands inside a face is one hole of it, and
-// the faces of the group are its children.
+// Which region lies inside which. A detection gives two kinds of loops: the anticlockwise outlines of bounded faces,
+// and the clockwise outer boundaries of groups of touching faces. A group that stands inside a face is one hole of it,
+// and the faces of the group are its children.
 
 #include <cstddef>
 #include <span>
@@ -18,7 +18,7 @@ struct TracedLoop {
   Loop pieces;
   double area = 0;  ///< signed
   Extents box;
-  Point inner;      ///< of a face: a point inside its outline
+  Point inner;  ///< of a face: a point inside its outline
 };
 
 struct Nesting {

@@ -13,8 +13,9 @@ namespace xsec {
 
 struct PieceGraph {
   using Ends = std::array<std::size_t, 2>;
-  std::vector<Ends> pieces;                        ///< the vertices at each piece's start and end
-  std::vector<std::vector<std::size_t>> vertices;  ///< the pieces that end at each vertex; a closed piece is there twice
+  std::vector<Ends> pieces;  ///< the vertices at each piece's start and end
+  std::vector<std::vector<std::size_t>>
+      vertices;  ///< the pieces that end at each vertex; a closed piece is there twice
 };
 
 /// The graph that the coordinate tree of a detection holds; pieces are numbered as in its storage.

@@ -86,8 +86,8 @@ void CompareAreas(std::size_t index, Detection& detection) {
   const double larger = std::max(std::abs(region.baseArea), std::abs(SignedArea(region.outline)));
   if (std::abs(fromLoops - region.netArea) <= kAreaAgreement * larger) return;
   detection.diagnostics.warnings.push_back(
-      fmt::format("net area of region {}: {:.9g} mm2 without its children, but {:.9g} mm2 within its loops", IdOf(index),
-                  region.netArea, fromLoops));
+      fmt::format("net area of region {}: {:.9g} mm2 without its children, but {:.9g} mm2 within its loops",
+                  IdOf(index), region.netArea, fromLoops));
 }
 
 /// How many loops travel each piece.
@@ -142,10 +142,9 @@ void CheckPieces(const TEntityTree& aCoordinateTree, const TEntityTree& aRegionT
 }
 
 void CountCollapsed(const Drawing& aDrawing, Diagnostics& aDiagnostics) {
-  aDiagnostics.collapsed = static_cast<std::size_t>(
-      std::count_if(aDrawing.entities.begin(), aDrawing.entities.end(), [](const DrawingEntity& entity) {
-        return entity.geometry.StartCoords == entity.geometry.EndCoords;
-      }));
+  aDiagnostics.collapsed = static_cast<std::size_t>(std::count_if(
+      aDrawing.entities.begin(), aDrawing.entities.end(),
+      [](const DrawingEntity& entity) { return entity.geometry.StartCoords == entity.geometry.EndCoords; }));
 }
 
 }  // namespace xsec

@@ -25,7 +25,7 @@ class SourceLookup {
 
   std::vector<TravelledPiece> fSources;
   Extents fBox;
-  std::size_t fSide = 1;  ///< cells along each axis
+  std::size_t fSide = 1;                         ///< cells along each axis
   std::vector<std::vector<std::size_t>> fCells;  ///< indexes of the entities whose box touches the cell, ascending
 };
 
