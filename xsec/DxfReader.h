@@ -15,7 +15,7 @@
 namespace xsec {
 
 struct ReadOptions {
-  /// Wins over what the file says. Its source is taken as it is; the command line puts "--units" there.
+  /// Wins over what the file says. An empty source becomes "--units".
   std::optional<DrawingUnits> units;
   /// UNITS: millimetres. The furthest that a flattened curve may lie from its chords. Without a value it is 0.01 mm or
   /// a thousandth of the curve's own size, whichever is less, so that a drawing in metres that names no unit keeps its

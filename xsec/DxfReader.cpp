@@ -1,0 +1,75 @@
+#include "xsec/DxfReader.h"
+
+#include "GeometryEngine/host/TDataStore.h"
+#include "xsec/BlockPlacement.h"
+#include "xsec/DrawingExtents.h"
+#include "xsec/DxfText.h"
+#include "xsec/EntityMaker.h"
+#include "xsec/SourceDrawing.h"
+#include "xsec/Units.h"
+
+namespace xsec {
+
+namespace {
+
+using Maindataenum::TInputFields;
+
+constexpr double kNoSnapping = 2;  // a snapping mode that is neither of the two that change coordinates
+
+// The arcs of a drawing are made before its tolerance is known, so no tolerance may move them: the end of an arc would
+// be snapped to zero and the line that meets it there would not.
+class SnappingOff {
+ public:
+  SnappingOff() : fMode(Kelvaralinks::dataStore.GetValue(TInputFields::ifSnappingMode)) {
+    Kelvaralinks::dataStore.SetValue(TInputFields::ifSnappingMode, kNoSnapping);
+  }
+  ~SnappingOff() { Kelvaralinks::dataStore.SetValue(TInputFields::ifSnappingMode, fMode); }
+  SnappingOff(const SnappingOff&) = delete;
+  SnappingOff& operator=(const SnappingOff&) = delete;
+
+ private:
+  double fMode;
+};
+
+DrawingUnits UnitsOf(const SourceDrawing& source, const ReadOptions& options) {
+  if (options.units) {
+    DrawingUnits units = *options.units;
+    units.source = units.source.empty() ? "--units" : units.source;
+    return units;
+  }
+  auto units = FindUnit(source.insUnits.value_or(0));
+  if (!units) {
+    return {"mm", 1, "assumed"};
+  }
+  units->source = "file";
+  return *units;
+}
+
+}  // namespace
+
+Drawing ReadDrawingText(std::string_view aText, const std::string& aPath, const ReadOptions& aOptions) {
+  CheckDxfText(aText, aPath);
+  const SourceDrawing source = ParseDxf(aText, aPath);
+  CheckBlocks(source, aPath);
+  Drawing drawing;
+  drawing.path = aPath;
+  drawing.units = UnitsOf(source, aOptions);
+  drawing.layerColours = source.layerColours;
+  drawing.warnings = source.warnings;
+  const SnappingOff guard;
+  EntityMaker maker(drawing, aOptions.flattenTolerance);
+  PlaceAll(source, Affine::Stretch(drawing.units.millimetres, drawing.units.millimetres), maker);
+  drawing.extents = ExtentsOf(drawing.entities);
+  if (drawing.units.source == "assumed" && !drawing.entities.empty()) {
+    if (std::string warning = WarnOfAssumedUnit(drawing.extents); !warning.empty()) {
+      drawing.warnings.push_back(std::move(warning));
+    }
+  }
+  return drawing;
+}
+
+Drawing ReadDrawing(const std::string& aPath, const ReadOptions& aOptions) {
+  return ReadDrawingText(LoadFile(aPath), aPath, aOptions);
+}
+
+}  // namespace xsec

@@ -1,0 +1,320 @@
+#include "xsec/EntityMaker.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <utility>
+
+#include "GeometryEngine/GeometryCreation_Drawing/EntityConstruction.h"
+#include "GeometryEngine/host/Numerics.h"
+#include "xsec/Errors.h"
+#include "xsec/Flattening.h"
+
+namespace xsec {
+
+namespace {
+
+constexpr std::size_t kMostEntities = 2'000'000;
+constexpr double kStraightBulge = 1e-9;     // the arc leaves its chord by no more than half of this share of the chord
+constexpr double kFlattenTolerance = 0.01;  // millimetres
+constexpr double kFlattenShare = 1e-3;      // of the curve's size, when that is less
+constexpr double kFinestFlattenShare = 1e-9;  // of the curve's size: bounds the number of chords
+constexpr double kRoundness = 1e-9;           // relative difference of half axes that still make a circle
+constexpr double kHalfTurn = 180;             // degrees
+constexpr double kFullTurn = 360;             // degrees
+
+constexpr const char* kNoLength = "without length";
+constexpr const char* kNoRadius = "without a radius above 0";
+constexpr const char* kTooFar = "with coordinates out of range";
+constexpr const char* kTooFewVertices = "with fewer than two different vertices";
+
+bool IsFinite(const Point& point) {
+  return std::isfinite(point.x) && std::isfinite(point.y);
+}
+
+bool IsFinite(const GeometryEngine::TEntityCoordinate& point) {
+  return std::isfinite(point.x) && std::isfinite(point.y);
+}
+
+// Equality of bits; two points that are merely close are two points.
+bool IsSame(const Point& a, const Point& b) {
+  return a.x == b.x && a.y == b.y;
+}
+
+double Normalised(double degrees) {
+  return GeometryEngine::GetAngleInRange(degrees, 0, kFullTurn);
+}
+
+double Length(const Point& vector) {
+  return std::hypot(vector.x, vector.y);
+}
+
+// The circle through two points that a bulge stands for.
+Point CentreOf(const Point& from, const Point& to, double bulge) {
+  const double share = (1 - bulge * bulge) / (4 * bulge);
+  return {(from.x + to.x) / 2 - share * (to.y - from.y), (from.y + to.y) / 2 + share * (to.x - from.x)};
+}
+
+// The middle of the arc that a bulge stands for.
+Point ApexOf(const Point& from, const Point& to, double bulge) {
+  return {(from.x + to.x) / 2 + bulge / 2 * (to.y - from.y), (from.y + to.y) / 2 - bulge / 2 * (to.x - from.x)};
+}
+
+SourceEllipse Placed(const SourceEllipse& ellipse, const Affine& map) {
+  return {map.Apply(ellipse.centre), map.ApplyToVector(ellipse.major), map.ApplyToVector(ellipse.minor), ellipse.start,
+          ellipse.sweep};
+}
+
+SourceEllipse EllipseOf(const SourceArc& arc) {
+  return {arc.centre,
+          {arc.radius, 0},
+          {0, arc.radius},
+          arc.start * GeometryEngine::kRadiansPerDegree,
+          arc.sweep >= kFullTurn ? 2 * std::numbers::pi : arc.sweep * GeometryEngine::kRadiansPerDegree};
+}
+
+SourceArc ArcOfBulge(const Point& from, const Point& to, double bulge) {
+  const Point centre = CentreOf(from, to, bulge);
+  const Point& start = bulge > 0 ? from : to;
+  const Point arm{start.x - centre.x, start.y - centre.y};
+  return {centre, Length(arm), DirectionOf(arm), 4 * std::atan(std::abs(bulge)) * GeometryEngine::kDegreesPerRadian};
+}
+
+// The arc that an ellipse of equal half axes is; nothing for any other ellipse.
+std::optional<SourceArc> ArcOfEllipse(const SourceEllipse& ellipse) {
+  const double radius = Length(ellipse.major);
+  const double product = ellipse.major.x * ellipse.minor.x + ellipse.major.y * ellipse.minor.y;
+  if (!(std::abs(radius - Length(ellipse.minor)) <= kRoundness * radius) ||
+      !(std::abs(product) <= kRoundness * radius * radius)) {
+    return std::nullopt;
+  }
+  const double sweep =
+      ellipse.sweep >= 2 * std::numbers::pi ? kFullTurn : ellipse.sweep * GeometryEngine::kDegreesPerRadian;
+  const double start = ellipse.start * GeometryEngine::kDegreesPerRadian;
+  const bool isClockwise = ellipse.major.x * ellipse.minor.y < ellipse.major.y * ellipse.minor.x;
+  const double direction = DirectionOf(ellipse.major);
+  return SourceArc{ellipse.centre, radius, isClockwise ? direction - start - sweep : direction + start, sweep};
+}
+
+// The longer side of the box round some points.
+template <typename Points, typename PointOf>
+double SizeOf(const Points& points, PointOf pointOf) {
+  const Point first = pointOf(points.front());
+  Point low = first;
+  Point high = first;
+  for (const auto& item : points) {
+    const Point point = pointOf(item);
+    low = {std::min(low.x, point.x), std::min(low.y, point.y)};
+    high = {std::max(high.x, point.x), std::max(high.y, point.y)};
+  }
+  return std::max(high.x - low.x, high.y - low.y);
+}
+
+}  // namespace
+
+std::string PlacedLayer(const SourceEntity& aEntity, const Placement& aPlacement) {
+  return aEntity.layer == "0" && !aPlacement.block.empty() ? aPlacement.layer : aEntity.layer;
+}
+
+std::int32_t PlacedColour(const SourceEntity& aEntity, const Placement& aPlacement) {
+  return aEntity.colour == 0 && !aPlacement.block.empty() ? aPlacement.colour : aEntity.colour;
+}
+
+EntityMaker::EntityMaker(Drawing& aDrawing, std::optional<double> aTolerance)
+    : fDrawing(aDrawing), fTolerance(aTolerance) {}
+
+void EntityMaker::Make(const SourceEntity& aEntity, const Placement& aPlacement) {
+  fTemplate = DrawingEntity{};
+  fTemplate.layer = PlacedLayer(aEntity, aPlacement);
+  fTemplate.type = aEntity.type;
+  fTemplate.block = aPlacement.block;
+  fTemplate.handle = aEntity.handle;
+  fTemplate.line = aEntity.line;
+  fTemplate.colour = PlacedColour(aEntity, aPlacement);
+  fIsFlattened = false;
+  const Affine map = aEntity.isFlipped ? aPlacement.map * Affine::Stretch(-1, 1) : aPlacement.map;
+  std::visit([&](const auto& shape) { MakeShape(shape, map); }, aEntity.shape);
+  if (fIsFlattened) {
+    ++fDrawing.flattened[aEntity.type];
+  }
+}
+
+void EntityMaker::Skip(const SourceEntity& aEntity, const Placement& aPlacement, const std::string& aReason) {
+  ++fDrawing.skipped[{aEntity.type, PlacedLayer(aEntity, aPlacement), aReason}];
+}
+
+void EntityMaker::SkipThis(const std::string& aReason) {
+  ++fDrawing.skipped[{fTemplate.type, fTemplate.layer, aReason}];
+}
+
+void EntityMaker::MakeShape(const SourceSkipped& aShape, const Affine& /*aMap*/) {
+  SkipThis(aShape.reason);
+}
+
+// Placing blocks is not the maker's work.
+void EntityMaker::MakeShape(const SourceInsert& /*aShape*/, const Affine& /*aMap*/) {}
+
+void EntityMaker::MakeShape(const SourceLine& aShape, const Affine& aMap) {
+  AddLine(aMap.Apply(aShape.start), aMap.Apply(aShape.end));
+}
+
+void EntityMaker::MakeShape(const SourceArc& aShape, const Affine& aMap) {
+  if (!(aShape.radius > 0)) {
+    return SkipThis(kNoRadius);
+  }
+  const auto similarity = AsSimilarity(aMap);
+  if (!similarity) {
+    return MakeShape(EllipseOf(aShape), aMap);
+  }
+  const auto [scale, turn, isMirrored] = *similarity;
+  const double start = isMirrored ? turn - aShape.start - aShape.sweep : turn + aShape.start;
+  AddArc(aMap.Apply(aShape.centre), scale * aShape.radius, start, aShape.sweep);
+}
+
+void EntityMaker::MakeShape(const SourcePolyline& aShape, const Affine& aMap) {
+  std::vector<SourceVertex> vertices;
+  for (const SourceVertex& vertex : aShape.vertices) {
+    if (!vertices.empty() && IsSame(vertices.back().point, vertex.point)) {
+      vertices.back().bulge = vertex.bulge;  // a repeated vertex; the second one leads on
+    } else {
+      vertices.push_back(vertex);
+    }
+  }
+  if (aShape.isClosed && vertices.size() > 1 && IsSame(vertices.front().point, vertices.back().point)) {
+    vertices.pop_back();
+  }
+  if (vertices.size() < 2) {
+    return SkipThis(kTooFewVertices);
+  }
+  for (std::size_t i = 0; i + 1 < vertices.size(); ++i) {
+    AddSegment(vertices[i], vertices[i + 1], aMap);
+  }
+  if (aShape.isClosed) {
+    AddSegment(vertices.back(), vertices.front(), aMap);
+  }
+}
+
+void EntityMaker::AddSegment(const SourceVertex& aFrom, const SourceVertex& aTo, const Affine& aMap) {
+  const Point from = aMap.Apply(aFrom.point);
+  const Point to = aMap.Apply(aTo.point);
+  if (std::abs(aFrom.bulge) < kStraightBulge) {
+    return AddLine(from, to);
+  }
+  if (const auto similarity = AsSimilarity(aMap)) {
+    return AddBulge(from, to, similarity->isMirrored ? -aFrom.bulge : aFrom.bulge);
+  }
+  const SourceEllipse curve = Placed(EllipseOf(ArcOfBulge(aFrom.point, aTo.point, aFrom.bulge)), aMap);
+  std::vector<Point> points = FlattenEllipse(curve, ToleranceFor(Length(curve.major) + Length(curve.minor)));
+  points.front() = aFrom.bulge > 0 ? from : to;
+  points.back() = aFrom.bulge > 0 ? to : from;
+  AddChords(points);
+}
+
+// Arcs run anticlockwise, so a clockwise one is given from its end.
+void EntityMaker::AddBulge(const Point& aFrom, const Point& aTo, double aBulge) {
+  if (aBulge < 0) {
+    return AddBulge(aTo, aFrom, -aBulge);
+  }
+  const Point centre = CentreOf(aFrom, aTo, aBulge);
+  const auto addPart = [&](const Point& start, const Point& end) {
+    Add(GeometryEngine::CreateEntity_Arc_StartEnd(centre.x, centre.y, start.x, start.y, end.x, end.y));
+  };
+  if (!IsFinite(centre)) {
+    SkipThis(kTooFar);
+  } else if (aBulge <= 1) {
+    addPart(aFrom, aTo);
+  } else {
+    const Point apex = ApexOf(aFrom, aTo, aBulge);
+    addPart(aFrom, apex);
+    addPart(apex, aTo);
+  }
+}
+
+void EntityMaker::AddArc(const Point& aCentre, double aRadius, double aStart, double aSweep) {
+  if (!IsFinite(aCentre) || !std::isfinite(aRadius)) {
+    return SkipThis(kTooFar);
+  }
+  const double start = Normalised(aStart);
+  const double end = aSweep >= kFullTurn ? start : Normalised(aStart + aSweep);
+  const auto addPart = [&](double from, double to) {
+    Add(GeometryEngine::CreateEntity_Arc(aCentre.x, aCentre.y, aRadius, from, to));
+  };
+  if (aSweep <= kHalfTurn) {
+    return addPart(start, end);
+  }
+  const double middle = Normalised(start + aSweep / 2);
+  addPart(start, middle);
+  addPart(middle, end);
+}
+
+void EntityMaker::MakeShape(const SourceEllipse& aShape, const Affine& aMap) {
+  const SourceEllipse placed = Placed(aShape, aMap);
+  if (!IsFinite(placed.centre) || !IsFinite(placed.major) || !IsFinite(placed.minor) || !std::isfinite(placed.sweep)) {
+    return SkipThis(kTooFar);
+  }
+  if (!(Length(placed.major) > 0)) {
+    return SkipThis(kNoRadius);
+  }
+  if (const auto arc = ArcOfEllipse(placed)) {
+    return AddArc(arc->centre, arc->radius, arc->start, arc->sweep);
+  }
+  AddChords(FlattenEllipse(placed, ToleranceFor(2 * std::max(Length(placed.major), Length(placed.minor)))));
+}
+
+void EntityMaker::MakeShape(const SourceSpline& aShape, const Affine& aMap) {
+  if (const std::string reason = WhySplineCannotBeFlattened(aShape); !reason.empty()) {
+    return SkipThis(reason);
+  }
+  SourceSpline placed = aShape;
+  for (SourceControlPoint& point : placed.points) {
+    point.point = aMap.Apply(point.point);
+  }
+  AddChords(FlattenSpline(
+      placed, ToleranceFor(SizeOf(placed.points, [](const SourceControlPoint& point) { return point.point; }))));
+}
+
+void EntityMaker::AddChords(const std::vector<Point>& aPoints) {
+  fIsFlattened = true;
+  for (std::size_t i = 0; i + 1 < aPoints.size(); ++i) {
+    if (!IsSame(aPoints[i], aPoints[i + 1])) {
+      AddLine(aPoints[i], aPoints[i + 1]);
+    }
+  }
+}
+
+void EntityMaker::AddLine(const Point& aFrom, const Point& aTo) {
+  if (!IsFinite(aFrom) || !IsFinite(aTo)) {
+    SkipThis(kTooFar);
+  } else if (IsSame(aFrom, aTo)) {
+    SkipThis(kNoLength);
+  } else {
+    Add(GeometryEngine::CreateEntity_Line(aFrom.x, aFrom.y, aTo.x, aTo.y));
+  }
+}
+
+void EntityMaker::Add(const GeometryEngine::TDXFEntity& aGeometry) {
+  const bool isArc = aGeometry.EntityType == GeometryEngine::DXFArc;
+  if (!IsFinite(aGeometry.StartCoords) || !IsFinite(aGeometry.EndCoords) || !std::isfinite(aGeometry.radius)) {
+    return SkipThis(kTooFar);
+  }
+  if (isArc && !(aGeometry.radius > 0)) {
+    return SkipThis(kNoRadius);
+  }
+  if (fDrawing.entities.size() >= kMostEntities) {
+    throw InputError(
+        fDrawing.path, fTemplate.line,
+        fmt::format("the drawing has more than {} lines and arcs once its blocks are placed", kMostEntities),
+        "leave out what does not belong to the cross-section");
+  }
+  fTemplate.geometry = aGeometry;
+  fDrawing.entities.push_back(fTemplate);
+}
+
+double EntityMaker::ToleranceFor(double aSize) const {
+  const double tolerance = fTolerance.value_or(std::min(kFlattenTolerance, kFlattenShare * aSize));
+  return std::max(tolerance, kFinestFlattenShare * aSize);
+}
+
+}  // namespace xsec
