@@ -2,7 +2,6 @@
 
 // Every public header of the library, for hosts. The library itself includes only what it uses.
 
-#include "GeometryEngine/Export.h"
 #include "GeometryEngine/DXF_EntityStorage/AngularDuplication.h"
 #include "GeometryEngine/DXF_EntityStorage/EntityEnds.h"
 #include "GeometryEngine/DXF_EntityStorage/TEntityStorage.h"
@@ -28,6 +27,7 @@
 #include "GeometryEngine/DXF_SweepLine_Utilities/PairInterceptions.h"
 #include "GeometryEngine/DXF_SweepLine_Utilities/TInterceptionPoints.h"
 #include "GeometryEngine/DXF_SweepLine_Utilities/VerticalLine.h"
+#include "GeometryEngine/Export.h"
 #include "GeometryEngine/GeometryCreation_Drawing/CoordinateCleaning.h"
 #include "GeometryEngine/GeometryCreation_Drawing/EntityConstruction.h"
 #include "GeometryEngine/GeometryEngine_Arrays/Coordinate3DArrays.h"
@@ -56,6 +56,7 @@
 #include "GeometryEngine/Pole_Inaccessibility/PoleSearch.h"
 #include "GeometryEngine/host/IntegerArrays.h"
 #include "GeometryEngine/host/Numerics.h"
+#include "GeometryEngine/host/StartingValues.h"
 #include "GeometryEngine/host/TDataStore.h"
 #include "GeometryEngine/host/TGeometryRegionType.h"
 #include "GeometryEngine/host/TGeometryRegionTypesSet.h"

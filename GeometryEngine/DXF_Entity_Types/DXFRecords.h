@@ -1,5 +1,7 @@
 #pragma once
 
+// Plain records as a drawing file holds them, without operations. The geometry works on TDXFEntity.
+
 #include <cstdint>
 
 namespace GeometryEngine {
@@ -9,11 +11,13 @@ struct TDXFPoint {
   double y = 0;
 };
 
+/// A line between two numbered points.
 struct TDXFLine {
   std::int32_t point1 = 0;
   std::int32_t point2 = 0;
 };
 
+/// UNITS: angles in degrees.
 struct TDXFArc {
   TDXFPoint centre;
   double startAngle = 0;

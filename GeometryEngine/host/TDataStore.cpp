@@ -1,19 +1,8 @@
 #include "GeometryEngine/host/TDataStore.h"
 
-#include <utility>
+#include "GeometryEngine/host/StartingValues.h"
 
 namespace Kelvaralinks {
-
-namespace {
-using enum Maindataenum::TInputFields;
-
-// Sensible for drawings in millimetres.
-constexpr std::pair<Maindataenum::TInputFields, double> kStartingValues[] = {
-    {ifSlotDuplications, 1},   {ifPoleDuplications, 1}, {ifBarDuplications, 1},
-    {ifLinearTolerance, 1e-4}, {ifSnappingMode, 1},     {ifAngleTolerance, 1e-4},
-    {ifMinimumLabelArea, 0},   {ifArcResolution, 5},    {ifUniqueRegionNames, 1},
-};
-}  // namespace
 
 TDataStore::TDataStore() : fValues{} {
   Reset();

@@ -10,7 +10,20 @@
 
 namespace GeometryEngine {
 
-/// A tree that owns its nodes and keeps them in a flat index beside the parent-child structure.
+/// A tree whose nodes also stand in a flat index, 0 to GetCount() - 1.
+///
+/// The root stands at place 0 from the tree's creation on. Every other node has one parent, and its place in the flat
+/// index is independent of where it hangs: moving a node leaves the flat order alone. Nodes that don't belong where
+/// they are offered (nil, made for another tree, entered already or not at all) are refused: nothing changes and
+/// nothing is taken.
+///
+/// OWNS: all its nodes. Depth costs no stack, neither in walking nor in freeing.
+///
+///   TTree_Base tree;
+///   auto node = tree.CreateTreeNode();
+///   TTreeNode_Base* slot = tree.AddNewTreeNode(node);           // below the root
+///   node = tree.CreateTreeNode();
+///   tree.MoveTreeNode(tree.AddNewTreeNode(node), slot);          // below the slot
 class GEOMETRYENGINE_API TTree_Base {
  public:
   TTree_Base();
@@ -18,21 +31,40 @@ class GEOMETRYENGINE_API TTree_Base {
   TTree_Base(const TTree_Base&) = delete;
   TTree_Base& operator=(const TTree_Base&) = delete;
 
+  /// Frees all nodes and leaves a fresh root, of the tree's node class.
   void Clear();
+  /// Number of nodes in the flat index, the root among them.
   TIndex GetCount() const;
+  /// The node at that place of the flat index; nil for an index outside it.
   TTreeNode_Base* GetNodeFromIndex(TIndex aIndex) const;
   TTreeNode_Base* GetRootNode() const;
+  /// Puts `aNode` in the root's place: it takes over the root's children, and the old root is freed.
+  /// OWNS: takes `aNode` unless it is refused.
   void SetRootNode(std::unique_ptr<TTreeNode_Base>& aNode);
   /// A new node of the tree's node class, not yet entered; nil never.
   std::unique_ptr<TTreeNode_Base> CreateTreeNode();
+  /// Enters `aNode` at the end of the flat index, as the last child of the root, and returns it; nil when it is
+  /// refused. OWNS: takes `aNode` unless it is refused.
   TTreeNode_Base* AddNewTreeNode(std::unique_ptr<TTreeNode_Base>& aNode);
+  /// The same, but at place `aIndex` of the flat index; the nodes from there on move up by one. An index outside 1 to
+  /// GetCount() means the end.
   TTreeNode_Base* AddNewTreeNode_AtIndex(std::unique_ptr<TTreeNode_Base>& aNode, TIndex aIndex);
+  /// Takes a node out of the tree and frees it, and with `aRemoveDescendants` all that hangs below it. Otherwise its
+  /// children go to its parent, where they take its place in their order. The flat index closes up. The root is
+  /// refused.
   void RemoveFreeTreeNode(TTreeNode_Base* aNode, bool aRemoveDescendants);
+  /// Makes `aNode` the last child of `aNewParent`; its children stay behind with the old parent, in its place and their
+  /// order. The root, and a new parent that is `aNode` or hangs below it, are refused.
   void MoveTreeNode(TTreeNode_Base* aNode, TTreeNode_Base* aNewParent);
+  /// The same, but the node takes all that hangs below it along.
   void MoveTreeNode_Recursive(TTreeNode_Base* aNode, TTreeNode_Base* aNewParent);
 
  protected:
+  /// Makes a node for the given tree.
   using TNodeFactory = std::unique_ptr<TTreeNode_Base> (*)(TTree_Base&);
+
+  /// For trees with a node class of their own. REQUIRES: the factory is not nil and returns a fresh node made for that
+  /// tree; it is called during construction already, when only the base of the tree exists.
   explicit TTree_Base(TNodeFactory aFactory);
 
  private:
