@@ -19,10 +19,10 @@ double GetAngleInRange(double aValue, double aLow, double aHigh) {
   const double turn = aHigh - aLow;
   if (!(turn > 0)) return kNotANumber;
   if (aValue >= aLow && aValue < aHigh) return aValue;
-  // Remainders are exact, so only the last sum of the usual range from 0 is rounded.
-  double offset = std::fmod(std::fmod(aValue, turn) - std::fmod(aLow, turn), turn);
-  if (offset < 0) offset += turn;
-  const double moved = aLow + offset;
+  // The remainder is exact, and so are few whole turns, so that only the last sum is rounded.
+  const double rest = std::fmod(aValue, turn);
+  double moved = rest + std::ceil((aLow - rest) / turn) * turn;
+  if (moved < aLow) moved += turn;
   return moved >= aHigh ? aLow : moved;
 }
 
