@@ -122,7 +122,7 @@ TEST(CheckLineLineInterceptions, VerticalLinesOverlapLikeOthers) {
 TEST(CheckLineLineInterceptions, LinesEndToEndYieldTheSharedPointOnce) {
   TSettingsGuard settings;
   EXPECT_THAT(Meet("L 0,0 1,1", "L 1,1 2,2"), IsBits("1,1"));
-  EXPECT_THAT(Meet("L 0,0 1,1", "L 2,2 1,1.00005"), IsBits("1,1.00005"));
+  EXPECT_THAT(Meet("L 0,0 1,1", "L 2,2.00005 1,1.00005"), IsBits("1,1.00005"));
 }
 
 TEST(CheckLineLineInterceptions, ParallelLinesApartYieldNothing) {
