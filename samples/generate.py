@@ -62,8 +62,8 @@ def draw_slot(out):
     b, w = OPENING_WIDTH / 2, SLOT_WIDTH / 2
     bore = math.sqrt(BORE_RADIUS**2 - b**2)
     bend = SLOT_BOTTOM - SLOT_CORNER
-    out.arc("Stator", (0, 0), BORE_RADIUS, -SLOT_PITCH / 2, -OPENING_ANGLE / 2)
-    out.arc("Stator", (0, 0), BORE_RADIUS, OPENING_ANGLE / 2, SLOT_PITCH / 2)
+    out.arc("AirGap", (0, 0), BORE_RADIUS, -SLOT_PITCH / 2, -OPENING_ANGLE / 2)
+    out.arc("AirGap", (0, 0), BORE_RADIUS, OPENING_ANGLE / 2, SLOT_PITCH / 2)
     out.arc("Opening", (0, 0), BORE_RADIUS, -OPENING_ANGLE / 2, OPENING_ANGLE / 2)
     for side in (-1, 1):
         out.line("Opening", (bore, side * b), (SHOULDER, side * b))

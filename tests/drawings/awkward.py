@@ -3,11 +3,13 @@
 
 usage: awkward.py FOLDER
 
-awkward_0.dxf has its grid of figures parallel to the axes, awkward_17.dxf is the same turned by 17 degrees.
-expected.json has where the figures of each kind stand and how many faces each must give.
+awkward_0.dxf has its grid of figures parallel to the axes, awkward_17.dxf is the same turned by 17 degrees. No two
+figures of a kind have the same size. expected.json has where each figure stands, how many faces it must give, and
+their area together, worked out from its size alone.
 """
 
 import json
+import math
 import pathlib
 import sys
 
@@ -15,10 +17,11 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "samples"))
 
 from dxf import Drawing, Turned, polar  # noqa: E402
 
-PITCH = 20.0   # mm between the middles of two figures
-SIDE = 10      # figures in a row, and rows of a kind
-SIZE = 6.0     # mm, about half the width of a figure
-GAP = 1e-4     # mm; a tenth of the linear tolerance at which the drawing is to be read
+PITCH = 20.0    # mm between the middles of two figures
+SIDE = 10       # figures in a row, and rows of a kind
+SMALLEST = 1.5  # mm, about half the width of a figure
+LARGEST = 6.0
+GAP = 1e-4      # mm; a tenth of the linear tolerance at which the drawing is to be read
 TOLERANCE = 10 * GAP
 TURNS = (0, 17)
 
@@ -43,84 +46,82 @@ class At:
         self.out.circle(self.layer, (self.x, self.y), radius)
 
 
-def everything_twice(out):
+def everything_twice(out, size):
     """A half round of three lines and an arc, each drawn twice, the lines the other way the second time."""
-    path = [(0.0, SIZE), (-SIZE, SIZE), (-SIZE, -SIZE), (0.0, -SIZE)]
+    path = [(0.0, size), (-size, size), (-size, -size), (0.0, -size)]
     for points in (path, path[::-1]):
         for start, end in zip(points, points[1:]):
             out.line(start, end)
-        out.arc((0, 0), SIZE, 270, 450)
+        out.arc((0, 0), size, 270, 450)
 
 
-def line_ending_in_arcs(out):
+def line_ending_in_arcs(out, size):
     """A circle of two half arcs, cut by the diameter that ends in the middle of both."""
-    out.arc((0, 0), SIZE, 0, 180)
-    out.arc((0, 0), SIZE, 180, 360)
-    out.line((0, -SIZE), (0, SIZE))
+    out.arc((0, 0), size, 0, 180)
+    out.arc((0, 0), size, 180, 360)
+    out.line((0, -size), (0, size))
 
 
-def overlapping_edges(out):
+def overlapping_edges(out, size):
     """Two rectangles side by side; their touching edges are of different length and overlap in part."""
-    out.lines([(-SIZE, -SIZE), (0, -SIZE), (0, SIZE / 2), (-SIZE, SIZE / 2)])
-    out.lines([(0, -SIZE / 2), (SIZE, -SIZE / 2), (SIZE, SIZE), (0, SIZE)])
+    out.lines([(-size, -size), (0, -size), (0, size / 2), (-size, size / 2)])
+    out.lines([(0, -size / 2), (size, -size / 2), (size, size), (0, size)])
 
 
-def overlapping_arcs(out):
+def overlapping_arcs(out, size):
     """A circle that two arcs give together, each longer than a half."""
-    out.arc((0, 0), SIZE, -10, 190)
-    out.arc((0, 0), SIZE, 170, 370)
+    out.arc((0, 0), size, -10, 190)
+    out.arc((0, 0), size, 170, 370)
 
 
-def inscribed_circle(out):
+def inscribed_circle(out, size):
     """A square that stands on a corner, and the circle that touches its sides."""
-    out.lines([polar(SIZE * 2**0.5, angle) for angle in (0, 90, 180, 270)])
-    out.circle(SIZE)
+    out.lines([polar(size * 2**0.5, angle) for angle in (0, 90, 180, 270)])
+    out.circle(size)
 
 
-def small_gaps(out):
+def small_gaps(out, size):
     """A square each of whose sides ends short of the next one's begin."""
-    corners = [(-SIZE, -SIZE), (SIZE, -SIZE), (SIZE, SIZE), (-SIZE, SIZE)]
+    corners = [(-size, -size), (size, -size), (size, size), (-size, size)]
     ways = [(1, 0), (0, 1), (-1, 0), (0, -1)]
     for number, (x, y) in enumerate(ways):
         end = corners[(number + 1) % 4]
         out.line(corners[number], (end[0] - GAP * x, end[1] - GAP * y))
 
 
-# name, how it is drawn, faces of each
+# name, how it is drawn, faces of each, their area together for size 1
 KINDS = [
-    ("twice", everything_twice, 1),
-    ("cut", line_ending_in_arcs, 2),
-    ("overlap", overlapping_edges, 2),
-    ("two_arcs", overlapping_arcs, 1),
-    ("inscribed", inscribed_circle, 5),
-    ("gap", small_gaps, 1),
+    ("twice", everything_twice, 1, 2 + math.pi / 2),
+    ("cut", line_ending_in_arcs, 2, math.pi),
+    ("overlap", overlapping_edges, 2, 3),
+    ("two_arcs", overlapping_arcs, 1, math.pi),
+    ("inscribed", inscribed_circle, 5, 4),
+    ("gap", small_gaps, 1, 4),
 ]
 
 
-def block_of(number):
-    """The lower left corner of the block of figures of a kind; blocks stand three in a row."""
+def places(number):
+    """The middles and sizes of the figures of a kind. Kinds stand in blocks, three in a row."""
     width = SIDE * PITCH
-    return number % 3 * width, number // 3 * width
+    for place in range(SIDE * SIDE):
+        yield (number % 3 * width + (place % SIDE + 0.5) * PITCH, number // 3 * width + (place // SIDE + 0.5) * PITCH,
+               SMALLEST + (LARGEST - SMALLEST) * place / (SIDE * SIDE - 1))
 
 
 def awkward(turn):
     drawing = Drawing(f"Awkward figures, turned by {turn} degrees, millimetres",
-                      {name: number + 1 for number, (name, _, _) in enumerate(KINDS)})
+                      {kind[0]: number + 1 for number, kind in enumerate(KINDS)})
     out = Turned(drawing, turn)
-    for number, (name, figure, _) in enumerate(KINDS):
-        left, bottom = block_of(number)
-        for place in range(SIDE * SIDE):
-            figure(At(out, name, left + (place % SIDE + 0.5) * PITCH, bottom + (place // SIDE + 0.5) * PITCH))
+    for number, (name, figure, _, _) in enumerate(KINDS):
+        for x, y, size in places(number):
+            figure(At(out, name, x, y), size)
     return drawing
 
 
 def expected():
-    return {
-        "tolerance": TOLERANCE,
-        "block": SIDE * PITCH,
-        "kinds": [{"kind": name, "left_bottom": block_of(number), "figures": SIDE**2, "faces": SIDE**2 * faces}
-                  for number, (name, _, faces) in enumerate(KINDS)],
-    }
+    figures = [{"kind": name, "x": x, "y": y, "faces": faces, "area": area * size**2}
+               for number, (name, _, faces, area) in enumerate(KINDS) for x, y, size in places(number)]
+    return {"tolerance": TOLERANCE, "width": PITCH, "figures": figures}
 
 
 def main():
