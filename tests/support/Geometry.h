@@ -55,6 +55,7 @@ struct TGeometry {
   /// Text of either kind.
   TGeometry(std::string_view aText);
   TGeometry(const char* aText) : TGeometry(std::string_view(aText)) {}
+  TGeometry(const std::string& aText) : TGeometry(std::string_view(aText)) {}
 };
 
 std::string ToText(const TGeometry& aGeometry);
