@@ -78,8 +78,9 @@ bool HasInsideBox(TEntityStorage& aOutline) {
   return aOutline.Min_X() < aOutline.Max_X() && aOutline.Min_Y() < aOutline.Max_Y();
 }
 
-// KEPT: a cell's bound is held against the best cell's bound, not against its distance; the search therefore stops
-// sooner than the precision promises, and label points of existing projects rest on where it stops.
+// KEPT: a cell's bound is held against the best cell's bound, not against its distance. Cells come in the order of
+// their bounds, so the first one found inside ends the splitting, and the precision weighs only while the best is the
+// centroid, a cell without width. Labels of existing projects stand where this search leaves them.
 bool IsWorthSplitting(const TCell& aCell, const TCell& aBest, double aPrecision, double aMinimumDistance) {
   return !(aBest.fDistance > aMinimumDistance) || aCell.fMaxDistance - aBest.fMaxDistance > aPrecision;
 }

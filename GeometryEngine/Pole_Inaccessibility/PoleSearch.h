@@ -46,13 +46,16 @@ GEOMETRYENGINE_API int CellComparer(const TCell& aLeft, const TCell& aRight);
 /// DEGENERATE: minus infinity without any boundary.
 GEOMETRYENGINE_API double GetSignedDistance(const TPoleRegion& aRegion, const TEntityCoordinate& aPoint);
 
-/// A point well inside the region's material: of squares that cover the region, those with the best prospect are
-/// quartered first, until none left promises an advance of more than `aPrecision`.
+/// A point well inside the region's material. Squares cover the region's box; those with the best prospect are looked
+/// at first, and quartered until the search has found a centre that lies further inside than `aMinimumDistance`. Of all
+/// centres that it has looked at by then, and the centroid, the one that lies furthest inside is the answer.
 ///
-/// UNITS: both lengths in drawing length units. Below a distance of `aMinimumDistance` the precision is not enough to
-/// stop: the search goes on until it has found a point that is at least that far inside.
-/// RANGE: how far the answer is from the best point is bounded by the precision and the size of the squares together,
-/// so it is a good place for a label, not a measure of the region.
+/// When the centroid itself lies that far inside, squares are quartered only while one promises an advance of more than
+/// `aPrecision` over it, and until a better centre is found.
+///
+/// UNITS: both lengths in drawing length units.
+/// RANGE: the answer lies inside the material wherever the search succeeds, but it need not be the best point: it is a
+/// good place for a label, not a measure of the region.
 /// DEGENERATE: the centroid for a region that isn't searchable, whose box has no width or no height, whose box would
 /// need more than 1,000,000 squares to cover (or squares too small to tell their positions apart), and when 1001
 /// splits have not settled the search.

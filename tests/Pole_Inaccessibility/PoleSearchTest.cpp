@@ -1,0 +1,252 @@
+#include "GeometryEngine/Pole_Inaccessibility/PoleSearch.h"
+
+#include <limits>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+
+#include "tests/support/Chains.h"
+#include "tests/support/Geometry.h"
+#include "tests/support/Regions.h"
+#include "tests/support/Settings.h"
+
+namespace GeometryEngine {
+namespace {
+
+using support::IsBits;
+using support::MakeChain;
+using support::RectangleText;
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
+constexpr double kPrecision = 1.0;
+constexpr double kMinimumDistance = 0.001;
+const TEntityCoordinate kCentroid = {-77, 77};  // far outside, so that it is told from a point that was found
+
+// A region of chains given as text.
+class PoleSearchTest : public ::testing::Test {
+ protected:
+  explicit PoleSearchTest(const std::string& aOutline = RectangleText(0, 0, 10, 10)) { Outline(aOutline); }
+
+  void Outline(const std::string& aText) {
+    fOutline = MakeChain(aText);
+    fRegion.fOutline = fOutline.get();
+    fRegion.fCentroid = kCentroid;
+    fRegion.fSearchable = true;
+  }
+  void Internal(const std::string& aText) {
+    fInternal = MakeChain(aText);
+    fRegion.fInternal = fInternal.get();
+  }
+  void Child(const std::string& aText) {
+    fChildren.push_back(MakeChain(aText));
+    fRegion.fChildOutlines.push_back(fChildren.back().get());
+  }
+  TEntityCoordinate Find(double aPrecision = kPrecision, double aMinimumDistance = kMinimumDistance) const {
+    return FindPoleInaccessibility(fRegion, aPrecision, aMinimumDistance);
+  }
+  double DistanceAt(double x, double y) const { return GetSignedDistance(fRegion, {x, y}); }
+
+  support::TSettingsGuard fSettings;
+  TPoleRegion fRegion;
+
+ private:
+  std::unique_ptr<TEntityStorage> fOutline;
+  std::unique_ptr<TEntityStorage> fInternal;
+  std::vector<std::unique_ptr<TEntityStorage>> fChildren;
+};
+
+using SignedDistance = PoleSearchTest;
+
+TEST_F(SignedDistance, IsPositiveInsideAndNegativeOutside) {
+  EXPECT_EQ(DistanceAt(5, 5), 5);
+  EXPECT_EQ(DistanceAt(2, 7), 2);
+  EXPECT_EQ(DistanceAt(-3, 5), -3);
+  EXPECT_EQ(DistanceAt(13, 14), -5);
+  EXPECT_EQ(DistanceAt(10, 5), 0);
+}
+
+TEST_F(SignedDistance, TheInternalChainIsABoundaryAndWhatItHoldsIsOutside) {
+  Internal(RectangleText(4, 4, 6, 6));
+  EXPECT_EQ(DistanceAt(3, 5), 1);
+  EXPECT_EQ(DistanceAt(5, 5), -1);
+  EXPECT_EQ(DistanceAt(1, 5), 1);
+}
+
+TEST_F(SignedDistance, ChildrenAreBoundariesAndOutsideWithTheirRims) {
+  Child(RectangleText(1, 1, 3, 3));
+  Child(RectangleText(6, 6, 9, 9));
+  EXPECT_EQ(DistanceAt(2, 2), -1);
+  EXPECT_EQ(DistanceAt(7.5, 7.5), -1.5);
+  EXPECT_EQ(DistanceAt(5, 2), 2);
+  EXPECT_EQ(DistanceAt(5, 7), 1);
+}
+
+TEST_F(SignedDistance, WithoutAnyBoundaryIsMinusInfinity) {
+  fRegion = {};
+  EXPECT_EQ(DistanceAt(0, 0), -kInfinity);
+  Child(RectangleText(1, 1, 3, 3));
+  fRegion.fChildOutlines.push_back(nullptr);
+  EXPECT_EQ(DistanceAt(5, 2), -2) << "a region without an outline has no inside";
+}
+
+using Cell = PoleSearchTest;
+
+TEST_F(Cell, IsMeasuredAsItIsMade) {
+  const TCell cell(2, 5, 3, fRegion);
+  EXPECT_EQ(cell.fCenter_X, 2);
+  EXPECT_EQ(cell.fCenter_Y, 5);
+  EXPECT_EQ(cell.fHalfWidth, 3);
+  EXPECT_EQ(cell.fDistance, 2);
+  EXPECT_EQ(cell.fMaxDistance, 2 + 3 * 1.4142135623730951);
+}
+
+TEST_F(Cell, OfNoWidthHasItsDistanceAsBound) {
+  const TCell cell(2, 5, 0, fRegion);
+  EXPECT_EQ(cell.fMaxDistance, cell.fDistance);
+}
+
+class CompareCells : public PoleSearchTest {
+ protected:
+  int Compare(double aLeft, double aRight) const {
+    TCell left(5, 5, 0, fRegion);
+    TCell right(5, 5, 0, fRegion);
+    left.fMaxDistance = aLeft;
+    right.fMaxDistance = aRight;
+    return CellComparer(left, right);
+  }
+};
+
+TEST_F(CompareCells, TheGreaterBoundComesFirst) {
+  EXPECT_LT(Compare(2, 1), 0);
+  EXPECT_GT(Compare(1, 2), 0);
+  EXPECT_EQ(Compare(2, 2), 0);
+  EXPECT_EQ(Compare(kInfinity, kInfinity), 0);
+  EXPECT_LT(Compare(kInfinity, 1), 0);
+  EXPECT_GT(Compare(-kInfinity, 1), 0);
+}
+
+TEST_F(CompareCells, BoundsThatAreNoNumberComeLast) {
+  EXPECT_LT(Compare(-kInfinity, kNotANumber), 0);
+  EXPECT_GT(Compare(kNotANumber, -kInfinity), 0);
+  EXPECT_EQ(Compare(kNotANumber, kNotANumber), 0);
+}
+
+using FindPole = PoleSearchTest;
+
+TEST_F(FindPole, OfASquareIsItsCentre) {
+  fRegion.fCentroid = {5, 5};
+  EXPECT_THAT(Find(), IsBits(5, 5));
+  fRegion.fCentroid = kCentroid;
+  EXPECT_THAT(Find(), IsBits(5, 5)) << "the one cell of the grid is the square itself";
+}
+
+TEST_F(FindPole, PrefersTheCentroidWhereNoCellIsBetter) {
+  Outline(RectangleText(0, 0, 30, 10));
+  fRegion.fCentroid = {15, 5};
+  EXPECT_THAT(Find(), IsBits(15, 5));
+}
+
+TEST_F(FindPole, AmongEqualCellsTakesTheLeftmost) {
+  Outline(RectangleText(0, 0, 30, 10));
+  EXPECT_THAT(Find(), IsBits(5, 5));
+}
+
+TEST_F(FindPole, RecomputesTheBoundsOfTheOutline) {
+  fRegion.fOutline->Translate(100, 0);
+  EXPECT_THAT(Find(), IsBits(105, 5));
+  EXPECT_EQ(fRegion.fOutline->Max_X(), 110);
+}
+
+TEST_F(FindPole, OfARegionThatIsNotSearchableIsTheCentroid) {
+  fRegion.fSearchable = false;
+  EXPECT_THAT(Find(), IsBits(kCentroid));
+  fRegion.fSearchable = true;
+  fRegion.fOutline = nullptr;
+  EXPECT_THAT(Find(), IsBits(kCentroid));
+}
+
+TEST_F(FindPole, OfABoxWithoutWidthOrHeightIsTheCentroid) {
+  for (const char* flat : {"L 0,3 10,3; L 10,3 0,3", "L 3,0 3,10; L 3,10 3,0", ""}) {
+    Outline(flat);
+    EXPECT_THAT(Find(), IsBits(kCentroid)) << flat;
+  }
+}
+
+TEST_F(FindPole, BoundIsHeldAgainstTheBestBoundAndNotItsDistanceKept) {
+  Internal(RectangleText(5.5, 4, 6.5, 6));
+  const TEntityCoordinate found = Find();
+  EXPECT_THAT(found, IsBits(5, 5));
+  EXPECT_EQ(DistanceAt(found.x, found.y), 0.5);
+  EXPECT_GT(DistanceAt(2.75, 5), 0.5 + kPrecision) << "far better points are left unsearched";
+}
+
+TEST_F(FindPole, PrunesNothingUntilTheMinimumDistanceIsReached) {
+  Internal(RectangleText(5.5, 4, 6.5, 6));
+  const TEntityCoordinate found = Find(kPrecision, 0.5);
+  EXPECT_GT(DistanceAt(found.x, found.y), 0.5);
+}
+
+TEST_F(FindPole, ACentroidInsideStaysUnlessACellPromisesMoreThanThePrecision) {
+  Outline(support::PolygonText("0,0 10,0 10,2 2,2 2,8 10,8 10,10 0,10"));
+  fRegion.fCentroid = {1, 5};
+  ASSERT_EQ(DistanceAt(1, 5), 1);
+  EXPECT_THAT(Find(4), IsBits(1, 5)) << "the whole box promises 4.07 at most";
+  const TEntityCoordinate found = Find(2);
+  EXPECT_GT(DistanceAt(found.x, found.y), 1);
+}
+
+TEST_F(FindPole, APromiseOfJustThePrecisionIsNotWorthASplit) {
+  Outline(support::PolygonText("0,0 10,0 10,2 2,2 2,8 10,8 10,10 0,10"));
+  fRegion.fCentroid = {1, 5};
+  const double promise = TCell(2.5, 2.5, 2.5, fRegion).fMaxDistance - 1;  // of a quarter, less than the box's
+  EXPECT_THAT(Find(promise), IsBits(1, 5));
+  EXPECT_THAT(Find(promise - 1e-12), ::testing::Not(IsBits(1, 5)));
+}
+
+TEST_F(FindPole, ASearchThatUsesUpItsSplitsAnswersTheCentroidKept) {
+  EXPECT_THAT(Find(kPrecision, 4.9), IsBits(5, 5));
+  EXPECT_THAT(Find(kPrecision, 1e9), IsBits(kCentroid)) << "although (5, 5) was found at once";
+  EXPECT_THAT(Find(kPrecision, kNotANumber), IsBits(kCentroid));
+  Internal(RectangleText(5.5, 4, 6.5, 6));
+  EXPECT_THAT(Find(-kInfinity), IsBits(kCentroid));
+}
+
+TEST_F(FindPole, MoreThan1000ColumnsOrRowsAreSearchedLikeFewerKept) {
+  fRegion.fCentroid = {750, 0.5};
+  Outline(RectangleText(0, 0, 1500, 1));
+  EXPECT_THAT(Find(), IsBits(0.5, 0.5));
+  Outline(RectangleText(0, 0, 1, 1500));
+  EXPECT_THAT(Find(), IsBits(0.5, 0.5));
+}
+
+TEST_F(FindPole, OfABoxThatNeedsMoreThanAMillionCellsIsTheCentroid) {
+  Outline(RectangleText(0, 0, 1e7, 1));
+  EXPECT_THAT(Find(), IsBits(kCentroid));
+  Outline(RectangleText(0, 0, 1, 1e300));
+  EXPECT_THAT(Find(), IsBits(kCentroid));
+}
+
+TEST_F(FindPole, StepsThatGetLostInLargeCoordinatesEndTheSearch) {
+  Outline(RectangleText(1e16, 0, 1e16 + 4, 0.5));
+  EXPECT_THAT(Find(), IsBits(kCentroid));
+}
+
+TEST_F(FindPole, EndlessBoxesAndBoxesOfNoNumberEndTheSearch) {
+  for (const double bad : {kInfinity, -kInfinity, kNotANumber}) {
+    for (const std::string& outline : {RectangleText(0, 0, bad, 10), RectangleText(0, 0, bad, bad)}) {
+      Outline(outline);
+      EXPECT_THAT(Find(), IsBits(kCentroid)) << outline;
+    }
+  }
+}
+
+TEST_F(FindPole, ACentroidOfNoNumberLosesAgainstACellThatIsInside) {
+  fRegion.fCentroid = {kNotANumber, kNotANumber};
+  EXPECT_THAT(Find(), IsBits(5, 5));
+}
+
+}  // namespace
+}  // namespace GeometryEngine
