@@ -1,0 +1,99 @@
+#include "tests/support/Detection.h"
+
+#include <algorithm>
+#include <cmath>
+#include <tuple>
+
+#include "tests/support/Chains.h"
+#include "tests/support/Geometry.h"
+
+namespace GeometryEngine::support {
+
+namespace {
+
+constexpr double kRounding = 1e-9;  // relative to the area
+
+bool IsClose(double aLeft, double aRight, double aEps) {
+  return aLeft == aRight || std::abs(aLeft - aRight) <= aEps;
+}
+
+bool IsClose(const TEntityCoordinate& aLeft, const TEntityCoordinate& aRight, double aEps) {
+  return IsClose(aLeft.x, aRight.x, aEps) && IsClose(aLeft.y, aRight.y, aEps);
+}
+
+TLoop GetLoop(const TEntityTree& aRegionTree, const TTreeNode& aRegion) {
+  TEntityStorage chain;
+  TLoop loop;
+  for (const TTreeNode* child : aRegion.Children()) {
+    chain.AddEntity(aRegionTree.GetNodeEntity(*child));
+    loop.length += aRegionTree.GetNodeEntity(*child).EntityLength();
+  }
+  chain.CalculateMinMaxValues();
+  loop.count = chain.Count();
+  loop.area = aRegion.GaussArea();
+  loop.low = {chain.Min_X(), chain.Min_Y()};
+  loop.high = {chain.Max_X(), chain.Max_Y()};
+  loop.centroid = aRegion.RegionCentroid();
+  return loop;
+}
+
+bool ComesBefore(const TLoop& aLeft, const TLoop& aRight) {
+  const auto key = [](const TLoop& loop) {
+    return std::make_tuple(std::round(loop.area / kRounding), loop.count, std::round(loop.low.x / kRounding),
+                           std::round(loop.low.y / kRounding));
+  };
+  return key(aLeft) < key(aRight);
+}
+
+}  // namespace
+
+TDetection::TDetection(std::string_view aDrawing) : TDetection(ParseEntities(aDrawing)) {}
+
+TDetection::TDetection(const TEntityArray& aDrawing) {
+  drawing.AddEntities(aDrawing);
+  driver.DetermineInterceptions(&drawing);
+}
+
+void PrintTo(const TLoop& aLoop, std::ostream* aOut) {
+  *aOut << aLoop.count << " entities, area " << ToText(aLoop.area) << ", length " << ToText(aLoop.length) << ", box "
+        << ToText(aLoop.low) << " to " << ToText(aLoop.high) << ", centroid " << ToText(aLoop.centroid);
+}
+
+std::vector<TLoop> GetLoops(const TEntityBaseClass& aDriver) {
+  std::vector<TLoop> loops;
+  for (const TTreeNode* region : aDriver.RegionTree().RootNode()->Children()) {
+    loops.push_back(GetLoop(aDriver.RegionTree(), *region));
+  }
+  std::ranges::sort(loops, ComesBefore);
+  return loops;
+}
+
+std::vector<TLoop> DetectLoops(const TEntityArray& aDrawing, std::int32_t aRegionType) {
+  TDetection detection(aDrawing);
+  detection.driver.DetermineRegions(detection.driver.CoordinateTree(), aRegionType);
+  return GetLoops(detection.driver);
+}
+
+std::vector<TLoop> DetectLoops(std::string_view aDrawing, std::int32_t aRegionType) {
+  return DetectLoops(ParseEntities(aDrawing), aRegionType);
+}
+
+std::vector<TLoop> DetectChains(std::string_view aDrawing) {
+  TDetection detection(aDrawing);
+  detection.driver.DetectOrphanEntities(detection.driver.CoordinateTree());
+  return GetLoops(detection.driver);
+}
+
+testing::Matcher<const TLoop&> IsLoop(TIndex aCount, double aArea) {
+  return testing::AllOf(
+      testing::Field("count", &TLoop::count, aCount),
+      testing::Field("area", &TLoop::area, testing::DoubleNear(aArea, kRounding * std::max(1.0, std::abs(aArea)))));
+}
+
+bool IsSameLoop(const TLoop& aLeft, const TLoop& aRight, double aEps) {
+  return aLeft.count == aRight.count && IsClose(aLeft.area, aRight.area, aEps) &&
+         IsClose(aLeft.length, aRight.length, aEps) && IsClose(aLeft.low, aRight.low, aEps) &&
+         IsClose(aLeft.high, aRight.high, aEps) && IsClose(aLeft.centroid, aRight.centroid, aEps);
+}
+
+}  // namespace GeometryEngine::support
