@@ -44,7 +44,8 @@ std::int32_t GetWindingNumber_Entity_Addition(const TDXFEntity& aEntity, const T
 }
 
 // KEPT: going up, only a point strictly to the left counts; going down, a point on the segment's line counts like one
-// to the right. A point on a shared edge so belongs to exactly one of the two regions that the edge parts.
+// to the right. A point on an edge is so outside an anticlockwise chain and inside a clockwise one, on either side of
+// it.
 std::int32_t DetermineInterceptResult(const TEntityCoordinate& aStart, const TEntityCoordinate& aEnd,
                                       const TEntityCoordinate& aPoint) {
   if (IsBelowOrLevel(aStart.y, aPoint.y) && IsClearlyAbove(aEnd.y, aPoint.y))

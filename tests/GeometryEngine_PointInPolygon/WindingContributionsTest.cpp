@@ -84,6 +84,14 @@ TEST(GetWindingNumber_Entity_Addition, SquareWindsOnceRoundItsCentre) {
   }
 }
 
+TEST(GetWindingNumber_Entity_Addition, PointOnAnEdgeIsOutsideAnticlockwiseAndInsideClockwiseKept) {
+  TSettingsGuard settings;
+  for (const TEntityCoordinate& point : ParseCoordinates("0,0.5 1,0.5")) {
+    EXPECT_EQ(WindingNumber("L 0,0 1,0; L 1,0 1,1; L 1,1 0,1; L 0,1 0,0", {0, 0}, point), 0);
+    EXPECT_EQ(WindingNumber("L 0,1 0,0; L 1,1 0,1; L 1,0 1,1; L 0,0 1,0", {0, 0}, point), -1);
+  }
+}
+
 TEST(GetWindingNumber_Entity_Addition, CircleOfTwoArcsWindsOnceRoundItsInside) {
   TSettingsGuard settings;
   constexpr std::string_view kCircle = "A c 3,4 r 2 0..180; A c 3,4 r 2 180..360";
