@@ -84,7 +84,7 @@ double TTree_Geometry::GetRadius_Minimum(const TGeometryRegionTypesSet& aRegionT
 
 double TTree_Geometry::GetRadius_Maximum(const TGeometryRegionTypesSet& aRegionTypes) const {
   double radius = -kRadiusBeyondAll;
-  // KEPT: the root counts here, as it does for the minimum.
+  // The root counts here too, as it does for the minimum.
   for (const TTreeNode_Geometry* region : RegionsFrom(0)) {
     if (region->IsOfType_WithinSet(aRegionTypes)) radius = std::max(radius, region->Entities().GetRadius_Maximum());
   }

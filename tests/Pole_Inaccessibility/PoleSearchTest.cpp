@@ -214,6 +214,17 @@ TEST_F(FindPole, ASearchThatUsesUpItsSplitsAnswersTheCentroidKept) {
   EXPECT_THAT(Find(-kInfinity), IsBits(kCentroid));
 }
 
+// Slanting rectangles whose search comes upon a better centre just after the 1000th and just after the 1001st split.
+TEST_F(FindPole, ASearchOf1000SplitsIsAnsweredAndOneOf1001IsGivenUp) {
+  Outline(support::PolygonText("32,0 244,128 212,181 0,53"));
+  EXPECT_THAT(Find(kPrecision, 30.9549), IsBits(155.81201171875, 110.91552734375));
+  EXPECT_THAT(Find(kPrecision, 30.955), IsBits(kCentroid));
+  Outline(support::PolygonText("48,0 330,288 282,335 0,47"));
+  const double distance = DistanceAt(77.8271484375, 78.4716796875);
+  EXPECT_GT(distance, 33.588);
+  EXPECT_THAT(Find(kPrecision, 33.588), IsBits(kCentroid));
+}
+
 TEST_F(FindPole, MoreThan1000ColumnsOrRowsAreSearchedLikeFewerKept) {
   fRegion.fCentroid = {750, 0.5};
   Outline(RectangleText(0, 0, 1500, 1));
