@@ -11,7 +11,8 @@ if(TARGET xsec)
 endif()
 
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/GeometryEngine DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
-        FILES_MATCHING PATTERN "*.h" PATTERN detail EXCLUDE PATTERN host EXCLUDE)
+        FILES_MATCHING PATTERN "*.h" PATTERN detail EXCLUDE)
+# Last, so that the headers of a host of its own replace the library's.
 install(DIRECTORY ${GEOMETRYENGINE_HOST_ROOT}/GeometryEngine/host DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/GeometryEngine
         FILES_MATCHING PATTERN "*.h")
 install(FILES ${PROJECT_BINARY_DIR}/generated/GeometryEngine/Export.h

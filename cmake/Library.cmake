@@ -1,5 +1,5 @@
 # The shared library. A host that brings its own settings store and base package sets GEOMETRYENGINE_HOST_ROOT to a
-# folder that holds GeometryEngine/host/ with the same headers.
+# folder that holds GeometryEngine/host/ with the same headers; what it leaves out is the library's own.
 
 include(GenerateExportHeader)
 include(GNUInstallDirs)
@@ -10,7 +10,15 @@ list(FILTER geometryengine_sources EXCLUDE REGEX "^GeometryEngine/host/")
 
 # Makes a shared library of the sources with the host package found below `host_root`.
 function(geometryengine_add_library target host_root)
-  file(GLOB host_sources CONFIGURE_DEPENDS ${host_root}/GeometryEngine/host/*.cpp)
+  set(host_sources)
+  set(host_names)
+  foreach(root IN ITEMS ${host_root} ${PROJECT_SOURCE_DIR})
+    file(GLOB names CONFIGURE_DEPENDS RELATIVE ${root}/GeometryEngine/host ${root}/GeometryEngine/host/*.cpp)
+    list(REMOVE_ITEM names ${host_names})
+    list(APPEND host_names ${names})
+    list(TRANSFORM names PREPEND ${root}/GeometryEngine/host/)
+    list(APPEND host_sources ${names})
+  endforeach()
   list(TRANSFORM geometryengine_sources PREPEND ${PROJECT_SOURCE_DIR}/ OUTPUT_VARIABLE sources)
   add_library(${target} SHARED ${sources} ${host_sources})
   target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:geometryengine_flags>)

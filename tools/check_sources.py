@@ -40,8 +40,8 @@ def shape_faults(paths):
 
 
 def module(path):
-    """The folder of a module: GeometryEngine/<Module> and tests/<Module> give the same."""
-    parts = path.relative_to(ROOT).parts
+    """The folder of a module: GeometryEngine/<Module>, tests/<Module> and tests/counting_host/<Module> give the same."""
+    parts = [part for part in path.relative_to(ROOT).parts if part != "counting_host"]
     return parts[0] if parts[0] == "xsec" else parts[1]
 
 

@@ -43,14 +43,18 @@ std::vector<DetectedRegion> DetectRegions(const TEntityArray& aEntities) {
   TEntityStorage storage;
   storage.AddEntities(aEntities);
   TEntityBaseClass driver;
-  driver.DetermineInterceptions(&storage);
-  driver.DetermineRegions(driver.CoordinateTree(), 1);
-  driver.IdentifySubRegions(driver.CoordinateTree());
-  driver.RemoveDuplicatedSubRegions();
+  return DetectRegions(driver, storage);
+}
+
+std::vector<DetectedRegion> DetectRegions(TEntityBaseClass& aDriver, TEntityStorage& aStorage) {
+  aDriver.DetermineInterceptions(&aStorage);
+  aDriver.DetermineRegions(aDriver.CoordinateTree(), 1);
+  aDriver.IdentifySubRegions(aDriver.CoordinateTree());
+  aDriver.RemoveDuplicatedSubRegions();
 
   TTree_Geometry tree;
-  const TTreeNodeArray_Geometry nodes = HandOver(driver, tree);
-  const auto parents = Parents(*driver.RegionTree().RootNode());
+  const TTreeNodeArray_Geometry nodes = HandOver(aDriver, tree);
+  const auto parents = Parents(*aDriver.RegionTree().RootNode());
   for (std::size_t i = 0; i < nodes.size(); ++i) {
     if (parents[i]) tree.MoveTreeNode_Recursive(nodes[i], nodes[*parents[i]]);
   }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
+#include "GeometryEngine/DXF_Regions_BaseClasses/TEntityBaseClass.h"
 
 namespace GeometryEngine::support {
 
@@ -22,5 +23,8 @@ struct DetectedRegion {
 
 /// The bounded faces of a drawing, nested, with net areas and label points.
 std::vector<DetectedRegion> DetectRegions(const TEntityArray& aEntities);
+
+/// The same with a driver and a storage of the caller's, which may have been used before.
+std::vector<DetectedRegion> DetectRegions(TEntityBaseClass& aDriver, TEntityStorage& aStorage);
 
 }  // namespace GeometryEngine::support
