@@ -40,7 +40,7 @@ void AddEntities_CheckDuplicate(TEntityArray& aEntities, std::span<const TDXFEnt
 }
 
 TDXFEntity GetEntity_Next(std::span<const TDXFEntity> aEntities, TIndex aIndex) {
-  if (aIndex < 0) return {};
+  if (!IsIndexWithin(aIndex, aEntities.size())) return {};
   return detail::GetElementOrEmpty(aEntities, detail::GetRingNext(aIndex, aEntities.size()));
 }
 
