@@ -49,6 +49,8 @@ void TEntityStorage::CalculateMinMaxValues_RT() {
   }
 }
 
+// KEPT: only the ends of entities count, not the bulge of an arc between them; callers that compare the vertices of two
+// outlines rely on it, and those who want the outline itself have GetRadius_MaximumSurf.
 double TEntityStorage::GetRadius_Maximum() const {
   if (fEntityArray.empty()) return 0;
   double radius = kBelowEveryRadius;

@@ -27,6 +27,8 @@ bool PointOnEntity(const TDXFEntity& aEntity, const TEntityCoordinate& aPoint) {
 bool TEntityStorage::PointInsideEntities(const TEntityCoordinate& aCoord, bool aIncludePointOnEntity) const {
   if (PointOnEntities(aCoord)) return aIncludePointOnEntity;
   std::int64_t winding = 0;
+  // KEPT: the walk begins at the stored start vertex and looks for none; the owner keeps it, and may ask about many
+  // points without the chain's ends being searched each time.
   for (detail::TVertexWalk walk(fEntityArray, fStartCoordinate); walk.Next();) {
     winding += GetWindingNumber_Entity_Addition(walk.Entity(), walk.From(), walk.To(), aCoord);
   }

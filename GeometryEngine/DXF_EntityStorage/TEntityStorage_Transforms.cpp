@@ -19,6 +19,8 @@ void ReplaceEach(TEntityArray& aEntities, const TTransform& aTransform) {
 
 }  // namespace
 
+// KEPT: unlike Translate and Mirror, rotations leave the stored start vertex alone; whoever turns a chain to and fro
+// finds the vertex that was stored.
 void TEntityStorage::RotateEntities(const TRotationMatrix& aMatrix) {
   ReplaceEach(fEntityArray, [&](const TDXFEntity& aEntity) { return RotateEntity_AroundAxis(aEntity, aMatrix); });
 }
