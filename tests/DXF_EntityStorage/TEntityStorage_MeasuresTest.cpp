@@ -189,7 +189,7 @@ TEST(TEntityStorage_Measures, AnswerWithAnyTolerance) {
     TSettingsGuard settings;
     settings.With(Maindataenum::TInputFields::ifLinearTolerance, tolerance)
         .With(Maindataenum::TInputFields::ifAngleTolerance, tolerance)
-        .With(Maindataenum::TInputFields::ifArcResolution, tolerance == 1e300 ? 1 : tolerance);
+        .With(Maindataenum::TInputFields::ifArcResolution, tolerance);
     const auto chain = MakeChain(kHalfDisc);
     chain->PointInsideEntities({5, 2}, false);
     chain->GetClosedArea();
