@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::int32_t kAreaSegments = 5;        // segments of the polygon that stands for an arc's area
 constexpr std::int32_t kLeastSegments = 3;       // of a resolved arc
+constexpr std::int32_t kMostSegments = 1000000;  // of a resolved arc; chords that fine differ from it by rounding only
 constexpr double kDegreesPerFactor = 10;         // the resolution factor counts segments per this many degrees
 constexpr double kChordTolerance = 0.01;         // drawing length units between chord and arc
 constexpr double kFullTurn = 6.283185307179586;  // radians
@@ -121,8 +122,8 @@ double GetArcSegment_Step(const TDXFEntity& aArc, std::int32_t aSegments) {
 
 TArcSegments GetArcSegmentPoints_Step(const TDXFEntity& aArc, double aFactor) {
   const double sweep = GetSweep_Segments(aArc);
-  const std::int32_t count =
-      std::max(ToInteger_Saturated(std::nearbyint(sweep / kDegreesPerFactor * aFactor)), kLeastSegments);
+  const double wanted = std::nearbyint(sweep / kDegreesPerFactor * aFactor);
+  const std::int32_t count = std::clamp(ToInteger_Saturated(wanted), kLeastSegments, kMostSegments);
   return {count, sweep / count};
 }
 
