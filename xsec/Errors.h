@@ -13,6 +13,7 @@ enum class ExitCode : int {
   InputUnreadable = 3,
   OutputNotWritten = 4,
   NoClosedRegion = 5,
+  UnexpectedFault = 70,  ///< nothing the user can help: the memory is used up, or there is a mistake in the program
 };
 
 /// The drawing cannot be read. what() is one line for people: "FILE:LINE: what is wrong; what to do".

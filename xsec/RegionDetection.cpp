@@ -113,7 +113,9 @@ std::vector<Region> NestedRegions(const TracedLoops& loops, const Nesting& nesti
   }
   for (std::size_t i = 0; i < loops.outerBoundaries.size(); ++i) {
     const std::size_t owner = nesting.holeOwners[i];
-    if (owner != kNone) regions[owner].holes.push_back(loops.outerBoundaries[i].pieces);
+    if (owner == kNone) continue;
+    regions[owner].holes.push_back(loops.outerBoundaries[i].pieces);
+    regions[owner].holeArea -= loops.outerBoundaries[i].area;
   }
   return regions;
 }

@@ -22,7 +22,8 @@ struct Region {
   Loop outline;             ///< anticlockwise
   std::vector<Loop> holes;  ///< clockwise, each the outer boundary of a group of touching regions
   double baseArea = 0;      ///< UNITS: mm2, of the outline
-  double netArea = 0;       ///< UNITS: mm2, without what lies inside it
+  double holeArea = 0;      ///< UNITS: mm2, of the holes together
+  double netArea = 0;       ///< UNITS: mm2, of the outline without its children
   Point centroid;           ///< of the outline
   Point label;              ///< inside the region and outside its holes
   double clearance = 0;     ///< from the label to the nearest boundary
@@ -51,6 +52,11 @@ struct Diagnostics {
   std::size_t collapsed = 0;  ///< entities whose ends are the same point under the tolerance
   std::size_t lostSides = 0;  ///< sides of closed pieces that no loop was traced along
 };
+
+/// The number that stands for a region in every output and message; the first is 1.
+inline std::size_t RegionId(std::size_t aIndex) {
+  return aIndex + 1;
+}
 
 struct Detection {
   std::vector<Region> regions;

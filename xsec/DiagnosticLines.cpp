@@ -1,0 +1,101 @@
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "xsec/Report.h"
+
+namespace xsec {
+
+namespace {
+
+/// Of a long list this many are told on the terminal; the JSON output has them all.
+constexpr std::size_t kToldOfEach = 8;
+
+class Lines {
+ public:
+  template <typename... Values>
+  void Add(fmt::format_string<Values...> format, Values&&... values) {
+    fLines.push_back(fmt::format(format, std::forward<Values>(values)...));
+  }
+
+  /// The first few of `count` things, each told by `tell`.
+  template <typename Tell>
+  void AddFirst(std::size_t count, Tell&& tell) {
+    for (std::size_t i = 0; i < std::min(count, kToldOfEach); ++i) fLines.push_back("  " + tell(i));
+    if (count > kToldOfEach) Add("  and {} more; -o FILE.json lists all", count - kToldOfEach);
+  }
+
+  std::vector<std::string> Take() { return std::move(fLines); }
+
+ private:
+  std::vector<std::string> fLines;
+};
+
+void AddBasis(const Report& report, Lines& lines) {
+  const DrawingUnits& units = report.drawing.units;
+  lines.Add("drawing in {} ({}); all results in mm", units.name, units.source);
+  lines.Add("linear tolerance {:.6g} mm{}", report.settings.tolerance,
+            report.settings.toleranceGiven ? "" : ", a millionth of the drawing's diagonal");
+}
+
+void AddReading(const Drawing& drawing, Lines& lines) {
+  for (const auto& [type, count] : drawing.flattened) lines.Add("{} {} turned into lines and arcs", count, type);
+  for (const auto& [kind, count] : drawing.skipped) {
+    lines.Add("skipped {} {} on layer \"{}\": {}", count, kind.type, kind.layer, kind.reason);
+  }
+}
+
+std::string Place(const OpenPiece& open, const Drawing& drawing) {
+  const auto end = [](const Point& point, bool dangles) {
+    return fmt::format("({:.6g}, {:.6g}){}", point.x, point.y, dangles ? " loose" : "");
+  };
+  std::string place =
+      fmt::format("{} to {}", end(open.piece.from, open.fromDangles), end(open.piece.to, open.toDangles));
+  if (open.piece.source == kNone) return place;
+  const DrawingEntity& source = drawing.entities[open.piece.source];
+  place += fmt::format(", {} on layer \"{}\"", source.type, source.layer);
+  return source.line == 0 ? place : place + fmt::format(", line {} of the file", source.line);
+}
+
+void AddOpenPieces(const Report& report, Lines& lines) {
+  const auto& open = report.detection.diagnostics.openPieces;
+  if (open.empty()) return;
+  lines.Add("warning: pieces that bound no region: {}, loose ends among them: {}", open.size(),
+            CountLooseEnds(report.detection));
+  lines.AddFirst(open.size(), [&](std::size_t i) { return Place(open[i], report.drawing); });
+}
+
+void AddCorrections(const Diagnostics& diagnostics, Lines& lines) {
+  const auto& corrections = diagnostics.corrections;
+  if (corrections.empty()) return;
+  lines.Add("answers of the detection that were put right: {}", corrections.size());
+  lines.AddFirst(corrections.size(), [&](std::size_t i) { return corrections[i].text; });
+}
+
+void AddDegenerate(const Detection& detection, Lines& lines) {
+  const auto slivers = std::count_if(detection.regions.begin(), detection.regions.end(),
+                                     [](const Region& region) { return region.sliver; });
+  if (slivers > 0) lines.Add("warning: slivers, smaller than a square of the tolerance: {} regions", slivers);
+  const Diagnostics& diagnostics = detection.diagnostics;
+  if (diagnostics.collapsed > 0) lines.Add("entities shorter than the tolerance, left out: {}", diagnostics.collapsed);
+  if (diagnostics.lostSides > 0) {
+    lines.Add("warning: sides of closed pieces along which no loop was found: {}; regions may be missing",
+              diagnostics.lostSides);
+  }
+}
+
+}  // namespace
+
+std::vector<std::string> DiagnosticLines(const Report& aReport) {
+  Lines lines;
+  AddBasis(aReport, lines);
+  AddReading(aReport.drawing, lines);
+  for (const std::string& warning : aReport.drawing.warnings) lines.Add("warning: {}", warning);
+  for (const std::string& warning : aReport.detection.diagnostics.warnings) lines.Add("warning: {}", warning);
+  AddCorrections(aReport.detection.diagnostics, lines);
+  AddDegenerate(aReport.detection, lines);
+  AddOpenPieces(aReport, lines);
+  return lines.Take();
+}
+
+}  // namespace xsec

@@ -1,0 +1,147 @@
+#include <fmt/format.h>
+
+#include <nlohmann/json.hpp>
+
+#include "xsec/Report.h"
+#include "xsec/Utf8.h"
+
+namespace xsec {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+/// Rises when a reader of the former version could no longer understand the file.
+constexpr int kFormatVersion = 1;
+
+Json OfPoint(const Point& point) {
+  return Json::array({point.x, point.y});
+}
+
+Json OfId(std::size_t index) {
+  return index == kNone ? Json(nullptr) : Json(RegionId(index));
+}
+
+Json OfPiece(const TravelledPiece& piece, const Drawing& drawing) {
+  Json json;
+  json["type"] = piece.isArc ? "arc" : "line";
+  json["start"] = OfPoint(piece.from);
+  json["end"] = OfPoint(piece.to);
+  if (piece.isArc) {
+    json["centre"] = OfPoint(piece.centre);
+    json["radius"] = piece.radius;
+    json["startAngle"] = piece.startAngle;
+    json["endAngle"] = piece.endAngle;
+    json["direction"] = piece.sweep < 0 ? "clockwise" : "anticlockwise";
+  }
+  json["layer"] = piece.source == kNone ? Json(nullptr) : Json(drawing.entities[piece.source].layer);
+  return json;
+}
+
+Json OfLoop(const Loop& loop, const Drawing& drawing) {
+  Json json = Json::array();
+  for (const TravelledPiece& piece : loop) json.push_back(OfPiece(piece, drawing));
+  return json;
+}
+
+Json OfRegion(const Region& region, std::size_t index, const Drawing& drawing) {
+  Json json;
+  json["id"] = RegionId(index);
+  json["name"] = region.name;
+  json["uniqueName"] = region.uniqueName;
+  json["type"] = {{"ordinal", static_cast<int>(region.type)},
+                  {"name", GeometryEngine::GetRegionTypeString(region.type)}};
+  json["parent"] = OfId(region.parent);
+  json["children"] = Json::array();
+  for (const std::size_t child : region.children) json["children"].push_back(OfId(child));
+  json["depth"] = region.depth;
+  json["baseArea"] = region.baseArea;
+  json["holeArea"] = region.holeArea;
+  json["netArea"] = region.netArea;
+  json["centroid"] = OfPoint(region.centroid);
+  json["label"] = OfPoint(region.label);
+  json["clearance"] = region.clearance;
+  json["sliver"] = region.sliver;
+  json["outline"] = OfLoop(region.outline, drawing);
+  json["holes"] = Json::array();
+  for (const Loop& hole : region.holes) json["holes"].push_back(OfLoop(hole, drawing));
+  return json;
+}
+
+Json OfDrawing(const Drawing& drawing) {
+  Json json;
+  json["file"] = ToUtf8(drawing.path);
+  json["units"] = {
+      {"name", drawing.units.name}, {"millimetres", drawing.units.millimetres}, {"source", drawing.units.source}};
+  json["extents"] = {{"minX", drawing.extents.minX},
+                     {"minY", drawing.extents.minY},
+                     {"maxX", drawing.extents.maxX},
+                     {"maxY", drawing.extents.maxY}};
+  json["entities"] = drawing.entities.size();
+  return json;
+}
+
+Json OfSettings(const Settings& settings) {
+  Json json;
+  json["tolerance"] = settings.tolerance;
+  json["toleranceGiven"] = settings.toleranceGiven;
+  json["machineType"] = settings.machineType;
+  json["fields"] = Json::object();
+  for (const FieldValue& field : settings.fields) json["fields"][fmt::format("{}", field.field)] = field.value;
+  return json;
+}
+
+Json OfOpenPiece(const OpenPiece& open, const Drawing& drawing) {
+  Json json = OfPiece(open.piece, drawing);
+  json["startLoose"] = open.fromDangles;
+  json["endLoose"] = open.toDangles;
+  if (open.piece.source == kNone) return json;
+  const DrawingEntity& source = drawing.entities[open.piece.source];
+  json["source"] = {{"type", source.type}, {"block", source.block}, {"handle", source.handle}, {"line", source.line}};
+  return json;
+}
+
+Json OfSkipped(const Drawing& drawing) {
+  Json json = Json::array();
+  for (const auto& [kind, count] : drawing.skipped) {
+    json.push_back({{"type", kind.type}, {"layer", kind.layer}, {"reason", kind.reason}, {"count", count}});
+  }
+  return json;
+}
+
+Json OfDiagnostics(const Report& report) {
+  const Diagnostics& diagnostics = report.detection.diagnostics;
+  Json json;
+  json["warnings"] = report.drawing.warnings;
+  for (const std::string& warning : diagnostics.warnings) json["warnings"].push_back(warning);
+  json["skipped"] = OfSkipped(report.drawing);
+  json["flattened"] = report.drawing.flattened;
+  json["corrections"] = Json::array();
+  for (const Correction& correction : diagnostics.corrections) {
+    json["corrections"].push_back({{"kind", correction.kind == Correction::Kind::Label ? "label" : "nesting"},
+                                   {"region", RegionId(correction.region)},
+                                   {"text", correction.text}});
+  }
+  json["openPieces"] = Json::array();
+  for (const OpenPiece& open : diagnostics.openPieces) json["openPieces"].push_back(OfOpenPiece(open, report.drawing));
+  json["collapsedEntities"] = diagnostics.collapsed;
+  json["lostSides"] = diagnostics.lostSides;
+  return json;
+}
+
+}  // namespace
+
+std::string JsonText(const Report& aReport) {
+  Json json;
+  json["xsec"] = {{"format", kFormatVersion}, {"version", XSEC_VERSION}, {"lengths", "mm"}, {"angles", "degrees"}};
+  json["drawing"] = OfDrawing(aReport.drawing);
+  json["settings"] = OfSettings(aReport.settings);
+  json["totalArea"] = TotalArea(aReport.detection);
+  json["regions"] = Json::array();
+  const auto& regions = aReport.detection.regions;
+  for (std::size_t i = 0; i < regions.size(); ++i) json["regions"].push_back(OfRegion(regions[i], i, aReport.drawing));
+  json["diagnostics"] = OfDiagnostics(aReport);
+  return json.dump(1, ' ', false, Json::error_handler_t::replace) + "\n";
+}
+
+}  // namespace xsec

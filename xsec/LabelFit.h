@@ -1,0 +1,26 @@
+#pragma once
+
+// How large a name can be written at a region's label point without touching the region's boundary.
+
+#include <cstddef>
+#include <string_view>
+
+#include "xsec/InnerPoint.h"
+
+namespace xsec {
+
+struct LabelFit {
+  double size = 0;       ///< font size
+  bool upright = false;  ///< written from bottom to top, because that leaves more room
+};
+
+/// The largest font size, up to aMost, at which a text of aCharacters, centred at aLabel, stays clear of every loop.
+LabelFit FitLabel(const RegionSpace& aSpace, const Point& aLabel, std::size_t aCharacters, double aMost);
+
+/// The width that a text takes in multiples of its font size, roughly, whatever the font.
+double TextWidth(std::size_t aCharacters);
+
+/// Number of characters of UTF-8 text.
+std::size_t CountCharacters(std::string_view aText);
+
+}  // namespace xsec

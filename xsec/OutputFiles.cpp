@@ -1,0 +1,156 @@
+#include "xsec/OutputFiles.h"
+
+#include <fmt/format.h>
+#include <signal.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <utility>
+
+#include "xsec/Errors.h"
+
+namespace xsec {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Format {
+  const char* suffix;
+  std::string (*render)(const Report&);
+};
+
+constexpr std::array<Format, 2> kFormats = {{{".svg", &SvgText}, {".json", &JsonText}}};
+constexpr int kTemporaryNames = 100;
+
+std::string LowerCase(std::string text) {
+  std::transform(text.begin(), text.end(), text.begin(),
+                 [](char c) { return 'A' <= c && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+  return text;
+}
+
+std::string Suffixes() {
+  std::string names;
+  for (const Format& format : kFormats) names += (names.empty() ? "" : ", ") + std::string(format.suffix);
+  return names;
+}
+
+const Format& FindFormat(const std::string& path) {
+  const std::string suffix = LowerCase(fs::path(path).extension().string());
+  const auto format =
+      std::find_if(kFormats.begin(), kFormats.end(), [&](const Format& f) { return f.suffix == suffix; });
+  if (format == kFormats.end()) {
+    throw UsageError(fmt::format("-o {}: unknown suffix \"{}\"; known are {}", path, suffix, Suffixes()));
+  }
+  return *format;
+}
+
+/// A file beside its target, removed unless it is moved into place.
+class TemporaryFile {
+ public:
+  TemporaryFile(std::string target, const std::string& text) : fTarget(std::move(target)) {
+    std::error_code ignored;  // a link keeps its place and the file it leads to is replaced
+    const fs::path real = fs::canonical(fTarget, ignored);
+    fPlace = ignored ? fs::path(fTarget) : real;
+    std::FILE* file = Open();
+    const bool written = std::fwrite(text.data(), 1, text.size(), file) == text.size();
+    const int error = errno;
+    const bool closed = std::fclose(file) == 0;
+    if (!written || !closed) {
+      Remove();
+      throw OutputError(fTarget, std::strerror(written ? errno : error));
+    }
+  }
+  ~TemporaryFile() { Remove(); }
+  TemporaryFile(TemporaryFile&& other) noexcept
+      : fTarget(std::move(other.fTarget)), fPlace(std::move(other.fPlace)), fName(std::exchange(other.fName, {})) {}
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(TemporaryFile&&) = delete;
+
+  void MoveIntoPlace() {
+    std::error_code error;
+    fs::rename(fName, fPlace, error);
+    if (error) throw OutputError(fTarget, error.message());
+    fName.clear();
+  }
+
+ private:
+  std::FILE* Open() {
+    for (int i = 0; i < kTemporaryNames; ++i) {
+      fName = fmt::format("{}.{}-{}.tmp", fPlace.string(), ::getpid(), i);
+      if (std::FILE* file = std::fopen(fName.c_str(), "wbx")) return file;
+      if (errno != EEXIST) break;
+    }
+    fName.clear();
+    throw OutputError(fTarget, std::strerror(errno));
+  }
+
+  void Remove() noexcept {
+    if (!fName.empty()) std::remove(fName.c_str());
+    fName.clear();
+  }
+
+  std::string fTarget;
+  fs::path fPlace;
+  std::string fName;
+};
+
+/// Keeps interrupts waiting while it lives.
+class HeldSignals {
+ public:
+  HeldSignals() {
+    sigset_t signals;
+    sigemptyset(&signals);
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) sigaddset(&signals, signal);
+    ::pthread_sigmask(SIG_BLOCK, &signals, &fBefore);
+  }
+  ~HeldSignals() { ::pthread_sigmask(SIG_SETMASK, &fBefore, nullptr); }
+  HeldSignals(const HeldSignals&) = delete;
+  HeldSignals& operator=(const HeldSignals&) = delete;
+
+ private:
+  sigset_t fBefore;
+};
+
+}  // namespace
+
+std::vector<Output> FindOutputs(const std::vector<std::string>& aPaths) {
+  std::vector<Output> outputs;
+  std::vector<fs::path> known;
+  for (const std::string& path : aPaths) {
+    const fs::path normal = fs::absolute(path).lexically_normal();
+    if (std::find(known.begin(), known.end(), normal) != known.end()) {
+      throw UsageError(fmt::format("-o {}: given twice", path));
+    }
+    known.push_back(normal);
+    outputs.push_back({path, FindFormat(path).render});
+  }
+  return outputs;
+}
+
+void CheckOutputs(const std::vector<Output>& aOutputs) {
+  for (const Output& output : aOutputs) {
+    std::error_code error;
+    const fs::path folder = fs::absolute(output.path).parent_path();
+    if (fs::is_directory(output.path, error)) throw OutputError(output.path, "is a folder");
+    if (!fs::is_directory(folder, error)) throw OutputError(output.path, "its folder does not exist");
+    if (::access(folder.c_str(), W_OK | X_OK) != 0) throw OutputError(output.path, std::strerror(errno));
+  }
+}
+
+void WriteOutputs(const std::vector<Output>& aOutputs, const Report& aReport) {
+  std::vector<std::string> texts;
+  for (const Output& output : aOutputs) texts.push_back(output.render(aReport));
+  const HeldSignals held;
+  std::vector<TemporaryFile> files;
+  for (std::size_t i = 0; i < aOutputs.size(); ++i) files.emplace_back(aOutputs[i].path, texts[i]);
+  for (TemporaryFile& file : files) file.MoveIntoPlace();
+}
+
+}  // namespace xsec

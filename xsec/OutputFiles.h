@@ -1,0 +1,28 @@
+#pragma once
+
+// The files that a run writes. Each appears whole or not at all, also when the run is interrupted or the disk is full.
+
+#include <string>
+#include <vector>
+
+#include "xsec/Report.h"
+
+namespace xsec {
+
+struct Output {
+  std::string path;
+  std::string (*render)(const Report&);
+};
+
+/// What each path asks for by its suffix, in any case. Throws UsageError for an unknown suffix and for a path given
+/// twice.
+std::vector<Output> FindOutputs(const std::vector<std::string>& aPaths);
+
+/// Throws OutputError when a file of that name can plainly not be made, so that nobody waits for a result in vain.
+void CheckOutputs(const std::vector<Output>& aOutputs);
+
+/// Writes every file under a name of its own beside the target and then moves them all into place. Throws OutputError;
+/// no temporary file stays behind. Interrupts wait until the moves are done.
+void WriteOutputs(const std::vector<Output>& aOutputs, const Report& aReport);
+
+}  // namespace xsec

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "xsec/Drawing.h"
+#include "xsec/Regions.h"
+#include "xsec/Settings.h"
+
+namespace xsec {
+
+/// All that a run knows, as the outputs see it.
+struct Report {
+  const Drawing& drawing;
+  const Settings& settings;
+  const Detection& detection;
+};
+
+/// The net area of all regions together, which no piece of surface enters twice. UNITS: mm2
+double TotalArea(const Detection& aDetection);
+
+/// Ends where nothing goes on.
+std::size_t CountLooseEnds(const Detection& aDetection);
+
+/// A number for people: so many digits, and no exponent unless it is very large or very small.
+std::string Plain(double aValue, int aDigits);
+
+/// A row for each region, aligned, and a line with the totals.
+std::string TableText(const Report& aReport);
+
+/// Units, tolerance, and everything that was left out, put right or looks wrong: a line each, long lists cut short.
+std::vector<std::string> DiagnosticLines(const Report& aReport);
+
+std::string JsonText(const Report& aReport);
+std::string SvgText(const Report& aReport);
+
+}  // namespace xsec

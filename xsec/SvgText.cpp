@@ -1,0 +1,230 @@
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <iterator>
+
+#include "xsec/LabelFit.h"
+#include "xsec/RegionColours.h"
+#include "xsec/Report.h"
+#include "xsec/Utf8.h"
+
+namespace xsec {
+
+namespace {
+
+// Lengths of the layout, in hundredths of the drawing's longer side.
+constexpr double kMargin = 3;
+constexpr double kTitleSize = 2.8;
+constexpr double kTextSize = 1.7;
+constexpr double kLargestLabel = 2.4;
+constexpr double kLineStep = 2.6;
+constexpr double kOutlineWidth = 0.1;
+constexpr double kOpenWidth = 0.3;
+constexpr double kOpenMark = 0.7;
+
+constexpr double kPictureSize = 1400;  // pixels of the longer side
+constexpr double kFontUnit = 10;       // font sizes are this, scaled; viewers round sizes far below 1
+constexpr std::size_t kLegendRows = 8;
+constexpr const char* kOpenColour = "#d81818";
+
+std::string Escaped(std::string_view text) {
+  std::string escaped;
+  for (const char c : text) {
+    switch (c) {
+      case '&':
+        escaped += "&amp;";
+        break;
+      case '<':
+        escaped += "&lt;";
+        break;
+      case '>':
+        escaped += "&gt;";
+        break;
+      case '"':
+        escaped += "&quot;";
+        break;
+      default:
+        escaped += c;
+    }
+  }
+  return escaped;
+}
+
+/// Writes one picture. Coordinates are millimetres with y upwards; the picture's y runs downwards, so each is negated
+/// on its way out.
+class SvgPicture {
+ public:
+  explicit SvgPicture(const Report& report)
+      : fReport(report),
+        fKinds(GroupRegions(report.detection.regions)),
+        fBox(report.drawing.extents),
+        fUnit(std::max({fBox.maxX - fBox.minX, fBox.maxY - fBox.minY, kSmallestSide}) / 100) {}
+
+  std::string Text() {
+    Begin();
+    Title();
+    Regions();
+    Labels();
+    OpenPieces();
+    Legend();
+    return fText + "</svg>\n";
+  }
+
+ private:
+  static constexpr double kSmallestSide = 1e-6;  // millimetres; keeps a drawing without size from a picture of size 0
+
+  template <typename... Values>
+  void Add(fmt::format_string<Values...> format, Values&&... values) {
+    fmt::format_to(std::back_inserter(fText), format, std::forward<Values>(values)...);
+  }
+
+  std::size_t KindRows() const { return std::min(fKinds.size(), kLegendRows); }
+  bool HasMoreKinds() const { return fKinds.size() > kLegendRows; }
+  bool HasOpenPieces() const { return !fReport.detection.diagnostics.openPieces.empty(); }
+  double LegendHeight() const {
+    const std::size_t rows = KindRows() + (HasMoreKinds() ? 1 : 0) + (HasOpenPieces() ? 1 : 0);
+    return static_cast<double>(rows) * kLineStep * fUnit;
+  }
+
+  void Begin() {
+    const double left = fBox.minX - kMargin * fUnit;
+    const double top = -fBox.maxY - (kMargin + 3 * kLineStep) * fUnit;
+    const double width = std::max(fBox.maxX - fBox.minX, kNarrowest * fUnit) + 2 * kMargin * fUnit;
+    const double height = -fBox.minY + kMargin * fUnit + LegendHeight() - top;
+    const double scale = kPictureSize / std::max(width, height);
+    Add("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"{:.0f}\" height=\"{:.0f}\" viewBox=\"{:.10g} {:.10g} "
+        "{:.10g} "
+        "{:.10g}\" font-family=\"Helvetica, Arial, sans-serif\" stroke-linejoin=\"round\" stroke-linecap=\"round\">\n",
+        width * scale, height * scale, left, top, width, height);
+    Add("<rect x=\"{:.10g}\" y=\"{:.10g}\" width=\"{:.10g}\" height=\"{:.10g}\" fill=\"#ffffff\"/>\n", left, top, width,
+        height);
+  }
+
+  void Write(double x, double y, double size, std::string_view attributes, std::string_view text) {
+    Add("<text transform=\"translate({:.10g} {:.10g}) scale({:.6g})\" font-size=\"{}\"{}>{}</text>\n", x, y,
+        size / kFontUnit, kFontUnit, attributes, Escaped(text));
+  }
+
+  void Title() {
+    const Detection& detection = fReport.detection;
+    const DrawingUnits& units = fReport.drawing.units;
+    const double top = -fBox.maxY - kMargin * fUnit;
+    Write(fBox.minX, top - 1.6 * kLineStep * fUnit, kTitleSize * fUnit, " fill=\"#202020\" font-weight=\"bold\"",
+          ToUtf8(std::filesystem::path(fReport.drawing.path).filename().string()));
+    Write(
+        fBox.minX, top - 0.5 * kLineStep * fUnit, kTextSize * fUnit, " fill=\"#505050\"",
+        fmt::format("{} region{}, net area {} mm²; {} × {} mm; unit of the drawing: {} ({})", detection.regions.size(),
+                    detection.regions.size() == 1 ? "" : "s", Plain(TotalArea(detection), 6),
+                    Plain(fBox.maxX - fBox.minX, 5), Plain(fBox.maxY - fBox.minY, 5), units.name, units.source));
+  }
+
+  void AddPieceTo(const TravelledPiece& piece) {
+    if (!piece.isArc) return Add("L{:.10g} {:.10g}", piece.to.x, -piece.to.y);
+    Add("A{0:.10g} {0:.10g} 0 {1} {2} {3:.10g} {4:.10g}", piece.radius, std::abs(piece.sweep) > 180 ? 1 : 0,
+        piece.sweep < 0 ? 1 : 0, piece.to.x, -piece.to.y);
+  }
+
+  void AddLoop(const Loop& loop) {
+    Add("M{:.10g} {:.10g}", loop.front().from.x, -loop.front().from.y);
+    for (const TravelledPiece& piece : loop) AddPieceTo(piece);
+    Add("Z");
+  }
+
+  void Regions() {
+    Add("<g fill-rule=\"evenodd\" stroke=\"#303030\" stroke-width=\"{:.6g}\">\n", kOutlineWidth * fUnit);
+    for (std::size_t kind = 0; kind < fKinds.size(); ++kind) {
+      for (const std::size_t region : fKinds[kind].regions) AddRegion(region, kind);
+    }
+    Add("</g>\n");
+  }
+
+  void AddRegion(std::size_t index, std::size_t kind) {
+    const Region& region = fReport.detection.regions[index];
+    Add("<path id=\"region-{}\" fill=\"{}\" d=\"", RegionId(index), FillColour(kind, region.depth));
+    AddLoop(region.outline);
+    for (const Loop& hole : region.holes) AddLoop(hole);
+    Add("\"><title>{}: {} mm²</title></path>\n", Escaped(region.uniqueName), Plain(region.netArea, 6));
+  }
+
+  void Labels() {
+    Add("<g text-anchor=\"middle\" fill=\"#101010\">\n");
+    for (const Region& region : fReport.detection.regions) AddLabel(region);
+    Add("</g>\n");
+  }
+
+  void AddLabel(const Region& region) {
+    RegionSpace space{&region.outline, {}};
+    for (const Loop& hole : region.holes) space.holes.push_back(&hole);
+    const auto fit = FitLabel(space, region.label, CountCharacters(region.uniqueName), kLargestLabel * fUnit);
+    if (!(fit.size > 0)) return;
+    Add("<text transform=\"translate({:.10g} {:.10g}){} scale({:.6g})\" font-size=\"{}\" dy=\".36em\">{}</text>\n",
+        region.label.x, -region.label.y, fit.upright ? " rotate(-90)" : "", fit.size / kFontUnit, kFontUnit,
+        Escaped(region.uniqueName));
+  }
+
+  void OpenPieces() {
+    const auto& open = fReport.detection.diagnostics.openPieces;
+    if (open.empty()) return;
+    Add("<g id=\"open\" fill=\"none\" stroke=\"{}\" stroke-width=\"{:.6g}\">\n", kOpenColour, kOpenWidth * fUnit);
+    for (const OpenPiece& one : open) {
+      Add("<path d=\"M{:.10g} {:.10g}", one.piece.from.x, -one.piece.from.y);
+      AddPieceTo(one.piece);
+      Add("\"/>\n");
+      if (one.fromDangles) AddMark(one.piece.from);
+      if (one.toDangles) AddMark(one.piece.to);
+    }
+    Add("</g>\n");
+  }
+
+  void AddMark(const Point& point) {
+    Add("<circle cx=\"{:.10g}\" cy=\"{:.10g}\" r=\"{:.6g}\"/>\n", point.x, -point.y, kOpenMark * fUnit);
+  }
+
+  void Legend() {
+    double y = -fBox.minY + (kMargin + kLineStep / 2) * fUnit;
+    for (std::size_t kind = 0; kind < KindRows(); ++kind, y += kLineStep * fUnit) AddLegendRow(kind, y);
+    if (HasMoreKinds()) {
+      LegendText(y, fmt::format("and {} more kinds", fKinds.size() - KindRows()));
+      y += kLineStep * fUnit;
+    }
+    if (!HasOpenPieces()) return;
+    Add("<path fill=\"none\" stroke=\"{}\" stroke-width=\"{:.6g}\" d=\"M{:.10g} {:.10g}h{:.6g}\"/>\n", kOpenColour,
+        kOpenWidth * fUnit, fBox.minX, y - 0.6 * fUnit, 2 * fUnit);
+    LegendText(y, fmt::format("{} open pieces, {} loose ends", fReport.detection.diagnostics.openPieces.size(),
+                              CountLooseEnds(fReport.detection)));
+  }
+
+  void AddLegendRow(std::size_t kind, double y) {
+    const RegionKind& group = fKinds[kind];
+    const std::size_t depth = fReport.detection.regions[group.regions.front()].depth;
+    Add("<rect x=\"{:.10g}\" y=\"{:.10g}\" width=\"{:.6g}\" height=\"{:.6g}\" fill=\"{}\" stroke=\"#303030\" "
+        "stroke-width=\"{:.6g}\"/>\n",
+        fBox.minX, y - 1.3 * fUnit, 2 * fUnit, 1.6 * fUnit, FillColour(kind, depth), kOutlineWidth * fUnit);
+    const std::size_t count = group.regions.size();
+    const std::string area = Plain(group.netArea, 5);
+    LegendText(y, count == 1 ? fmt::format("{}: {} mm²", group.name, area)
+                             : fmt::format("{}: {} of {} mm²", group.name, count, area));
+  }
+
+  void LegendText(double y, std::string_view text) {
+    Write(fBox.minX + 3 * fUnit, y, kTextSize * fUnit, " fill=\"#303030\"", text);
+  }
+
+  static constexpr double kNarrowest = 60;  // units; room for the title over a tall drawing
+
+  const Report& fReport;
+  std::vector<RegionKind> fKinds;
+  Extents fBox;
+  double fUnit;
+  std::string fText;
+};
+
+}  // namespace
+
+std::string SvgText(const Report& aReport) {
+  return SvgPicture(aReport).Text();
+}
+
+}  // namespace xsec
