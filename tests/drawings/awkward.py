@@ -1,14 +1,9 @@
-#!/usr/bin/env python3
-"""Writes awkward drawings: six kinds of figures, a hundred of each, as drawings in the field have them.
+"""Awkward drawings: six kinds of figures, a hundred of each, as drawings in the field have them.
 
-usage: awkward.py FOLDER
-
-awkward_0.dxf has its grid of figures parallel to the axes, awkward_17.dxf is the same turned by 17 degrees. No two
-figures of a kind have the same size. expected.json has where each figure stands, how many faces it must give, and
-their area together, worked out from its size alone.
+The figures stand on a grid; no two of a kind have the same size. The drawing may be turned as a whole. How many faces
+each figure must give, and their area together, follows from its kind and its size alone.
 """
 
-import json
 import math
 import pathlib
 import sys
@@ -23,7 +18,6 @@ SMALLEST = 1.5  # mm, about half the width of a figure
 LARGEST = 6.0
 GAP = 1e-4      # mm; a tenth of the linear tolerance at which the drawing is to be read
 TOLERANCE = 10 * GAP
-TURNS = (0, 17)
 
 
 class At:
@@ -109,6 +103,7 @@ def places(number):
 
 
 def awkward(turn):
+    """The drawing of all figures, turned about the origin by an angle in degrees."""
     drawing = Drawing(f"Awkward figures, turned by {turn} degrees, millimetres",
                       {kind[0]: number + 1 for number, kind in enumerate(KINDS)})
     out = Turned(drawing, turn)
@@ -119,20 +114,9 @@ def awkward(turn):
 
 
 def expected():
-    figures = [{"kind": name, "x": x, "y": y, "faces": faces, "area": area * size**2}
-               for number, (name, _, faces, area) in enumerate(KINDS) for x, y, size in places(number)]
+    """The tolerance to read the drawing at, the width of a figure's field, and what each figure must give."""
+    # The gaps move each corner of a figure by no more than the gap.
+    figures = [{"kind": name, "x": x, "y": y, "faces": faces, "area": area * size**2,
+                "area_error": 8 * size * GAP if figure is small_gaps else 0}
+               for number, (name, figure, faces, area) in enumerate(KINDS) for x, y, size in places(number)]
     return {"tolerance": TOLERANCE, "width": PITCH, "figures": figures}
-
-
-def main():
-    if len(sys.argv) != 2:
-        sys.exit(__doc__)
-    folder = pathlib.Path(sys.argv[1])
-    folder.mkdir(parents=True, exist_ok=True)
-    for turn in TURNS:
-        (folder / f"awkward_{turn}.dxf").write_text(awkward(turn).text(), encoding="ascii", newline="\n")
-    (folder / "expected.json").write_text(json.dumps(expected(), indent=1) + "\n", encoding="ascii", newline="\n")
-
-
-if __name__ == "__main__":
-    main()
