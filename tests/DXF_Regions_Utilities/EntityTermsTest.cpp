@@ -207,10 +207,10 @@ TEST(GetEntityVector, LineLeavesItsFirstCoordinateOrItsFarEnd) {
 TEST(GetEntityVector, ArcLeavesAlongItsFirstOrBackAlongItsLastChord) {
   TSettingsGuard settings;
   const TDXFEntity arc = ParseEntity("A c 0,0 r 1 0..90");
-  const auto [count, step] = GetArcSegmentPoints_Surf(arc, 0.01);
-  const auto point = [&](int k) { return GetArc_LineSegmentCoord(arc, k, Travel_AntiClockwise, 0, step); };
+  const TArcSegments segments = GetArcSegmentPoints_Surf(arc, 0.01);
+  const auto point = [&](int k) { return GetArc_LineSegmentCoord(arc, k, Travel_AntiClockwise, 0, segments.aStep); };
   const TVector_Single first = GetVectorFromCoordinates(point(0), point(1));
-  const TVector_Single last = GetVectorFromCoordinates(point(count), point(count - 1));
+  const TVector_Single last = GetVectorFromCoordinates(point(segments.aCount), point(segments.aCount - 1));
   const TVector_Single leaving = GetEntityVector(arc.StartCoords, arc.EndCoords, arc, 1);
   ExpectVector(leaving, first.x, first.y);
   EXPECT_GT(leaving.y, 0);
