@@ -19,9 +19,9 @@ inline constexpr TStartingValue kStartingValues[] = {
     {Maindataenum::TInputFields::ifMinimumLabelArea, 0},    // every region has its label placed
     {Maindataenum::TInputFields::ifArcResolution, 5},       // chords per 10 degrees
     {Maindataenum::TInputFields::ifUniqueRegionNames, 1},   // on
-    {Maindataenum::TInputFields::ifSlotDuplications, 1},
-    {Maindataenum::TInputFields::ifPoleDuplications, 1},
-    {Maindataenum::TInputFields::ifBarDuplications, 1},
+    {Maindataenum::TInputFields::ifSlotDuplications, 1},    // each part occurs once
+    {Maindataenum::TInputFields::ifPoleDuplications, 1},    // each part occurs once
+    {Maindataenum::TInputFields::ifBarDuplications, 1},     // each part occurs once
 };
 
 }  // namespace Kelvaralinks

@@ -4,7 +4,8 @@
 
 namespace GeometryEngine {
 
-/// Where a machine part sits. Only the two values that select a duplication number have a name.
+/// Where a machine part sits. The armature and the field each have a duplication number in the settings; every other
+/// location stands for parts that occur once.
 enum class TMachineLocation : std::uint8_t {
   mlNone = 0,
   mlShaft = 1,
