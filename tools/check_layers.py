@@ -46,6 +46,7 @@ LAYERS = [
     ]),
     ("arrays and chains", [
         "DXF_EntityStorage/TEntityStorage*",
+        "DXF_EntityStorage/detail/ClosedLoops",
         "DXF_EntityStorage/detail/LomutoSort",
         "DXF_EntityStorage/detail/VertexWalk",
         "DXF_Regions_Utilities/SectionBoundaries",
@@ -55,8 +56,10 @@ LAYERS = [
         "DXF_Regions_Detection/*",
         "DXF_Regions_TreeClasses/*",
         "DXF_Regions_Utilities/EntitySplitting",
+        "DXF_Regions_Utilities/TreeNodeArrays",
     ]),
     ("regions", [
+        "GeometryEngine_MachineElements/*",
         "GeometryEngine_Tree_Geometry/*",
         "GeometryEngine_Tree_MotorProperties/*",
         "Pole_Inaccessibility/*",

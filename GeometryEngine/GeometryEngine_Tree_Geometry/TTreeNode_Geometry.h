@@ -195,6 +195,23 @@ class GEOMETRYENGINE_API TTreeNode_Geometry : public TTreeNode_CoreProperties {
   /// DEGENERATE: a mirror that is no line moves nothing. The outputs are computed all the same, and an internal chain
   /// is left running clockwise, since a chain is turned round by every mirror: only lines are good for mirroring.
   void Mirror(const TDXFEntity& aMirrorLine);
+  /// Replaces the outline by its parallel chain, see `TEntityStorage::Offset`. Internal chain and outputs stay.
+  void Offset(double aDistance);
+
+  // Copies of this region about or along the axis, in its own chains.
+  /// Puts every occurrence of the region into its chains: both become the ring of `NumberDuplications` copies, without
+  /// the radial lines that copies share unless the region is singular. The base area becomes that of all copies, the
+  /// centroid their mean, the label points one a copy, and the duplication number 1.
+  /// DEGENERATE: a duplication number below 1 changes nothing.
+  void Duplicate();
+  /// Joins that many neighbouring copies into one region: about the axis (`gpRadial`), where the duplication number
+  /// tells how many make a full ring, or in a row along x at the distance of the region's width (`gpAxial`). The pieces
+  /// are put in order as one closed outline; of a full ring the inner loop becomes the internal chain. The outputs are
+  /// computed afresh and the duplication number is divided by the copies joined. Copies that do not touch stay beside
+  /// one another, with area, centroid and label points as `Duplicate` gives them. DEGENERATE: fewer than 2 copies, or
+  /// more than a full ring has, change nothing. The duplication number is divided without remainder and stays at 1 or
+  /// more.
+  void DuplicateAndUnite(std::int32_t aNumberDuplications, TGeometryPlane aDirection);
 
   /// The node as a geometry node; nil for nil and for any other node.
   static TTreeNode_Geometry* TypeCast(TTreeNode_Base* aNode);
@@ -203,6 +220,11 @@ class GEOMETRYENGINE_API TTreeNode_Geometry : public TTreeNode_CoreProperties {
  private:
   bool HasInside() const;
   bool PointInsideChild(const TEntityCoordinate& aPoint, const TGeometryRegionTypesSet& aRegionTypes) const;
+  bool UniteOutline();
+  void PlaceAroundAxis(std::int32_t aCopies, std::int32_t aCopies_Full);
+  void SpreadAroundAxis(std::int32_t aCopies);
+  template <typename TPlaceCopy>
+  void SpreadOutputs(std::int32_t aCopies, const TPlaceCopy& aPlaceCopy);
 
   TEntityStorage fEntities;
   TEntityStorage fEntities_Internal;

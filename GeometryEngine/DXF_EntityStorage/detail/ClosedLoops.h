@@ -1,0 +1,14 @@
+#pragma once
+
+#include <vector>
+
+#include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
+
+namespace GeometryEngine::detail {
+
+/// Puts pieces that make closed loops in order, loop by loop: each loop starts with the first piece that is left,
+/// walked from its start, and goes on with the first piece that touches. Empty when some piece belongs to no closed
+/// loop. COST: the square of the pieces.
+std::vector<TEntityArray> OrderIntoClosedLoops(TEntityArray aPieces);
+
+}  // namespace GeometryEngine::detail
