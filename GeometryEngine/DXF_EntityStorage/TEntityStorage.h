@@ -222,7 +222,7 @@ class GEOMETRYENGINE_API TEntityStorage {
   /// outwards for an anticlockwise chain, when it is positive, to the left when it is negative. Corners are mitred.
   /// Lines stay lines; arcs stay arcs about their centres while their radius exceeds the distance, else they become
   /// lines. DEGENERATE: a distance of 0 changes nothing. Self-intersections stay, an arc that the chain passes
-  /// clockwise becomes its complement, and a chain that turns back on itself runs to infinity there. REQUIRES: a closed
+  /// clockwise becomes its complement, and a chain that turns back on itself has no mitre there. REQUIRES: a closed
   /// chain without repeated points; points are looked up by coordinate, and the first one counts. UNITS: drawing length
   /// units. COST: the square of the points of the surface polyline.
   void Offset(double aDistance);

@@ -19,10 +19,15 @@ void SetLoop(TEntityStorage& aChain, const TEntityArray& aLoop) {
   aChain.StartCoordinate(aChain.GetStartCoordinate());
 }
 
-double GetLoopArea(const TEntityArray& aLoop) {
-  TEntityStorage chain;
-  SetLoop(chain, aLoop);
-  return chain.GetClosedArea();
+/// Puts the two loops of a ring into this order: outer, inner. False when neither lies inside the other.
+bool SortRing(std::vector<TEntityArray>& aLoops) {
+  for (const bool swapped : {false, true}) {
+    if (swapped) std::swap(aLoops[0], aLoops[1]);
+    TEntityStorage outer;
+    SetLoop(outer, aLoops[0]);
+    if (outer.PointInsideEntities(aLoops[1].front().StartCoords, false)) return true;
+  }
+  return false;
 }
 
 }  // namespace
@@ -58,9 +63,8 @@ void TTreeNode_Geometry::SpreadAroundAxis(std::int32_t aCopies) {
 /// Puts the outline's pieces in order as one loop, or as the two loops of a ring; false when they make neither.
 bool TTreeNode_Geometry::UniteOutline() {
   std::vector<TEntityArray> loops = detail::OrderIntoClosedLoops(fEntities.EntityArray());
-  const bool ring = loops.size() == 2 && fEntities_Internal.GetCount() == 0;
+  const bool ring = loops.size() == 2 && fEntities_Internal.GetCount() == 0 && SortRing(loops);
   if (loops.size() != 1 && !ring) return false;
-  if (ring && GetLoopArea(loops[0]) < GetLoopArea(loops[1])) std::swap(loops[0], loops[1]);
   if (ring) SetLoop(fEntities_Internal, loops[1]);
   SetLoop(fEntities, loops[0]);
   return true;
