@@ -12,9 +12,10 @@ endif()
 
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/GeometryEngine DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
         FILES_MATCHING PATTERN "*.h" PATTERN detail EXCLUDE)
-# Last, so that the headers of a host of its own replace the library's.
-install(DIRECTORY ${GEOMETRYENGINE_HOST_ROOT}/GeometryEngine/host DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/GeometryEngine
-        FILES_MATCHING PATTERN "*.h")
+if(NOT GEOMETRYENGINE_HOST_ROOT STREQUAL PROJECT_SOURCE_DIR)  # what the host brings stands in the place of ours
+  install(DIRECTORY ${GEOMETRYENGINE_HOST_ROOT}/GeometryEngine/host
+          DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/GeometryEngine FILES_MATCHING PATTERN "*.h")
+endif()
 install(FILES ${PROJECT_BINARY_DIR}/generated/GeometryEngine/Export.h
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/GeometryEngine)
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
