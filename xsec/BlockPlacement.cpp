@@ -1,5 +1,7 @@
 #include "xsec/BlockPlacement.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -25,12 +27,12 @@ Affine InstanceMap(const SourceInsert& insert, const Point& base, std::uint32_t 
 // Why nothing can be placed, empty when all is well.
 std::string WhyNotPlaced(const SourceInsert& insert, const SourceBlock* block) {
   if (block == nullptr) {
-    return "of a block that is not defined";
+    return fmt::format("block {} is not defined", insert.block);
   }
   if (block->isExternal) {
-    return "of another file";
+    return fmt::format("block {} stands for another file", block->name);
   }
-  return insert.scale.x == 0 || insert.scale.y == 0 ? "with a scale of 0" : "";
+  return insert.scale.x == 0 || insert.scale.y == 0 ? "its scale is 0" : "";
 }
 
 const SourceBlock* FindBlock(const SourceDrawing& source, const std::string& name) {

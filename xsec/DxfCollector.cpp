@@ -26,6 +26,7 @@ constexpr double kFullTurn = 360;        // degrees
 constexpr double kFullTurnSlack = 1e-6;  // degrees or radians: what a rounded full turn may lack
 constexpr double kPlumb = 1e-9;          // share of x and y in an extrusion direction that still counts as along z
 constexpr const char* kNotRead = "this type is not read";
+constexpr const char* kAside = "it is drawn in a plane that is not the xy plane";
 
 enum class Facing { Up, Down, Aside };
 
@@ -84,7 +85,7 @@ SourceDrawing ParseDxf(std::string_view aText, const std::string& aPath) {
 SourceDrawing DxfCollector::Result() && {
   if (fTilted != 0) {
     fDrawing.warnings.push_back(
-        fmt::format("{} entities have points that differ in z; they are read as seen along z", fTilted));
+        fmt::format("entities whose points differ in z: {}; they are read as seen along z", fTilted));
   }
   return std::move(fDrawing);
 }
@@ -135,10 +136,12 @@ void DxfCollector::Add(SourceShape aShape) {
                       common.getColor(),
                       false};
   if (common.isInPaperSpace() || IsPaper(fBlock)) {
-    entity.shape = SourceSkipped{"paper space"};
+    entity.shape = SourceSkipped{"it stands in paper space"};
   }
   Scope().push_back(std::move(entity));
   fOpen = &Scope().back();
+  fHeight.reset();
+  fIsTilted = false;
   fIsTaken = true;
 }
 
@@ -146,19 +149,26 @@ void DxfCollector::Add(SourceShape aShape) {
 void DxfCollector::AddInPlane(SourceShape aShape) {
   const Facing facing = FacingOf(*getExtrusion());
   if (facing == Facing::Aside) {
-    aShape = SourceSkipped{"drawn in a plane that is not the xy plane"};
+    aShape = SourceSkipped{kAside};
   }
   Add(std::move(aShape));
   fOpen->isFlipped = facing == Facing::Down;
 }
 
-void DxfCollector::NoteTilt(bool aIsTilted) {
-  fTilted += aIsTilted ? 1 : 0;
+// A drawing is read as seen along z; an entity whose points differ in that is noted once.
+void DxfCollector::NoteHeight(double aZ) {
+  if (!fHeight) {
+    fHeight = aZ;
+  } else if (*fHeight != aZ && !fIsTilted) {
+    fIsTilted = true;
+    ++fTilted;
+  }
 }
 
 void DxfCollector::addLine(const DL_LineData& aData) {
   Add(SourceLine{{aData.x1, aData.y1}, {aData.x2, aData.y2}});
-  NoteTilt(aData.z1 != aData.z2);
+  NoteHeight(aData.z1);
+  NoteHeight(aData.z2);
 }
 
 void DxfCollector::addArc(const DL_ArcData& aData) {
@@ -172,9 +182,9 @@ void DxfCollector::addCircle(const DL_CircleData& aData) {
 
 void DxfCollector::addPolyline(const DL_PolylineData& aData) {
   if ((aData.flags & kMeshFlags) != 0 && fFeed.Finished().type == "POLYLINE") {
-    Add(SourceSkipped{"a mesh"});
+    Add(SourceSkipped{"it is a mesh"});
   } else if ((aData.flags & kWorldPolylineFlag) != 0 && fFeed.Finished().type == "POLYLINE") {
-    Add(SourcePolyline{{}, (aData.flags & kClosedFlag) != 0});
+    Add(SourcePolyline{{}, (aData.flags & kClosedFlag) != 0});  // its points stand in the drawing's own axes
   } else {
     AddInPlane(SourcePolyline{{}, (aData.flags & kClosedFlag) != 0});
   }
@@ -189,13 +199,14 @@ void DxfCollector::addVertex(const DL_VertexData& aData) {
   const bool isOnCurve = fFeed.Finished().type != "VERTEX" || (fFeed.Finished().flags & kFrameFlag) == 0;
   if (polyline != nullptr && isOnCurve) {
     polyline->vertices.push_back({{aData.x, aData.y}, aData.bulge});
+    NoteHeight(aData.z);
   }
 }
 
 void DxfCollector::addEllipse(const DL_EllipseData& aData) {
   const Facing facing = FacingOf(*getExtrusion());
   if (facing == Facing::Aside) {
-    return Add(SourceSkipped{"drawn in a plane that is not the xy plane"});
+    return Add(SourceSkipped{kAside});
   }
   const double ratio = facing == Facing::Down ? -aData.ratio : aData.ratio;
   Add(SourceEllipse{{aData.cx, aData.cy},
@@ -206,6 +217,9 @@ void DxfCollector::addEllipse(const DL_EllipseData& aData) {
 }
 
 void DxfCollector::addSpline(const DL_SplineData& aData) {
+  if (FacingOf(*getExtrusion()) == Facing::Aside) {
+    return Add(SourceSkipped{kAside});
+  }
   SourceSpline spline;
   spline.degree = aData.degree;
   Add(std::move(spline));
@@ -214,6 +228,7 @@ void DxfCollector::addSpline(const DL_SplineData& aData) {
 void DxfCollector::addControlPoint(const DL_ControlPointData& aData) {
   if (auto* spline = fOpen == nullptr ? nullptr : std::get_if<SourceSpline>(&fOpen->shape)) {
     spline->points.push_back({{aData.x, aData.y}, aData.w});
+    NoteHeight(aData.z);
   }
 }
 
@@ -245,7 +260,9 @@ void DxfCollector::endSection() {
   if (!fIsTaken && record.type == "BLOCK") {
     addBlock(DL_BlockData("", 0, 0, 0, 0));
   } else if (!fIsTaken && record.isEntity && !isPartOfOpen) {
-    Add(SourceSkipped{isVertex ? "a vertex of no polyline" : IsReadType(record.type) ? "incomplete" : kNotRead});
+    Add(SourceSkipped{isVertex                  ? "it belongs to no polyline"
+                      : IsReadType(record.type) ? "it is incomplete"
+                                                : kNotRead});
   }
   if (record.type != "POLYLINE" && !isPartOfOpen) {
     fOpen = nullptr;

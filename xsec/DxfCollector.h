@@ -2,6 +2,8 @@
 
 #include <dl_creationadapter.h>
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -41,14 +43,16 @@ class DxfCollector : public DL_CreationAdapter {
   std::vector<SourceEntity>& Scope();
   void Add(SourceShape aShape);
   void AddInPlane(SourceShape aShape);
-  void NoteTilt(bool aIsTilted);
+  void NoteHeight(double aZ);
 
   const DxfFeed& fFeed;
   SourceDrawing fDrawing;
   SourceBlock* fBlock = nullptr;  // the block being read, in fDrawing
   SourceEntity* fOpen = nullptr;  // the polyline or spline that is still growing, the last one of its scope
   bool fIsTaken = false;          // something was made of the record that the parser reports now
-  std::size_t fTilted = 0;        // entities whose points differ in z
+  std::optional<double> fHeight;  // z of the latest entity's first point
+  bool fIsTilted = false;         // the latest entity's points differ in z
+  std::size_t fTilted = 0;        // how many such entities there are
 };
 
 }  // namespace xsec

@@ -57,7 +57,8 @@ DxfFeed::DxfFeed(std::string_view aText, const std::string& aPath) : fReader(aTe
 DxfFeed::int_type DxfFeed::underflow() {
   fBuffer.clear();
   while (fBuffer.empty()) {
-    const auto pair = fReader.Next();
+    const bool isOver = fCurrent.type == "EOF";  // what stands behind it has not been checked
+    const auto pair = isOver ? std::nullopt : fReader.Next();
     if (!pair) {
       return traits_type::eof();
     }

@@ -1,5 +1,11 @@
 #include "xsec/DxfReader.h"
 
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+
 #include "GeometryEngine/host/TDataStore.h"
 #include "xsec/BlockPlacement.h"
 #include "xsec/DrawingExtents.h"
@@ -31,6 +37,19 @@ class SnappingOff {
   double fMode;
 };
 
+// A drawing that is empty although its file is not: everything stands in blocks that are not in use.
+std::string WarnOfUnplacedBlocks(const SourceDrawing& source) {
+  const auto count = std::count_if(source.blocks.begin(), source.blocks.end(),
+                                   [](const auto& item) { return !item.second.entities.empty(); });
+  return count == 0 ? ""
+                    : fmt::format("the drawing itself is empty; blocks that are defined but not placed: {}", count);
+}
+
+std::string WarnOfUnknownUnit(const SourceDrawing& source) {
+  const std::int32_t number = source.insUnits.value_or(0);
+  return number == 0 ? "" : fmt::format("$INSUNITS is {}, which stands for no unit; taken as millimetres", number);
+}
+
 DrawingUnits UnitsOf(const SourceDrawing& source, const ReadOptions& options) {
   if (options.units) {
     DrawingUnits units = *options.units;
@@ -43,6 +62,22 @@ DrawingUnits UnitsOf(const SourceDrawing& source, const ReadOptions& options) {
   }
   units->source = "file";
   return *units;
+}
+
+// What the reader of a drawing should know of its size and of what became of it.
+void AddWarnings(const SourceDrawing& source, Drawing& drawing) {
+  const auto warn = [&](std::string text) {
+    if (!text.empty()) {
+      drawing.warnings.push_back(std::move(text));
+    }
+  };
+  if (drawing.entities.empty()) {
+    return warn(WarnOfUnplacedBlocks(source));
+  }
+  if (drawing.units.source == "assumed") {
+    warn(WarnOfUnknownUnit(source));
+    warn(WarnOfAssumedUnit(drawing.extents));
+  }
 }
 
 }  // namespace
@@ -60,11 +95,7 @@ Drawing ReadDrawingText(std::string_view aText, const std::string& aPath, const 
   EntityMaker maker(drawing, aOptions.flattenTolerance);
   PlaceAll(source, Affine::Stretch(drawing.units.millimetres, drawing.units.millimetres), maker);
   drawing.extents = ExtentsOf(drawing.entities);
-  if (drawing.units.source == "assumed" && !drawing.entities.empty()) {
-    if (std::string warning = WarnOfAssumedUnit(drawing.extents); !warning.empty()) {
-      drawing.warnings.push_back(std::move(warning));
-    }
-  }
+  AddWarnings(source, drawing);
   return drawing;
 }
 

@@ -25,10 +25,10 @@ constexpr double kRoundness = 1e-9;           // relative difference of half axe
 constexpr double kHalfTurn = 180;             // degrees
 constexpr double kFullTurn = 360;             // degrees
 
-constexpr const char* kNoLength = "without length";
-constexpr const char* kNoRadius = "without a radius above 0";
-constexpr const char* kTooFar = "with coordinates out of range";
-constexpr const char* kTooFewVertices = "with fewer than two different vertices";
+constexpr const char* kNoLength = "its length is 0";
+constexpr const char* kNoRadius = "its radius is not above 0";
+constexpr const char* kTooFar = "its coordinates are out of range";
+constexpr const char* kTooFewVertices = "it has fewer than two different vertices";
 
 bool IsFinite(const Point& point) {
   return std::isfinite(point.x) && std::isfinite(point.y);
@@ -236,8 +236,9 @@ void EntityMaker::AddArc(const Point& aCentre, double aRadius, double aStart, do
   if (!IsFinite(aCentre) || !std::isfinite(aRadius)) {
     return SkipThis(kTooFar);
   }
-  const double start = Normalised(aStart);
-  const double end = aSweep >= kFullTurn ? start : Normalised(aStart + aSweep);
+  const bool isFull = aSweep >= kFullTurn;
+  const double start = isFull ? 0 : Normalised(aStart);  // a circle begins nowhere: cut all of them at the same places
+  const double end = isFull ? 0 : Normalised(aStart + aSweep);
   const auto addPart = [&](double from, double to) {
     Add(GeometryEngine::CreateEntity_Arc(aCentre.x, aCentre.y, aRadius, from, to));
   };

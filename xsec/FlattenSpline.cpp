@@ -122,18 +122,18 @@ bool AreInOrder(const std::vector<double>& knots) {
 
 std::string WhySplineCannotBeFlattened(const SourceSpline& aSpline) {
   if (aSpline.points.empty()) {
-    return "a spline without control points";
+    return "it has no control points";
   }
   if (aSpline.degree < 1 || aSpline.degree > kHighestDegree || aSpline.points.size() <= aSpline.degree) {
-    return "a spline of a degree that does not suit its control points";
+    return "its degree does not suit its control points";
   }
   if (aSpline.knots.size() != aSpline.points.size() + aSpline.degree + 1 || !AreInOrder(aSpline.knots) ||
       !(aSpline.knots[aSpline.degree] < aSpline.knots[aSpline.points.size()])) {
-    return "a spline with unsuitable knots";
+    return "its knots do not suit its control points";
   }
   const bool areWeightsPositive =
       std::all_of(aSpline.points.begin(), aSpline.points.end(), [](const auto& point) { return point.weight > 0; });
-  return areWeightsPositive ? "" : "a spline with weights that are not positive";
+  return areWeightsPositive ? "" : "its weights are not all positive";
 }
 
 std::vector<Point> FlattenSpline(const SourceSpline& aSpline, double aTolerance) {

@@ -17,7 +17,6 @@ struct Unit {
   double millimetres;
 };
 
-constexpr double kInch = 25.4;                            // millimetres
 constexpr double kSurveyFoot = 1200.0 / 3937.0 * 1000.0;  // millimetres
 
 constexpr std::array kUnits = {
@@ -28,12 +27,12 @@ constexpr std::array kUnits = {
     Unit{7, "km", "kilometres", 1e6},
     Unit{13, "um", "micrometres", 1e-3},
     Unit{12, "nm", "nanometres", 1e-6},
-    Unit{1, "in", "inches", kInch},
-    Unit{2, "ft", "feet", 12 * kInch},
-    Unit{10, "yd", "yards", 36 * kInch},
-    Unit{3, "mi", "miles", 63360 * kInch},
-    Unit{9, "mil", "mils", kInch / 1000},
-    Unit{8, "uin", "microinches", kInch / 1e6},
+    Unit{1, "in", "inches", 25.4},
+    Unit{2, "ft", "feet", 304.8},
+    Unit{10, "yd", "yards", 914.4},
+    Unit{3, "mi", "miles", 1609344},
+    Unit{9, "mil", "mils", 0.0254},
+    Unit{8, "uin", "microinches", 2.54e-5},
     Unit{11, "angstrom", "angstroms", 1e-7},
     Unit{15, "dam", "decametres", 1e4},
     Unit{16, "hm", "hectometres", 1e5},

@@ -1,0 +1,178 @@
+// ELLIPSE and SPLINE as chords: on the curve, and never further from it than the tolerance.
+#include "xsec/Flattening.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <string>
+
+#include "tests/support/Geometry.h"
+#include "tests/xsec/DxfTexts.h"
+
+namespace xsec {
+namespace {
+
+using GeometryEngine::support::IsBits;
+using GeometryEngine::support::IsNear;
+
+const ReadOptions kFine{std::nullopt, 1e-4};
+
+double DistanceToChords(const Drawing& drawing, double x, double y) {
+  double least = 1e300;
+  for (const DrawingEntity& entity : drawing.entities) {
+    const auto& a = entity.geometry.StartCoords;
+    const auto& b = entity.geometry.EndCoords;
+    const double dx = b.x - a.x;
+    const double dy = b.y - a.y;
+    const double along = std::clamp(((x - a.x) * dx + (y - a.y) * dy) / (dx * dx + dy * dy), 0.0, 1.0);
+    least = std::min(least, std::hypot(x - a.x - along * dx, y - a.y - along * dy));
+  }
+  return least;
+}
+
+bool AreJoined(const Drawing& drawing) {
+  for (std::size_t i = 1; i < drawing.entities.size(); ++i) {
+    const auto& end = drawing.entities[i - 1].geometry.EndCoords;
+    const auto& start = drawing.entities[i].geometry.StartCoords;
+    if (end.x != start.x || end.y != start.y) {
+      return false;
+    }
+  }
+  return true;
+}
+
+TEST(ReadEllipse, WholeOneIsAClosedRingOfChordsWithinTheTolerance) {
+  const Drawing drawing =
+      ReadEntities("0 ELLIPSE | 10 1 | 20 2 | 11 30 | 21 40 | 40 0.25 | 41 0 | 42 6.283185307179586", kFine);
+  EXPECT_EQ(drawing.flattened.at("ELLIPSE"), 1U);
+  EXPECT_TRUE(AreJoined(drawing));
+  EXPECT_THAT(drawing.entities.back().geometry.EndCoords, IsBits(drawing.entities.front().geometry.StartCoords));
+  double furthest = 0;
+  for (int i = 0; i < 5000; ++i) {
+    const double t = i * 2 * std::numbers::pi / 5000;
+    const double x = 1 + 30 * std::cos(t) - 10 * std::sin(t);
+    const double y = 2 + 40 * std::cos(t) + 7.5 * std::sin(t);
+    furthest = std::max(furthest, DistanceToChords(drawing, x, y));
+  }
+  EXPECT_LE(furthest, 1e-4);
+  EXPECT_GT(furthest, 1e-5);  // not finer than asked for by orders
+}
+
+TEST(ReadEllipse, PartRunsFromItsFirstParameterToItsLast) {
+  const Drawing drawing = ReadEntities("0 ELLIPSE | 11 10 | 40 0.5 | 41 1.5707963267948966 | 42 3.141592653589793");
+  EXPECT_THAT(drawing.entities.front().geometry.StartCoords, IsNear(0, 5, 1e-12));
+  EXPECT_THAT(drawing.entities.back().geometry.EndCoords, IsNear(-10, 0, 1e-12));
+}
+
+TEST(ReadEllipse, ExtrusionAlongMinusZTurnsItTheOtherWay) {
+  const Drawing drawing =
+      ReadEntities("0 ELLIPSE | 11 10 | 40 0.5 | 41 0 | 42 1.5707963267948966 | 210 0 | 220 0 | 230 -1");
+  EXPECT_THAT(drawing.entities.back().geometry.EndCoords, IsNear(0, -5, 1e-12));
+}
+
+TEST(ReadEllipse, OneWithEqualAxesIsAnArc) {
+  const Drawing arc = ReadEntities("0 ELLIPSE | 10 1 | 11 0 | 21 2 | 40 1 | 41 0 | 42 1.5707963267948966");
+  EXPECT_THAT(GeometryOf(arc), IsNear("A c 1,0 r 2 90..180", 1e-12));
+  EXPECT_TRUE(arc.flattened.empty());
+  const Drawing circle = ReadEntities("0 ELLIPSE | 11 0 | 21 2 | 40 1 | 41 0 | 42 6.283185307179586");
+  EXPECT_THAT(GeometryOf(circle), IsNear("A c 0,0 r 2 0..180; A c 0,0 r 2 180..0", 1e-12));
+}
+
+TEST(ReadEllipse, StretchedIntoACircleItIsAnArc) {
+  const Drawing drawing =
+      ReadBlocks("0 BLOCK | 2 b | 0 ELLIPSE | 11 4 | 40 0.5 | 41 0 | 42 1.5707963267948966 | 0 ENDBLK",
+                 "0 INSERT | 2 b | 41 -1 | 42 2");
+  EXPECT_THAT(GeometryOf(drawing), IsNear("A c 0,0 r 4 90..180", 1e-9));
+}
+
+TEST(ReadEllipse, WithoutAMajorAxisItIsSkipped) {
+  EXPECT_EQ(SkippedCount(ReadEntities("0 ELLIPSE | 40 0.5"), "ELLIPSE", "0", "its radius is not above 0"), 1U);
+}
+
+TEST(ReadEllipse, DefaultToleranceIsAHundredthOfAMillimetreOrAThousandthOfTheCurve) {
+  const Drawing large = ReadEntities("0 ELLIPSE | 11 1000 | 40 0.5");
+  const Drawing small = ReadEntities("0 ELLIPSE | 11 0.001 | 40 0.5");
+  EXPECT_LE(DistanceToChords(large, 1000 * std::cos(0.01), 500 * std::sin(0.01)), 0.01);
+  EXPECT_GE(small.entities.size(), 30U);
+  EXPECT_LE(DistanceToChords(small, 0.001 * std::cos(0.1), 0.0005 * std::sin(0.1)), 2e-6);
+}
+
+const std::string kQuarterCircle =  // of radius 10, exactly, as a rational spline
+    "0 SPLINE | 70 4 | 71 2 | 72 6 | 73 3 | 40 0 | 40 0 | 40 0 | 40 1 | 40 1 | 40 1 |"
+    "10 10 | 20 0 | 41 1 | 10 10 | 20 10 | 41 0.7071067811865476 | 10 0 | 20 10 | 41 1";
+
+TEST(ReadSpline, RationalSplineIsFlattenedWithinTheTolerance) {
+  const Drawing drawing = ReadEntities(kQuarterCircle, kFine);
+  EXPECT_EQ(drawing.flattened.at("SPLINE"), 1U);
+  EXPECT_TRUE(AreJoined(drawing));
+  EXPECT_THAT(drawing.entities.front().geometry.StartCoords, IsBits(10, 0));
+  EXPECT_THAT(drawing.entities.back().geometry.EndCoords, IsBits(0, 10));
+  for (const DrawingEntity& entity : drawing.entities) {
+    const auto& end = entity.geometry.EndCoords;
+    EXPECT_NEAR(std::hypot(end.x, end.y), 10, 1e-12);
+  }
+  for (int i = 0; i <= 500; ++i) {
+    const double t = i * std::numbers::pi / 1000;
+    EXPECT_LE(DistanceToChords(drawing, 10 * std::cos(t), 10 * std::sin(t)), 1e-4);
+  }
+}
+
+TEST(ReadSpline, StraightSplineIsOneLineForEachSpan) {
+  EXPECT_THAT(
+      GeometryOf(ReadEntities("0 SPLINE | 71 1 | 40 0 | 40 0 | 40 1 | 40 2 | 40 2 | 10 0 | 10 4 | 10 4 | 20 3")),
+      IsBits("L 0,0 4,0; L 4,0 4,3"));
+}
+
+TEST(ReadSpline, KnotsThatDoNotRepeatAtTheEndsAreAllowed) {
+  // A uniform quadratic spline begins and ends in the middle of its first and last legs.
+  const Drawing drawing = ReadEntities(
+      "0 SPLINE | 71 2 | 40 0 | 40 1 | 40 2 | 40 3 | 40 4 | 40 5 | 40 6 | 10 0 | 10 4 | 10 4 | 20 4 | 10 8 | 20 4",
+      kFine);
+  EXPECT_THAT(drawing.entities.front().geometry.StartCoords, IsNear(2, 0, 1e-12));
+  EXPECT_THAT(drawing.entities.back().geometry.EndCoords, IsNear(6, 4, 1e-12));
+  EXPECT_LE(DistanceToChords(drawing, 3.5, 0.5), 1e-4);  // parameter 2.5: (4, 0) pulled by both neighbours
+}
+
+TEST(ReadSpline, BlockPlacesAndStretchesIt) {
+  const Drawing drawing =
+      ReadBlocks("0 BLOCK | 2 b | " + kQuarterCircle + " | 0 ENDBLK", "0 INSERT | 2 b | 10 5 | 41 2 | 42 1", kFine);
+  for (const DrawingEntity& entity : drawing.entities) {
+    const auto& end = entity.geometry.EndCoords;
+    EXPECT_NEAR(std::hypot((end.x - 5) / 2, end.y), 10, 1e-12);
+  }
+}
+
+TEST(ReadSpline, WhatCannotBeFlattenedIsSkippedWithTheReason) {
+  const auto reasonOf = [](const std::string& pairs) {
+    const Drawing drawing = ReadEntities("0 SPLINE | " + pairs);
+    EXPECT_TRUE(drawing.entities.empty());
+    return drawing.skipped.size() == 1 ? drawing.skipped.begin()->first.reason : "";
+  };
+  EXPECT_EQ(reasonOf("71 3 | 74 2 | 11 0 | 11 5"), "it has no control points");
+  EXPECT_EQ(reasonOf("71 3 | 10 0 | 10 1 | 10 2"), "its degree does not suit its control points");
+  EXPECT_EQ(reasonOf("71 0 | 10 0 | 10 1 | 40 0"), "its degree does not suit its control points");
+  EXPECT_EQ(reasonOf("71 -4 | 10 0 | 10 1 | 40 0"), "its degree does not suit its control points");
+  EXPECT_EQ(reasonOf("71 1 | 10 0 | 10 1 | 40 0 | 40 0 | 40 1"), "its knots do not suit its control points");
+  EXPECT_EQ(reasonOf("71 1 | 10 0 | 10 1 | 40 0 | 40 1 | 40 0 | 40 1"), "its knots do not suit its control points");
+  EXPECT_EQ(reasonOf("71 1 | 10 0 | 10 1 | 40 0 | 40 0 | 40 0 | 40 0"), "its knots do not suit its control points");
+  EXPECT_EQ(reasonOf("71 1 | 10 0 | 41 1 | 10 1 | 41 0 | 40 0 | 40 0 | 40 1 | 40 1"),
+            "its weights are not all positive");
+}
+
+TEST(ReadSpline, StatedCountsAreNotBelieved) {
+  EXPECT_THAT(
+      GeometryOf(ReadEntities("0 SPLINE | 71 1 | 72 2000000000 | 73 2000000000 | 74 2000000000 | 40 0 | 40 0 | 40 1 |"
+                              "40 1 | 10 0 | 10 4")),
+      IsBits("L 0,0 4,0"));
+}
+
+TEST(FlattenSpline, FinenessIsBoundedWhateverTheToleranceAsksFor) {
+  const Drawing drawing = ReadEntities(kQuarterCircle, ReadOptions{std::nullopt, 1e-300});
+  EXPECT_LT(drawing.entities.size(), 100000U);
+  EXPECT_LT(ReadEntities("0 ELLIPSE | 11 10 | 40 0.5", ReadOptions{std::nullopt, 0}).entities.size(), 200000U);
+}
+
+}  // namespace
+}  // namespace xsec
