@@ -12,6 +12,7 @@ namespace GeometryEngine::support {
 namespace {
 
 constexpr double kRounding = 1e-9;  // relative to the area
+constexpr double kGrid = 1e-6;      // drawing units, and their squares
 
 bool IsClose(double aLeft, double aRight, double aEps) {
   return aLeft == aRight || std::abs(aLeft - aRight) <= aEps;
@@ -37,10 +38,12 @@ TLoop GetLoop(const TEntityTree& aRegionTree, const TTreeNode& aRegion) {
   return loop;
 }
 
+// Numbers are compared on a grid, so that the order doesn't hang on rounding.
 bool ComesBefore(const TLoop& aLeft, const TLoop& aRight) {
   const auto key = [](const TLoop& loop) {
-    return std::make_tuple(std::round(loop.area / kRounding), loop.count, std::round(loop.low.x / kRounding),
-                           std::round(loop.low.y / kRounding));
+    const auto onGrid = [](double number) { return std::round(number / kGrid); };
+    return std::make_tuple(onGrid(loop.area), loop.count, onGrid(loop.low.x), onGrid(loop.low.y),
+                           onGrid(loop.centroid.x), onGrid(loop.centroid.y));
   };
   return key(aLeft) < key(aRight);
 }
