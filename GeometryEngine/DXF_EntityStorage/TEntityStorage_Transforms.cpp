@@ -26,10 +26,9 @@ void TEntityStorage::RotateEntities(const TRotationMatrix& aMatrix) {
 }
 
 void TEntityStorage::RotateEntities_AroundPoint(const TRotationMatrix& aMatrix, const TEntityCoordinate& aCentre) {
-  // The centre is taken by value: it may be a coordinate of an entity of this storage.
-  ReplaceEach(fEntityArray, [&aMatrix, aCentre](const TDXFEntity& aEntity) {
-    return RotateEntity_AroundPoint(aEntity, aMatrix, aCentre);
-  });
+  // The centre may be a coordinate of this storage: it turns about itself and stays where it is.
+  ReplaceEach(fEntityArray,
+              [&](const TDXFEntity& aEntity) { return RotateEntity_AroundPoint(aEntity, aMatrix, aCentre); });
 }
 
 void TEntityStorage::Translate(double aXDistance, double aYDistance) {

@@ -55,9 +55,9 @@ void Rotate(TCoordinateArray& aCoordinates, const TRotationMatrix& aRotationMatr
 
 void Rotate_AboutPoint(TCoordinateArray& aCoordinates, const TRotationMatrix& aRotationMatrix,
                        const TEntityCoordinate& aPoint) {
-  const TEntityCoordinate pivot = aPoint;  // aPoint may be one of the elements
+  // aPoint may be one of the elements: it turns about itself and stays where it is.
   for (TEntityCoordinate& coordinate : aCoordinates) {
-    coordinate = RotateByAngle_AboutPoint_Matrix(aRotationMatrix, pivot, coordinate);
+    coordinate = RotateByAngle_AboutPoint_Matrix(aRotationMatrix, aPoint, coordinate);
   }
 }
 

@@ -256,6 +256,7 @@ void ExpectBoundedSort(const char* aKind) {
   EXPECT_LE(sort.Limit(), 8 * keys.size() * levels);
   // Beyond the limit: one more look at what may be in order already, and a merge sort of what is left.
   EXPECT_LE(sort.Comparisons(), sort.Limit() + keys.size() * (levels + 1));
+  EXPECT_LE(sort.StackCapacity(), 2 * (levels + 1));  // it grows by doubling
   std::vector<bool> found(keys.size(), false);
   for (const detail::TSortItem& item : items) found.at(item.fPlace) = true;
   EXPECT_EQ(std::find(found.begin(), found.end(), false), found.end());

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "GeometryEngine/DXF_EntityStorage/TEntityStorage.h"
+#include "GeometryEngine/GeometryEngine_Entity_Operations/EntityTransforms.h"
 #include "GeometryEngine/GeometryFuncts/Rotation.h"
 #include "tests/support/Chains.h"
 #include "tests/support/Geometry.h"
@@ -20,6 +21,7 @@ using support::MakeChain;
 using support::MakeStorage;
 using support::ParseEntity;
 using support::TSettingsGuard;
+using ::testing::Not;
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
@@ -107,10 +109,12 @@ TEST(TEntityStorage_Mirror, TwiceAboutTheSameLineRestoresTheChain) {
 
 TEST(TEntityStorage_Mirror, AboutAnOwnLineTakesTheLineAsItWas) {
   const TSettingsGuard settings;
-  const auto storage = MakeStorage("L 0.1,0.2 3.3,7.7; L 3.3,7.7 9,1; L 9,1 0.1,0.2");
-  const auto twin = MakeStorage("L 0.1,0.2 3.3,7.7; L 3.3,7.7 9,1; L 9,1 0.1,0.2");
+  constexpr const char* kText = "L 14.6,0.4 15,9.3; L 15,9.3 3.3,1.1; L 3.3,1.1 14.6,0.4";
+  const auto storage = MakeStorage(kText);
+  const auto twin = MakeStorage(kText);
+  EXPECT_THAT(MirrorEntity_AboutLine(storage->Entities(0), storage->Entities(0)), Not(IsBits(storage->Entities(0))));
   storage->Mirror(*storage->Entities_P(0));
-  twin->Mirror(ParseEntity("L 0.1,0.2 3.3,7.7"));
+  twin->Mirror(ParseEntity("L 14.6,0.4 15,9.3"));
   EXPECT_THAT(storage->EntityArray(), IsBits(twin->EntityArray()));
 }
 
@@ -207,6 +211,14 @@ TEST(TEntityStorage_DuplicateAlongAxis, LeavesGapsBetweenCopiesThatDoNotTouch) {
 }
 
 TEST(TEntityStorage_DuplicateAlongAxis, ComparesWithTheCopyBeforeOnly) {
+  const TSettingsGuard settings;
+  // The third copy's line at 4 lies on the first copy's, with the second copy in between.
+  const auto storage = MakeStorage("L 0,0 0,1; L 4,0 4,1");
+  storage->DuplicateAlongAxis(3, 2);
+  EXPECT_THAT(storage->EntityArray(), IsBits("L 0,0 0,1; L 4,0 4,1; L 2,0 2,1; L 6,0 6,1; L 4,0 4,1; L 8,0 8,1"));
+}
+
+TEST(TEntityStorage_DuplicateAlongAxis, TakesTurnsWhereAllCopiesFallOnOnePlace) {
   const TSettingsGuard settings;
   // Of three copies in one place the second wipes out the first, and the third has nothing before it.
   const auto storage = MakeStorage("L 0,0 2,0; N");

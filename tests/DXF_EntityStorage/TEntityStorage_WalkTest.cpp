@@ -156,6 +156,12 @@ TEST_F(TEntityStorage_ReOrderEntities, MakesTheVertexTheStart) {
   EXPECT_THAT(square->GetStartCoordinate(), IsBits(4, 4));
 }
 
+TEST_F(TEntityStorage_ReOrderEntities, MovesASingleEntityToTheEnd) {
+  const auto square = MakeStorage(kSquare);
+  square->ReOrderEntities({4, 0});
+  EXPECT_THAT(square->EntityArray(), IsBits("L 4,4 4,0; L 4,4 0,4; L 0,0 0,4; L 0,0 4,0"));
+}
+
 TEST_F(TEntityStorage_ReOrderEntities, LeavesTheOrderOffTheVerticesAndAtTheStart) {
   const auto square = MakeStorage(kSquare);
   for (const TEntityCoordinate& coordinate : {TEntityCoordinate{0, 0}, {2, 0}, {kNaN, kNaN}}) {

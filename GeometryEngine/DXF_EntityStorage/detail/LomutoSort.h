@@ -53,6 +53,8 @@ class TLomutoSort {
 
   std::uint64_t Comparisons() const { return fComparisons; }
   std::uint64_t Limit() const { return fLimit; }
+  /// Room that the stack has taken, in slices.
+  std::size_t StackCapacity() const { return fOpen.capacity(); }
 
  private:
   /// The limit, as a multiple of n log2(n). Shuffled keys take about 1.4.
