@@ -1,5 +1,8 @@
 #pragma once
 
+// The tree in which region detection keeps what it finds out: interceptions, the vertex graph, traced regions. It lives
+// as long as the driver (TEntityBaseClass). What a host keeps is the geometry tree, TTree_Geometry.
+
 #include <memory>
 #include <string>
 #include <string_view>
@@ -12,31 +15,83 @@
 
 namespace GeometryEngine {
 
+/// A root with two levels below it; nodes refer to entities by their index in a storage. The driver has four:
+///
+///   name                                           level 1                        level 2
+///   "Coordinates_SlotPole", "Coordinates_Symmetry" a vertex: Coordinates          a half-edge: EntityIndex of a piece
+///                                                                                 that ends at the vertex, Travelled
+///   "Intercepts"                                   a drawn entity: EntityIndex    a point on it: Coordinates, in order
+///                                                                                 along the entity
+///   "Regions"                                      a traced loop or chain:        an entity of it, in the order of
+///                                                  Coordinates of its start,      travel: EntityIndex of a piece
+///                                                  GaussArea, RegionCentroid,
+///                                                  TravelDirection, SubRegions
+///
+/// A piece stands under both of its vertices, and so is two half-edges.
+///
+/// Besides, every node stands in one flat list in the order in which it was added, with the root in front; an index of
+/// the tree is a position in this list. The first Clear takes the root off the list for good. Either way a node's
+/// absolute index equals its position, so that lists of absolute indexes (TRegionWalk) can be resolved by
+/// GetNodeFromIndex; removing a node ends that.
+///
+/// OWNS: its nodes, from AddTreeNode on until they are removed, cleared or go with the tree; not the storage.
+/// COST: each search compares node after node.
 class GEOMETRYENGINE_API TEntityTree {
  public:
+  /// A tree with its root alone and without a storage. The root has level 0 and the region index -2.
   explicit TEntityTree(std::string_view aName);
   ~TEntityTree();
   TEntityTree(const TEntityTree&) = delete;
   TEntityTree& operator=(const TEntityTree&) = delete;
 
+  // Nodes -------------------------------------------------------------------------------------------------------------
+
+  /// A new last child of the parent. DEGENERATE: nil when the parent is nil or of another tree; nothing changes then.
   TTreeNode* AddTreeNode(TTreeNode* aParentNode);
+  /// A new child at a place among the parent's children; the later ones move up. In the flat list it stands last all
+  /// the same. DEGENERATE: as AddTreeNode; a place outside is taken as the nearer end.
   TTreeNode* AddTreeNode_AtIndex(TTreeNode* aParentNode, TIndex aIndex);
+  /// A new last node of level 1.
   TTreeNode* AddTreeNode_ToRoot();
+  /// Destroys the node. Its children go with it, all the way down, or become the last children of its parent; only they
+  /// themselves then get a new level, not what lies below them. DEGENERATE: nothing happens for the root, for nil and
+  /// for a node that is not in the flat list.
   void RemoveTreeNode(TTreeNode* aNode, bool aRemoveChildren);
+  /// Destroys every node but the root and starts absolute indexes from 0 again.
+  /// From the second Clear on the first node of the list is not destroyed: it drops out of the tree, without children,
+  /// and lives on until the next Clear or until the tree goes. Every other reference to a node ends here.
   void Clear();
 
+  // Searches ----------------------------------------------------------------------------------------------------------
+
+  /// The first node of level 1 that lies at the point within the linear tolerance, in x and in y; nil when none does.
   TTreeNode* Search_L1_Coords(const TEntityCoordinate& aCoordinates) const;
+  /// The first node of level 1 whose entity equals this one (a line equals its reverse, tags don't count); nil when
+  /// none does. DEGENERATE: nil without a storage, and for an entity that is neither line nor arc.
   TTreeNode* Search_L1_Entities(const TDXFEntity& aEntity) const;
+  /// The first child of the node that lies at the point within the linear tolerance; nil when none does.
   TTreeNode* Search_L2_Coordinates(const TEntityCoordinate& aCoordinates, const TTreeNode* aNode) const;
+
+  // The flat list -----------------------------------------------------------------------------------------------------
+
+  /// Frees the half-edge at a position for tracing. DEGENERATE: nothing happens outside the list.
   void ResetTravelledFlag(TIndex aIndex);
+  /// The node at a position; nil outside.
   TTreeNode* GetNodeFromIndex(TIndex aIndex) const;
   TTreeNode* Item(TIndex aIndex) const;
-  /// The entity that the node refers to; an empty one without storage or outside of it.
-  const TDXFEntity& GetNodeEntity(const TTreeNode& aNode) const;
+  /// Length of the flat list: with the root before the first Clear, without it afterwards.
   TIndex GetCount() const;
   TIndex Count() const;
+
+  // The rest ----------------------------------------------------------------------------------------------------------
+
+  /// The entity that a node refers to, in the tree's storage; it moves when the storage changes.
+  /// DEGENERATE: an empty entity without a storage and for an index outside of it.
+  const TDXFEntity& GetNodeEntity(const TTreeNode& aNode) const;
+  /// Never nil.
   TTreeNode* RootNode() const;
   const std::string& Name() const;
+  /// The storage whose entities the nodes' indexes count; nil at first.
   TEntityStorage* pEntityStorage() const;
   void pEntityStorage(TEntityStorage* apEntityStorage);
 
@@ -50,8 +105,8 @@ class GEOMETRYENGINE_API TEntityTree {
 
   std::unique_ptr<TTreeNode> fRootNode;
   std::vector<TTreeNode*> fTreeNodes;
-  TIndex findex = 0;
-  bool fRemoveAll = false;
+  TIndex findex = 0;        ///< the absolute index of the next node
+  bool fRemoveAll = false;  ///< true while all nodes go; they then leave the tree's lists alone
   std::string fTreeName;
   TEntityStorage* fEntityStorage = nullptr;
   std::vector<std::unique_ptr<TTreeNode>> fOwnedNodes;  ///< every node but the root, until it is destroyed
