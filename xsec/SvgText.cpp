@@ -26,7 +26,8 @@ constexpr double kOpenMark = 0.7;
 
 constexpr double kPictureSize = 1400;  // pixels of the longer side
 constexpr double kFontUnit = 10;       // font sizes are this, scaled; viewers round sizes far below 1
-constexpr std::size_t kLegendRows = 8;
+constexpr std::size_t kOneColumn = 4;  // kinds that the legend lists below each other; more take two columns
+constexpr std::size_t kMostRows = 8;
 constexpr const char* kOpenColour = "#d81818";
 
 std::string Escaped(std::string_view text) {
@@ -52,6 +53,14 @@ std::string Escaped(std::string_view text) {
   return escaped;
 }
 
+std::string Subtitle(const Report& report) {
+  const Extents& box = report.drawing.extents;
+  const std::size_t regions = report.detection.regions.size();
+  return fmt::format("{} region{}, net area {} mm²; {} × {} mm; unit of the drawing: {} ({})", regions,
+                     regions == 1 ? "" : "s", Plain(TotalArea(report.detection), 6), Plain(box.maxX - box.minX, 5),
+                     Plain(box.maxY - box.minY, 5), report.drawing.units.name, report.drawing.units.source);
+}
+
 /// Writes one picture. Coordinates are millimetres with y upwards; the picture's y runs downwards, so each is negated
 /// on its way out.
 class SvgPicture {
@@ -60,7 +69,9 @@ class SvgPicture {
       : fReport(report),
         fKinds(GroupRegions(report.detection.regions)),
         fBox(report.drawing.extents),
-        fUnit(std::max({fBox.maxX - fBox.minX, fBox.maxY - fBox.minY, kSmallestSide}) / 100) {}
+        fUnit(std::max({fBox.maxX - fBox.minX, fBox.maxY - fBox.minY, kSmallestSide}) / 100),
+        fTitle(ToUtf8(std::filesystem::path(report.drawing.path).filename().string())),
+        fSubtitle(Subtitle(report)) {}
 
   std::string Text() {
     Begin();
@@ -80,23 +91,32 @@ class SvgPicture {
     fmt::format_to(std::back_inserter(fText), format, std::forward<Values>(values)...);
   }
 
-  std::size_t KindRows() const { return std::min(fKinds.size(), kLegendRows); }
-  bool HasMoreKinds() const { return fKinds.size() > kLegendRows; }
+  std::size_t LegendRows() const {
+    return fKinds.size() <= kOneColumn ? fKinds.size() : std::min((fKinds.size() + 1) / 2, kMostRows);
+  }
+  std::size_t KindsInLegend() const { return std::min(fKinds.size(), 2 * LegendRows()); }
+  bool HasMoreKinds() const { return fKinds.size() > KindsInLegend(); }
   bool HasOpenPieces() const { return !fReport.detection.diagnostics.openPieces.empty(); }
+  /// Of the drawing, or of the title above it when that is wider.
+  double Width() const {
+    const double title = kTitleSize * TextWidth(CountCharacters(fTitle));
+    const double subtitle = kTextSize * TextWidth(CountCharacters(fSubtitle));
+    return std::max(fBox.maxX - fBox.minX, std::max(title, subtitle) * fUnit);
+  }
   double LegendHeight() const {
-    const std::size_t rows = KindRows() + (HasMoreKinds() ? 1 : 0) + (HasOpenPieces() ? 1 : 0);
+    const std::size_t rows = LegendRows() + (HasMoreKinds() ? 1 : 0) + (HasOpenPieces() ? 1 : 0);
     return static_cast<double>(rows) * kLineStep * fUnit;
   }
 
   void Begin() {
     const double left = fBox.minX - kMargin * fUnit;
     const double top = -fBox.maxY - (kMargin + 3 * kLineStep) * fUnit;
-    const double width = std::max(fBox.maxX - fBox.minX, kNarrowest * fUnit) + 2 * kMargin * fUnit;
+    const double width = Width() + 2 * kMargin * fUnit;
     const double height = -fBox.minY + kMargin * fUnit + LegendHeight() - top;
     const double scale = kPictureSize / std::max(width, height);
-    Add("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"{:.0f}\" height=\"{:.0f}\" viewBox=\"{:.10g} {:.10g} "
-        "{:.10g} "
-        "{:.10g}\" font-family=\"Helvetica, Arial, sans-serif\" stroke-linejoin=\"round\" stroke-linecap=\"round\">\n",
+    Add("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"{:.0f}\" height=\"{:.0f}\" "
+        "viewBox=\"{:.10g} {:.10g} {:.10g} {:.10g}\" font-family=\"Helvetica, Arial, sans-serif\" "
+        "stroke-linejoin=\"round\" stroke-linecap=\"round\">\n",
         width * scale, height * scale, left, top, width, height);
     Add("<rect x=\"{:.10g}\" y=\"{:.10g}\" width=\"{:.10g}\" height=\"{:.10g}\" fill=\"#ffffff\"/>\n", left, top, width,
         height);
@@ -108,16 +128,10 @@ class SvgPicture {
   }
 
   void Title() {
-    const Detection& detection = fReport.detection;
-    const DrawingUnits& units = fReport.drawing.units;
     const double top = -fBox.maxY - kMargin * fUnit;
     Write(fBox.minX, top - 1.6 * kLineStep * fUnit, kTitleSize * fUnit, " fill=\"#202020\" font-weight=\"bold\"",
-          ToUtf8(std::filesystem::path(fReport.drawing.path).filename().string()));
-    Write(
-        fBox.minX, top - 0.5 * kLineStep * fUnit, kTextSize * fUnit, " fill=\"#505050\"",
-        fmt::format("{} region{}, net area {} mm²; {} × {} mm; unit of the drawing: {} ({})", detection.regions.size(),
-                    detection.regions.size() == 1 ? "" : "s", Plain(TotalArea(detection), 6),
-                    Plain(fBox.maxX - fBox.minX, 5), Plain(fBox.maxY - fBox.minY, 5), units.name, units.source));
+          fTitle);
+    Write(fBox.minX, top - 0.5 * kLineStep * fUnit, kTextSize * fUnit, " fill=\"#505050\"", fSubtitle);
   }
 
   void AddPieceTo(const TravelledPiece& piece) {
@@ -183,41 +197,51 @@ class SvgPicture {
   }
 
   void Legend() {
-    double y = -fBox.minY + (kMargin + kLineStep / 2) * fUnit;
-    for (std::size_t kind = 0; kind < KindRows(); ++kind, y += kLineStep * fUnit) AddLegendRow(kind, y);
+    const double top = -fBox.minY + (kMargin + kLineStep / 2) * fUnit;
+    const std::size_t rows = LegendRows();
+    for (std::size_t kind = 0; kind < KindsInLegend(); ++kind) {
+      const double x = kind < rows ? fBox.minX : fBox.minX + Width() / 2;
+      AddLegendRow(kind, x, top + static_cast<double>(kind % rows) * kLineStep * fUnit);
+    }
+    double y = top + static_cast<double>(rows) * kLineStep * fUnit;
     if (HasMoreKinds()) {
-      LegendText(y, fmt::format("and {} more kinds", fKinds.size() - KindRows()));
+      LegendText(fBox.minX, y, fmt::format("and {} more kinds", fKinds.size() - KindsInLegend()));
       y += kLineStep * fUnit;
     }
-    if (!HasOpenPieces()) return;
-    Add("<path fill=\"none\" stroke=\"{}\" stroke-width=\"{:.6g}\" d=\"M{:.10g} {:.10g}h{:.6g}\"/>\n", kOpenColour,
-        kOpenWidth * fUnit, fBox.minX, y - 0.6 * fUnit, 2 * fUnit);
-    LegendText(y, fmt::format("{} open pieces, {} loose ends", fReport.detection.diagnostics.openPieces.size(),
-                              CountLooseEnds(fReport.detection)));
+    if (HasOpenPieces()) AddLegendOfOpenPieces(y);
   }
 
-  void AddLegendRow(std::size_t kind, double y) {
+  void AddLegendRow(std::size_t kind, double x, double y) {
     const RegionKind& group = fKinds[kind];
     const std::size_t depth = fReport.detection.regions[group.regions.front()].depth;
     Add("<rect x=\"{:.10g}\" y=\"{:.10g}\" width=\"{:.6g}\" height=\"{:.6g}\" fill=\"{}\" stroke=\"#303030\" "
         "stroke-width=\"{:.6g}\"/>\n",
-        fBox.minX, y - 1.3 * fUnit, 2 * fUnit, 1.6 * fUnit, FillColour(kind, depth), kOutlineWidth * fUnit);
+        x, y - 1.3 * fUnit, 2 * fUnit, 1.6 * fUnit, FillColour(kind, depth), kOutlineWidth * fUnit);
     const std::size_t count = group.regions.size();
     const std::string area = Plain(group.netArea, 5);
-    LegendText(y, count == 1 ? fmt::format("{}: {} mm²", group.name, area)
-                             : fmt::format("{}: {} of {} mm²", group.name, count, area));
+    LegendText(x, y,
+               count == 1 ? fmt::format("{}: {} mm²", group.name, area)
+                          : fmt::format("{}: {} of {} mm²", group.name, count, area));
   }
 
-  void LegendText(double y, std::string_view text) {
-    Write(fBox.minX + 3 * fUnit, y, kTextSize * fUnit, " fill=\"#303030\"", text);
+  void AddLegendOfOpenPieces(double y) {
+    Add("<path fill=\"none\" stroke=\"{}\" stroke-width=\"{:.6g}\" d=\"M{:.10g} {:.10g}h{:.6g}\"/>\n", kOpenColour,
+        kOpenWidth * fUnit, fBox.minX, y - 0.6 * fUnit, 2 * fUnit);
+    LegendText(fBox.minX, y,
+               fmt::format("{} open pieces, {} loose ends", fReport.detection.diagnostics.openPieces.size(),
+                           CountLooseEnds(fReport.detection)));
   }
 
-  static constexpr double kNarrowest = 60;  // units; room for the title over a tall drawing
+  void LegendText(double x, double y, std::string_view text) {
+    Write(x + 3 * fUnit, y, kTextSize * fUnit, " fill=\"#303030\"", text);
+  }
 
   const Report& fReport;
   std::vector<RegionKind> fKinds;
   Extents fBox;
   double fUnit;
+  std::string fTitle;
+  std::string fSubtitle;
   std::string fText;
 };
 

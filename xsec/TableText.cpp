@@ -28,8 +28,13 @@ constexpr std::array<Column, 8> kColumns = {{{"id", Align::Right},
 
 using Row = std::array<std::string, kColumns.size()>;
 
+/// Micrometres are enough for a table. Adding 0 turns a rounded -0 into 0.
+double Rounded(double value) {
+  return std::round(value * 1000) / 1000 + 0.0;
+}
+
 std::string Coordinates(const Point& point) {
-  return fmt::format("{:.3f}, {:.3f}", point.x, point.y);
+  return fmt::format("{:.3f}, {:.3f}", Rounded(point.x), Rounded(point.y));
 }
 
 Row RowOf(const Region& region, std::size_t index) {
