@@ -132,6 +132,11 @@ TEST_F(UpdateRegionDuplicationValues, SharesOutTheFullTurn) {
   EXPECT_EQ(fRegion.DuplicationAngle(), 45);
 }
 
+TEST_F(UpdateRegionDuplicationValues, ASingleOccurrenceHasTheFullTurn) {
+  fRegion.UpdateRegionDuplicationValues(1);
+  EXPECT_EQ(fRegion.DuplicationAngle(), 360);
+}
+
 TEST_F(UpdateRegionDuplicationValues, NumberBelow1GivesAngle0) {
   for (const std::int32_t number : {0, -1, INT32_MIN}) {
     fRegion.UpdateRegionDuplicationValues(number);

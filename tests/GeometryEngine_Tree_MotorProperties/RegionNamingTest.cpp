@@ -51,6 +51,11 @@ TEST_F(SetRegionName, OnlyTheLettersAToZAreFolded) {
   EXPECT_EQ(Add("[q\xC3\xBC@").UniqueName(), "[q\xC3\xBC@_1");
 }
 
+TEST_F(SetRegionName, TheWholeAlphabetIsFolded) {
+  Add("abcdefghijklmnopqrstuvwxyz");
+  EXPECT_EQ(Add("ABCDEFGHIJKLMNOPQRSTUVWXYZ").UniqueName(), "ABCDEFGHIJKLMNOPQRSTUVWXYZ_1");
+}
+
 TEST_F(SetRegionName, ABeginningOfAnotherNameIsNoClash) {
   Add("Magnet");
   EXPECT_EQ(Add("Mag").UniqueName(), "Mag");

@@ -1,5 +1,6 @@
 #include "GeometryEngine/Pole_Inaccessibility/PoleSearch.h"
 
+#include <cmath>
 #include <limits>
 #include <memory>
 #include <string>
@@ -82,6 +83,15 @@ TEST_F(SignedDistance, ChildrenAreBoundariesAndOutsideWithTheirRims) {
   EXPECT_EQ(DistanceAt(7.5, 7.5), -1.5);
   EXPECT_EQ(DistanceAt(5, 2), 2);
   EXPECT_EQ(DistanceAt(5, 7), 1);
+}
+
+TEST_F(SignedDistance, EveryRimIsOutside) {
+  Internal(RectangleText(4, 4, 6, 6));
+  Child(RectangleText(1, 1, 3, 3));
+  for (const TEntityCoordinate& rim : support::ParseCoordinates("10,5 4,5 3,2")) {
+    EXPECT_EQ(DistanceAt(rim.x, rim.y), 0);
+    EXPECT_TRUE(std::signbit(DistanceAt(rim.x, rim.y))) << support::ToText(rim);
+  }
 }
 
 TEST_F(SignedDistance, WithoutAnyBoundaryIsMinusInfinity) {
