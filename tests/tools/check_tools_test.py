@@ -94,25 +94,52 @@ class CheckLayers(Tree):
 
 
 class CheckSources(Tree):
-    KEPT = "// KEPT: an answer that callers rely on\n"
+    COMMENT = "// KEPT: an answer that callers rely on\n"
+    TEST = "TEST(Numerics, AnswersAsEverKept) {}\n"
+    ROW = "| what | `host/Numerics.cpp` | `Numerics.AnswersAsEverKept` |\n"
+
+    def lay_out(self, comment="", test="", row=""):
+        self.write(ENGINE + "host/Numerics.cpp", text=comment)
+        self.write("tests/host/NumericsTest.cpp", text=test)
+        self.write("docs/kept.md", text=row)
 
     def test_a_good_tree_passes(self):
-        self.write(ENGINE + "host/Numerics.cpp", text=self.KEPT)
-        self.write("tests/host/NumericsTest.cpp", text="TEST(Numerics, AnswersAsEverKept) {}\n")
+        self.lay_out(self.COMMENT, self.TEST, self.ROW)
         code, text = self.run_tool("check_sources.py")
         self.assertEqual(code, 0, text)
-        self.assertIn("1 KEPT: comments, 1 tests", text)
+        self.assertIn("1 oddities kept, 1 KEPT: comments in sources, 1 tests", text)
 
-    def test_a_kept_oddity_without_a_test_is_a_fault(self):
-        self.write(ENGINE + "host/Numerics.cpp", text=self.KEPT)
-        self.write("tests/host/NumericsTest.cpp", text="TEST(Numerics, AnswersAsEver) {}\n")
-        self.assert_fault("check_sources.py", "host: 1 KEPT: comments, but 0 tests")
+    def test_a_comment_without_a_row_is_a_fault(self):
+        self.lay_out(self.COMMENT)
+        self.assert_fault("check_sources.py", "host/Numerics.cpp: 1 KEPT: comments, but 0 rows")
+
+    def test_a_row_without_a_comment_is_a_fault(self):
+        self.lay_out("", self.TEST, self.ROW)
+        self.assert_fault("check_sources.py", "host/Numerics.cpp has no KEPT: comment")
+
+    def test_a_row_of_a_missing_file_is_a_fault(self):
+        self.lay_out(self.COMMENT, self.TEST, self.ROW + self.ROW.replace("Numerics.cpp", "Nowhere.cpp"))
+        self.assert_fault("check_sources.py", "there is no host/Nowhere.cpp")
+
+    def test_a_row_whose_test_is_missing_is_a_fault(self):
+        self.lay_out(self.COMMENT, "", self.ROW)
+        self.assert_fault("check_sources.py", "there is no test Numerics.AnswersAsEverKept")
+
+    def test_a_test_without_a_row_is_a_fault(self):
+        self.lay_out("", self.TEST)
+        self.assert_fault("check_sources.py", "does not list Numerics.AnswersAsEverKept")
+
+    def test_a_header_that_speaks_of_more_than_the_page_is_a_fault(self):
+        self.lay_out()
+        self.write(ENGINE + "host/Numerics.h", text="/// KEPT: an answer that callers rely on\n")
+        self.assert_fault("check_sources.py", "host: its headers have 1 KEPT: comments, but docs/kept.md 0 rows")
 
     def test_a_long_source_is_a_fault(self):
-        self.write(ENGINE + "host/Numerics.cpp", text="\n" * 401)
+        self.lay_out("\n" * 401)
         self.assert_fault("check_sources.py", "401 lines, 400 is the most")
 
     def test_a_header_without_a_guard_is_a_fault(self):
+        self.lay_out()
         (self.root / ENGINE / "host/Numerics.h").write_text("int f();\n")
         self.assert_fault("check_sources.py", "no #pragma once")
 
