@@ -144,6 +144,25 @@ class CheckSources(Tree):
         self.assert_fault("check_sources.py", "no #pragma once")
 
 
+class CheckDocs(Tree):
+    def lay_out(self, architecture, readme="[more](ARCHITECTURE.md)"):
+        self.write("ARCHITECTURE.md", text=architecture)
+        self.write("README.md", text=readme)
+
+    def test_a_good_tree_passes(self):
+        self.lay_out("`TIndex`, `Tolerances` and `Rotation`")
+        code, text = self.run_tool("check_docs.py")
+        self.assertEqual(code, 0, text)
+
+    def test_a_header_that_no_page_names_is_a_fault(self):
+        self.lay_out("`TIndex` and `Tolerances`")
+        self.assert_fault("check_docs.py", "does not name Rotation")
+
+    def test_a_link_that_leads_nowhere_is_a_fault(self):
+        self.lay_out("`TIndex`, `Tolerances` and `Rotation`", "[more](docs/nothing.md)")
+        self.assert_fault("check_docs.py", "README.md: nothing at docs/nothing.md")
+
+
 class CheckExports(Tree):
     def library(self, text):
         source, library = self.root / "library.cpp", self.root / "library.so"

@@ -1,0 +1,47 @@
+#!/usr/bin/env python3
+"""Checks that the pages are about what is there.
+
+- Every link from one file of the project to another leads somewhere.
+- ARCHITECTURE.md names each public header of the library and each header of xsec.
+
+usage: check_docs.py
+"""
+
+import pathlib
+import re
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+LINK = re.compile(r"\]\(([^)#]+)(?:#[^)]*)?\)|<img src=\"([^\"]+)\"")
+
+
+def pages():
+    return sorted(path for path in [*ROOT.glob("*.md"), *(ROOT / "docs").rglob("*.md"), *ROOT.glob("samples/*.md")])
+
+
+def headers():
+    library = [path for path in (ROOT / "GeometryEngine").glob("*/*.h")]
+    return sorted(path.stem for path in [*library, *(ROOT / "xsec").glob("*.h")])
+
+
+def main():
+    faults = []
+    links = 0
+    for page in pages():
+        for match in LINK.finditer(page.read_text(encoding="utf-8")):
+            target = match.group(1) or match.group(2)
+            if "://" in target:
+                continue
+            links += 1
+            if not (page.parent / target).exists():
+                faults.append(f"{page.relative_to(ROOT)}: nothing at {target}")
+    architecture = (ROOT / "ARCHITECTURE.md").read_text(encoding="utf-8")
+    faults += [f"ARCHITECTURE.md: does not name {name}" for name in headers() if f"`{name}`" not in architecture]
+    for fault in faults:
+        print(fault)
+    print(f"{len(pages())} pages, {links} links, {len(headers())} headers, {len(faults)} faults")
+    return 1 if faults or not links else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
