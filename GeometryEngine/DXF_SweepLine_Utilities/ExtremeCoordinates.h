@@ -4,7 +4,7 @@
 // them, and the direction between two points.
 //
 // The arc rules look at whether the arc passes an axis direction. Some of their answers are deliberately not extremes
-// (KEPT below): for boxes that must hold an entity take its true geometry instead. Arcs of at most half a circle are
+// (see there): for boxes that must hold an entity take its true geometry instead. Arcs of at most half a circle are
 // always answered truly to the left, to the right and above.
 //
 // DEGENERATE: an entity that is neither line nor arc answers its centre.
@@ -23,7 +23,7 @@ GEOMETRYENGINE_API TEntityCoordinate GetLowerMostCoordinate(const TDXFEntity& aE
 
 // One of the two ends; the start when they tie, whatever the other axis says. Only the ends are read, so these serve
 // arcs as well.
-// KEPT: left and right compare x exactly; up and down take heights within the linear tolerance for a tie.
+// On purpose: left and right compare x exactly; up and down take heights within the linear tolerance for a tie.
 // DEGENERATE: (0, 0) when a not-a-number leaves the ends without an order.
 GEOMETRYENGINE_API TEntityCoordinate GetLeftMostCoordinate_Line(const TDXFEntity& aEntity);
 GEOMETRYENGINE_API TEntityCoordinate GetRightMostCoordinate_Line(const TDXFEntity& aEntity);
@@ -32,17 +32,18 @@ GEOMETRYENGINE_API TEntityCoordinate GetLowerMostCoordinate_Line(const TDXFEntit
 
 // The circle's extreme point when the arc passes that axis direction, else an end. Angles are compared exactly: an arc
 // that starts or ends on the axis direction answers its end.
-/// KEPT: an arc that passes both 0 and 180 degrees answers its left-most end, not the circle's left-most point.
+/// On purpose: an arc that passes both 0 and 180 degrees answers its left-most end, not the circle's left-most point.
 GEOMETRYENGINE_API TEntityCoordinate GetLeftMostCoordinate_Arc(const TDXFEntity& aEntity);
 GEOMETRYENGINE_API TEntityCoordinate GetRightMostCoordinate_Arc(const TDXFEntity& aEntity);
 /// An arc that passes 0 degrees answers the circle's top only when both its angles lie above 90.
 GEOMETRYENGINE_API TEntityCoordinate GetUpperMostCoordinate_Arc(const TDXFEntity& aEntity);
-/// KEPT: an arc that passes 0 degrees answers the circle's bottom only when both its angles lie above 270, and
+/// On purpose: an arc that passes 0 degrees answers the circle's bottom only when both its angles lie above 270, and
 /// otherwise its upper end.
 GEOMETRYENGINE_API TEntityCoordinate GetLowerMostCoordinate_Arc(const TDXFEntity& aEntity);
 
 /// Direction from `aOrigin` to `aPoint`; exactly 0 within the angle tolerance of the positive x axis.
-/// UNITS: degrees. RANGE: -180 to 180.
+/// UNITS: degrees.
+/// RANGE: -180 to 180.
 GEOMETRYENGINE_API double GetAngleFromCoordinate(const TEntityCoordinate& aPoint, const TEntityCoordinate& aOrigin);
 
 }  // namespace GeometryEngine

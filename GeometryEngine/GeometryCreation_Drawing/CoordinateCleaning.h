@@ -12,8 +12,8 @@
 namespace GeometryEngine {
 
 /// The value, or 0 when it is infinite, not a number, or, in snapping mode 1, near zero.
-/// KEPT: near means up to the linear tolerance and including it, unlike ValuesSame_DXFTolerance; a coordinate exactly
-/// one tolerance away lands on the axis.
+/// On purpose: near means up to the linear tolerance and including it, unlike ValuesSame_DXFTolerance; a coordinate
+/// exactly one tolerance away lands on the axis.
 /// DEGENERATE: a tolerance of exactly 0 snaps what the standard closeness test takes for 0 (1e-12); a negative or
 /// not-a-number one snaps nothing. When the host's store throws, the value comes back as it is; this is the one
 /// function that swallows such an exception.

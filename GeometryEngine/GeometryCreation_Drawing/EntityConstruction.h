@@ -14,8 +14,8 @@
 namespace GeometryEngine {
 
 /// A line between two points.
-/// KEPT: of the cleaning only not-a-number becomes 0; infinities stay and nothing is snapped, so that a line keeps the
-/// very coordinates of its drawing.
+/// On purpose: of the cleaning only not-a-number becomes 0; infinities stay and nothing is snapped, so that a line
+/// keeps the very coordinates of its drawing.
 GEOMETRYENGINE_API TDXFEntity CreateEntity_Line(double x1, double y1, double x2, double y2);
 GEOMETRYENGINE_API TDXFEntity CreateEntity_Line(const TEntityCoordinate& aStart, const TEntityCoordinate& aEnd);
 
@@ -26,7 +26,8 @@ GEOMETRYENGINE_API TDXFEntity CreateEntity_Arc(double centreX, double centreY, d
 
 /// An arc round a centre from one end to the other, anticlockwise. All six values are cleaned. The radius is the mean
 /// of the distances of the two ends, which need not agree: the ends are stored as they are and not moved onto the
-/// circle. RANGE: both angles are above -180 and at most 180.
+/// circle.
+/// RANGE: both angles are above -180 and at most 180.
 GEOMETRYENGINE_API TDXFEntity CreateEntity_Arc_StartEnd(double centreX, double centreY, double startX, double startY,
                                                         double endX, double endY);
 
@@ -40,8 +41,8 @@ GEOMETRYENGINE_API TDXFEntity CreateEntity_Arc_StartEnd_Radius(const TEntityCoor
 
 /// The centre of the circle of this radius through two points: left of the way from start to end for a positive radius,
 /// right of it for a negative one and for 0.
-/// KEPT: a radius shorter than half the chord is no error; the centre then lies sqrt((d / 2)^2 - r^2) beside the middle
-/// of the chord d.
+/// On purpose: a radius shorter than half the chord is no error; the centre then lies sqrt((d / 2)^2 - r^2) beside the
+/// middle of the chord d.
 /// DEGENERATE: coincident points give a division by zero, which is not guarded.
 GEOMETRYENGINE_API TEntityCoordinate GetArcCentre(const TEntityCoordinate& aStart, const TEntityCoordinate& aEnd,
                                                   double aRadius);

@@ -15,7 +15,8 @@ namespace GeometryEngine {
 GEOMETRYENGINE_API TEntityCoordinate MirrorPoint_AboutLine(const TEntityCoordinate& aPoint, const TDXFEntity& aLine);
 
 /// Both ends, and an arc's centre, mirrored. A line keeps its direction. A mirrored arc has its ends swapped, so that
-/// it still runs anticlockwise, and its angles rebuilt from its points. RANGE: rebuilt angles are 0 to below 360.
+/// it still runs anticlockwise, and its angles rebuilt from its points.
+/// RANGE: rebuilt angles are 0 to below 360.
 /// DEGENERATE: a region marker comes back unchanged, and so does every entity when the mirror is no line.
 GEOMETRYENGINE_API TDXFEntity MirrorEntity_AboutLine(const TDXFEntity& aEntity, const TDXFEntity& aLine);
 
@@ -23,8 +24,8 @@ GEOMETRYENGINE_API TDXFEntity MirrorEntity_AboutLine(const TDXFEntity& aEntity, 
 GEOMETRYENGINE_API TDXFEntity TranslateEntity(const TDXFEntity& aEntity, double dx, double dy);
 
 /// Both ends, and an arc's centre, rotated about the origin by RotateByAngle_Matrix. An arc keeps its radius; its
-/// angles are rebuilt from the rotated points, in 0 to below 360, and not shifted by the rotation. DEGENERATE: a region
-/// marker comes back unchanged.
+/// angles are rebuilt from the rotated points, in 0 to below 360, and not shifted by the rotation.
+/// DEGENERATE: a region marker comes back unchanged.
 GEOMETRYENGINE_API TDXFEntity RotateEntity_AroundAxis(const TDXFEntity& aEntity, const TRotationMatrix& aMatrix);
 
 /// The same about `aPoint`.

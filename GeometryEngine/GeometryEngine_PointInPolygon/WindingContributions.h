@@ -25,8 +25,8 @@ GEOMETRYENGINE_API std::int32_t GetWindingNumber_Entity_Addition(const TDXFEntit
 
 /// 1 when the segment goes up past the point with the point on its left, -1 when it goes down past it with the point on
 /// its right or on its line, else 0. An end at the point's height within the linear tolerance lies below the point.
-/// KEPT: the two directions differ for a point on the segment's line, so that a point on an edge that isn't horizontal
-/// is outside a chain travelled anticlockwise and inside one travelled clockwise.
+/// On purpose: the two directions differ for a point on the segment's line, so that a point on an edge that isn't
+/// horizontal is outside a chain travelled anticlockwise and inside one travelled clockwise.
 GEOMETRYENGINE_API std::int32_t DetermineInterceptResult(const TEntityCoordinate& aStart, const TEntityCoordinate& aEnd,
                                                          const TEntityCoordinate& aPoint);
 

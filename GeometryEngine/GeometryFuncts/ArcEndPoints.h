@@ -16,7 +16,8 @@ struct TArcEndPoints {
 };
 
 /// Where the arc's ends are after a rotation by `aAngle` about the origin. Computed from centre, radius and angles; the
-/// stored ends play no part. The rotated centre is cleaned unless nothing turns, the ends are not. UNITS: degrees.
+/// stored ends play no part. The rotated centre is cleaned unless nothing turns, the ends are not.
+/// UNITS: degrees.
 GEOMETRYENGINE_API TArcEndPoints GetArc_EndPoints(const TDXFEntity& aEntity, double aAngle);
 
 }  // namespace GeometryEngine

@@ -13,14 +13,16 @@ namespace GeometryEngine {
 /// The point at distance `r` from the origin in direction `t`.
 GEOMETRYENGINE_API TEntityCoordinate RT_To_XY_Coordinate(double r, double t);
 
-/// Direction of the coordinate as seen from the origin. RANGE: -180 to 180, 0 for the origin itself.
+/// Direction of the coordinate as seen from the origin.
+/// RANGE: -180 to 180, 0 for the origin itself.
 GEOMETRYENGINE_API double GetCoordinateAngle(const TEntityCoordinate& aCoordinate);
 
 /// The same as seen from `aPoint`.
 GEOMETRYENGINE_API double GetCoordinateAngle_AboutPoint(const TEntityCoordinate& aCoordinate,
                                                         const TEntityCoordinate& aPoint);
 
-/// Where y = a x + b and y = c x + d meet. DEGENERATE: infinite or not a number for parallel lines.
+/// Where y = a x + b and y = c x + d meet.
+/// DEGENERATE: infinite or not a number for parallel lines.
 GEOMETRYENGINE_API TEntityCoordinate GetLinesIntersection_Coordinate(double a, double b, double c, double d);
 
 }  // namespace GeometryEngine

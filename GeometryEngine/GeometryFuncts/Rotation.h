@@ -14,8 +14,8 @@ namespace GeometryEngine {
 GEOMETRYENGINE_API TRotationMatrix GetRotationMatrix(double aAngle);
 
 /// The coordinate rotated about the origin and cleaned.
-/// KEPT: a matrix whose first element is exactly 1 counts as the identity, whatever its other elements: the coordinate
-/// comes back to the bit, not even cleaned, so that a rotation by nothing changes nothing.
+/// On purpose: a matrix whose first element is exactly 1 counts as the identity, whatever its other elements: the
+/// coordinate comes back to the bit, not even cleaned, so that a rotation by nothing changes nothing.
 GEOMETRYENGINE_API TEntityCoordinate RotateByAngle_Matrix(const TRotationMatrix& aMatrix,
                                                           const TEntityCoordinate& aCoordinate);
 

@@ -25,22 +25,25 @@ struct TArcSegments {
 };
 
 /// The angle at which a walk starts that enters the arc at this coordinate: the stored angle of the end that it equals,
-/// the start tried first. Not brought into 0 to 360. DEGENERATE: 0 when it is neither end.
+/// the start tried first. Not brought into 0 to 360.
+/// DEGENERATE: 0 when it is neither end.
 GEOMETRYENGINE_API double GetEntityStartAngle_Arc(const TEntityCoordinate& aCoordinate, const TDXFEntity& aEntity);
 
-/// The angle at which that walk ends: the stored angle of the other end. DEGENERATE: 0 when it is neither end.
+/// The angle at which that walk ends: the stored angle of the other end.
+/// DEGENERATE: 0 when it is neither end.
 GEOMETRYENGINE_API double GetEntityEndAngle_Arc(const TEntityCoordinate& aCoordinate, const TDXFEntity& aEntity);
 
 /// Anticlockwise when `aAngle` is the arc's stored start angle to the bit, else clockwise.
 GEOMETRYENGINE_API TTravelDirection GetArcTravelDirection(double aAngle, const TDXFEntity& aEntity);
 
-/// As many chords as keep within `aTolerance` of the arc, the count rounded down. RANGE: at least 3.
+/// Enough equal chords to keep within `aTolerance` of the arc.
+/// RANGE: at least 3.
 /// DEGENERATE: 3 when the radius is 0, negative, infinite, not a number or less than half the tolerance, and when the
 /// tolerance is too small for a chord's angle to differ from 0. A sweep of 0 gives 3 chords of step 0.
 GEOMETRYENGINE_API TArcSegments GetArcSegmentPoints_Surf(const TDXFEntity& aEntity, double aTolerance);
 
-/// The point of the circle after `aIndex` steps from the start angle. DEGENERATE: the point at angle 0 for a direction
-/// that is neither of the two.
+/// The point of the circle after `aIndex` steps from the start angle.
+/// DEGENERATE: the point at angle 0 for a direction that is neither of the two.
 GEOMETRYENGINE_API TEntityCoordinate GetArc_LineSegmentCoord(const TDXFEntity& aEntity, std::int32_t aIndex,
                                                              TTravelDirection aDirection, double aStartAngle,
                                                              double aStep);
