@@ -3,12 +3,15 @@
 #include <cmath>
 #include <cstddef>
 #include <span>
+#include <vector>
 
 #include "GeometryEngine/DXF_EntityStorage/TEntityStorage.h"
+#include "GeometryEngine/DXF_EntityStorage/detail/SurfaceResolution.h"
 #include "GeometryEngine/DXF_Regions_Utilities/EntityTerms.h"
 #include "GeometryEngine/GeometryCreation_Drawing/EntityConstruction.h"
 #include "GeometryEngine/GeometryEngine_Arrays/CoordinateArrays.h"
 #include "GeometryEngine/GeometryEngine_Arrays/detail/RingOrder.h"
+#include "GeometryEngine/GetFunctions_GeometryOperations/ArcWalking.h"
 
 namespace GeometryEngine {
 
@@ -38,6 +41,20 @@ TCoordinateArray GetOffsetPoints(const TCoordinateArray& aPolyline, double aDist
   return points;
 }
 
+/// How many points of the polyline an entity gives.
+TIndex GetPointCount(const TDXFEntity& aEntity) {
+  if (aEntity.EntityType == DXFArc) return GetArcSegmentPoints_Surf(aEntity, detail::kSurfaceResolution).aCount;
+  return aEntity.EntityType == DXFLine ? 1 : 0;
+}
+
+/// Where along the polyline each entity begins; behind the last one the polyline starts over.
+std::vector<TIndex> GetFirstPoints(const TEntityArray& aChain) {
+  std::vector<TIndex> first{0};
+  for (const TDXFEntity& entity : aChain) first.push_back(first.back() + GetPointCount(entity));
+  first.back() = 0;
+  return first;
+}
+
 /// A position along the offset points; one that has run past them reads as (0, 0).
 TEntityCoordinate PointAt(const TCoordinateArray& aPoints, TIndex aPosition) {
   return detail::GetElementOrEmpty(std::span<const TEntityCoordinate>(aPoints), aPosition);
@@ -60,6 +77,7 @@ void TEntityStorage::Offset(double aDistance) {
   const TCoordinateArray polyline = GetVertices_Surf(false);
   const TCoordinateArray vertices = GetVertices();
   const TCoordinateArray points = GetOffsetPoints(polyline, aDistance);
+  const std::vector<TIndex> firstPoints = GetFirstPoints(fEntityArray);
   TEntityArray rebuilt;
   TIndex position = 0;
   for (TIndex i = 0; i < ToIndex(vertices.size()); ++i) {
@@ -67,6 +85,8 @@ void TEntityStorage::Offset(double aDistance) {
     const TEntityCoordinate from = PointAt(points, position);
     if (entity.EntityType == DXFArc) {
       position = TCoordinateArray_Helper::IndexOf(polyline, GetCoordinate_Next(vertices, i));
+      // An arc whose ends stray from its circle begins beside its vertex, and the vertex is not found.
+      if (position == kNotFound) position = firstPoints[static_cast<std::size_t>(i) + 1];
       rebuilt.push_back(GetOffsetArc(entity, from, PointAt(points, position), aDistance));
     } else {
       rebuilt.push_back(CreateEntity_Line(from, PointAt(points, GetCoordinateIndex_Next(points, position))));

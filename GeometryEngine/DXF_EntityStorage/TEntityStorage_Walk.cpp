@@ -6,6 +6,7 @@
 
 #include "GeometryEngine/DXF_EntityStorage/EntityEnds.h"
 #include "GeometryEngine/DXF_EntityStorage/TEntityStorage.h"
+#include "GeometryEngine/DXF_EntityStorage/detail/SurfaceResolution.h"
 #include "GeometryEngine/DXF_EntityStorage/detail/VertexWalk.h"
 #include "GeometryEngine/GeometryEngine_Arrays/CoordinateArrays.h"
 #include "GeometryEngine/GeometryEngine_Arrays/EntityArrays.h"
@@ -15,8 +16,7 @@ namespace GeometryEngine {
 
 namespace {
 
-constexpr double kSurfaceResolution = 0.01;  // how far a chord may stay from its arc, drawing length units
-constexpr std::size_t kLeastSearched = 2;    // entities; a shorter chain has no neighbours to find
+constexpr std::size_t kLeastSearched = 2;  // entities; a shorter chain has no neighbours to find
 
 /// True when the two entities run between the same two vertices: as a chain they close on themselves.
 bool ShareBothEnds(const TDXFEntity& aFirst, const TDXFEntity& aSecond) {
@@ -47,7 +47,7 @@ void AddArcPoints(TCoordinateArray& aVertices, const detail::TVertexWalk& aWalk)
   const TDXFEntity& arc = aWalk.Entity();
   const double start_angle = GetEntityStartAngle_Arc(aWalk.From(), arc);
   const TTravelDirection direction = GetArcTravelDirection(start_angle, arc);
-  const auto [aCount, aStep] = GetArcSegmentPoints_Surf(arc, kSurfaceResolution);
+  const auto [aCount, aStep] = GetArcSegmentPoints_Surf(arc, detail::kSurfaceResolution);
   for (std::int32_t k = 0; k < aCount; ++k) {
     AddCoordinateToArray(aVertices, GetArc_LineSegmentCoord(arc, k, direction, start_angle, aStep));
   }
