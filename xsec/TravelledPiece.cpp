@@ -59,10 +59,12 @@ bool Passes(double from, double to, double y) {
   return (from <= y) != (to <= y);
 }
 
+/// Reckoned upwards whatever the travel, so that the two sides of a line are crossed at the very same place.
 void AddLineCrossing(const TravelledPiece& piece, double y, std::vector<double>& crossings) {
   if (!Passes(piece.from.y, piece.to.y, y)) return;
-  const double part = (y - piece.from.y) / (piece.to.y - piece.from.y);
-  crossings.push_back(piece.from.x + part * (piece.to.x - piece.from.x));
+  const auto& [low, high] = std::minmax(piece.from, piece.to, [](const Point& a, const Point& b) { return a.y < b.y; });
+  const double part = (y - low.y) / (high.y - low.y);
+  crossings.push_back(low.x + part * (high.x - low.x));
 }
 
 /// The arc is cut at its highest and lowest point; each stretch crosses a height once at most. The first and the last

@@ -1,0 +1,222 @@
+// The program as a shell sees it: exit codes, standard output and error, and the files it leaves.
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <thread>
+
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
+
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::StartsWith;
+using ::testing::UnorderedElementsAre;
+
+std::string DxfOf(const std::string& entities) {
+  return "0\nSECTION\n2\nHEADER\n9\n$INSUNITS\n70\n4\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n" + entities +
+         "0\nENDSEC\n0\nEOF\n";
+}
+
+std::string Line(double x1, double y1, double x2, double y2) {
+  std::ostringstream text;
+  text << "0\nLINE\n8\nPlate\n10\n" << x1 << "\n20\n" << y1 << "\n11\n" << x2 << "\n21\n" << y2 << "\n";
+  return text.str();
+}
+
+std::string Square(double x, double y, double side) {
+  return Line(x, y, x + side, y) + Line(x + side, y, x + side, y + side) + Line(x + side, y + side, x, y + side) +
+         Line(x, y + side, x, y);
+}
+
+std::string Grid(int n) {
+  std::string lines;
+  for (int i = 0; i <= n; ++i) lines += Line(i, 0, i, n) + Line(0, i, n, i);
+  return lines;
+}
+
+std::string ReadFile(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// A folder of its own for each test, with a drawing in it.
+class Xsec : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    std::string name = (fs::temp_directory_path() / "xsec-XXXXXX").string();
+    ASSERT_NE(::mkdtemp(name.data()), nullptr);
+    fFolder = name;
+    fs::create_directory(fFolder / "in");
+    fs::create_directory(fFolder / "out");
+  }
+  void TearDown() override { fs::remove_all(fFolder); }
+
+  std::string Drawing(const std::string& text) {
+    const fs::path path = fFolder / "in" / "drawing.dxf";
+    std::ofstream(path, std::ios::binary) << text;
+    return path.string();
+  }
+
+  std::string Out(const std::string& name) const { return (fFolder / "out" / name).string(); }
+
+  /// Runs the program by the shell and keeps what it prints.
+  int RunXsec(const std::string& arguments, const std::string& before = "") {
+    const std::string command = before + " '" XSEC_PROGRAM "' " + arguments + " >'" + (fFolder / "stdout").string() +
+                                "' 2>'" + (fFolder / "stderr").string() + "'";
+    const int status = std::system(command.c_str());
+    fStdout = ReadFile(fFolder / "stdout");
+    fStderr = ReadFile(fFolder / "stderr");
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  }
+
+  std::vector<std::string> FilesWritten() const {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(fFolder / "out")) names.push_back(entry.path().filename().string());
+    return names;
+  }
+
+  fs::path fFolder;
+  std::string fStdout;
+  std::string fStderr;
+};
+
+TEST_F(Xsec, WritesWhatIsAskedForAndPrintsTheTable) {
+  const std::string drawing = Drawing(DxfOf(Square(0, 0, 10) + Square(2, 2, 3)));
+  EXPECT_EQ(RunXsec("regions -o " + Out("a.svg") + " " + drawing + " -o " + Out("b.JSON")), 0) << fStderr;
+  EXPECT_THAT(FilesWritten(), UnorderedElementsAre("a.svg", "b.JSON"));
+  EXPECT_THAT(ReadFile(Out("a.svg")), StartsWith("<svg "));
+  EXPECT_EQ(nlohmann::json::parse(ReadFile(Out("b.JSON")))["regions"].size(), 2U);
+  EXPECT_THAT(fStdout, HasSubstr("2 regions, net area 100 mm2\n"));
+  EXPECT_THAT(fStderr, HasSubstr("linear tolerance 1.41421e-05 mm"));
+}
+
+TEST_F(Xsec, ReplacesAFormerResultAndKeepsALinkALink) {
+  const std::string drawing = Drawing(DxfOf(Square(0, 0, 10)));
+  std::ofstream(Out("real.json")) << "old";
+  fs::create_symlink("real.json", Out("link.json"));
+  EXPECT_EQ(RunXsec("regions " + drawing + " -o " + Out("link.json")), 0) << fStderr;
+  EXPECT_TRUE(fs::is_symlink(Out("link.json")));
+  EXPECT_EQ(nlohmann::json::parse(ReadFile(Out("real.json")))["regions"].size(), 1U);
+  EXPECT_THAT(FilesWritten(), UnorderedElementsAre("real.json", "link.json"));
+}
+
+TEST_F(Xsec, HonoursUnitsToleranceAndSettings) {
+  const std::string drawing = Drawing(DxfOf(Line(0, 0, 1, 0) + Line(1, 0, 1, 1) + Line(1, 1, 0.003, 0)));
+  EXPECT_EQ(RunXsec("regions " + drawing + " --units m --tol 5 --setting 6529=7 --machine-type 4 -o " + Out("a.json")),
+            0)
+      << fStderr;
+  const auto json = nlohmann::json::parse(ReadFile(Out("a.json")));
+  EXPECT_EQ(json["drawing"]["units"]["source"], "--units");
+  EXPECT_EQ(json["drawing"]["extents"]["maxX"], 1000);
+  EXPECT_EQ(json["settings"]["fields"]["6529"], 7);
+  EXPECT_EQ(json["settings"]["machineType"], 4);
+  EXPECT_EQ(json["regions"].size(), 1U);
+}
+
+TEST_F(Xsec, GapAboveTheDefaultToleranceIsNoClosedRegionButIsStillDrawn) {
+  const std::string drawing = Drawing(DxfOf(Line(0, 0, 1, 0) + Line(1, 0, 1, 1) + Line(1, 1, 0.003, 0.001)));
+  EXPECT_EQ(RunXsec("regions " + drawing + " -o " + Out("a.svg")), 5);
+  EXPECT_THAT(fStderr, HasSubstr("no closed region found"));
+  EXPECT_THAT(ReadFile(Out("a.svg")), HasSubstr("id=\"open\""));
+}
+
+TEST_F(Xsec, EmptyDrawingHasNoClosedRegion) {
+  EXPECT_EQ(RunXsec("regions " + Drawing(DxfOf(""))), 5);
+}
+
+TEST_F(Xsec, WrongUsageIsToldBeforeAnythingIsRead) {
+  for (const std::string arguments :
+       {"", "nonsense", "regions", "regions missing.dxf -o a.pdf", "regions missing.dxf -o a",
+        "regions missing.dxf -o a.svg -o ./a.svg", "regions missing.dxf --tol 0", "regions missing.dxf --tol -1",
+        "regions missing.dxf --tol nan", "regions missing.dxf --tol inf", "regions missing.dxf --tol x",
+        "regions missing.dxf --units furlongs-ish", "regions missing.dxf --setting 6525",
+        "regions missing.dxf --setting a=1", "regions missing.dxf --machine-type 256",
+        "regions missing.dxf --machine-type -1", "regions missing.dxf --unknown", "regions missing.dxf extra.dxf"}) {
+    EXPECT_EQ(RunXsec(arguments), 2) << arguments;
+    EXPECT_THAT(fStderr, StartsWith("xsec: ")) << arguments;
+    EXPECT_THAT(fStdout, IsEmpty()) << arguments;
+  }
+}
+
+TEST_F(Xsec, UnreadableDrawingIsToldWithItsLineAndNothingIsWritten) {
+  EXPECT_EQ(RunXsec("regions " + (fFolder / "missing.dxf").string() + " -o " + Out("a.svg")), 3);
+  const std::string drawing = Drawing(DxfOf("0\nLINE\n8\nPlate\n10\nnot a number\n"));
+  EXPECT_EQ(RunXsec("regions " + drawing + " -o " + Out("a.svg")), 3);
+  EXPECT_THAT(fStderr, HasSubstr("drawing.dxf:20: "));
+  EXPECT_THAT(FilesWritten(), IsEmpty());
+  EXPECT_THAT(fStdout, IsEmpty());
+}
+
+TEST_F(Xsec, OutputThatCannotBeMadeIsToldBeforeTheDrawingIsRead) {
+  EXPECT_EQ(RunXsec("regions missing.dxf -o " + Out("no/such/folder/a.svg")), 4);
+  fs::create_directory(Out("folder.svg"));
+  EXPECT_EQ(RunXsec("regions missing.dxf -o " + Out("folder.svg")), 4);
+  EXPECT_THAT(fStderr, HasSubstr("is a folder"));
+}
+
+TEST_F(Xsec, FileThatCannotBeWrittenToItsEndLeavesNothingBehind) {
+  const std::string drawing = Drawing(DxfOf(Grid(8)));
+  std::ofstream(Out("b.json")) << "old";
+  const std::string limit = "trap '' XFSZ; ulimit -f 1;";
+  EXPECT_EQ(RunXsec("regions " + drawing + " -o " + Out("a.svg") + " -o " + Out("b.json"), limit), 4);
+  EXPECT_THAT(FilesWritten(), ElementsAre("b.json"));
+  EXPECT_EQ(ReadFile(Out("b.json")), "old");
+}
+
+TEST_F(Xsec, FullStandardOutputIsAnOutputNotWritten) {
+  const std::string drawing = Drawing(DxfOf(Square(0, 0, 10)));
+  const int status = std::system(("'" XSEC_PROGRAM "' regions " + drawing + " >/dev/full 2>/dev/null").c_str());
+  ASSERT_TRUE(WIFEXITED(status));
+  EXPECT_EQ(WEXITSTATUS(status), 4);
+}
+
+TEST_F(Xsec, HelpAndVersionGoToStandardOutput) {
+  EXPECT_EQ(RunXsec("--help"), 0);
+  EXPECT_THAT(fStdout, HasSubstr("Examples:"));
+  EXPECT_EQ(RunXsec("regions --help"), 0);
+  EXPECT_THAT(fStdout, HasSubstr("--machine-type"));
+  EXPECT_EQ(RunXsec("--version"), 0);
+  EXPECT_THAT(fStdout, StartsWith("xsec "));
+  EXPECT_THAT(fStderr, IsEmpty());
+}
+
+TEST_F(Xsec, ShowsNoProgressWhereNobodyWatches) {
+  EXPECT_EQ(RunXsec("regions " + Drawing(DxfOf(Square(0, 0, 10)))), 0);
+  EXPECT_EQ(fStderr.find('\r'), std::string::npos);
+}
+
+TEST_F(Xsec, InterruptLeavesWholeFilesOrNone) {
+  const std::string drawing = Drawing(DxfOf(Grid(20)));
+  for (int milliseconds = 1; milliseconds < 1000; milliseconds = milliseconds * 3 / 2 + 1) {
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+      const std::string null = "/dev/null";
+      if (!std::freopen(null.c_str(), "w", stdout) || !std::freopen(null.c_str(), "w", stderr)) ::_exit(99);
+      ::execl(XSEC_PROGRAM, "xsec", "regions", drawing.c_str(), "-o", Out("a.json").c_str(), nullptr);
+      ::_exit(99);
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+    ::kill(child, SIGINT);
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFSIGNALED(status) ? WTERMSIG(status) == SIGINT : WEXITSTATUS(status) == 0);
+    if (FilesWritten().empty()) continue;
+    ASSERT_THAT(FilesWritten(), ElementsAre("a.json"));
+    EXPECT_TRUE(nlohmann::json::accept(ReadFile(Out("a.json"))));
+    fs::remove(Out("a.json"));
+  }
+}
+
+}  // namespace
