@@ -1,9 +1,9 @@
 #include "GeometryEngine/DXF_Regions_Utilities/EntityTerms.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ArcAngles.h"
+#include "GeometryEngine/GetFunctions_GeometryOperations/detail/ChordCount.h"
 #include "GeometryEngine/host/Numerics.h"
 #include "GeometryEngine/host/TDataStore.h"
 
@@ -12,8 +12,6 @@ namespace GeometryEngine {
 namespace {
 
 constexpr std::int32_t kAreaSegments = 5;        // segments of the polygon that stands for an arc's area
-constexpr std::int32_t kLeastSegments = 3;       // of a resolved arc
-constexpr std::int32_t kMostSegments = 1000000;  // of a resolved arc; chords that fine differ from it by rounding only
 constexpr double kDegreesPerFactor = 10;         // the resolution factor counts segments per this many degrees
 constexpr double kChordTolerance = 0.01;         // drawing length units between chord and arc
 constexpr double kFullTurn = 6.283185307179586;  // radians
@@ -122,8 +120,7 @@ double GetArcSegment_Step(const TDXFEntity& aArc, std::int32_t aSegments) {
 
 TArcSegments GetArcSegmentPoints_Step(const TDXFEntity& aArc, double aFactor) {
   const double sweep = GetSweep_Segments(aArc);
-  const double wanted = std::nearbyint(sweep / kDegreesPerFactor * aFactor);
-  const std::int32_t count = std::clamp(ToInteger_Saturated(wanted), kLeastSegments, kMostSegments);
+  const std::int32_t count = detail::GetChordCount(std::nearbyint(sweep / kDegreesPerFactor * aFactor));
   return {count, sweep / count};
 }
 

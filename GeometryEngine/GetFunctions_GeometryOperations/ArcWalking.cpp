@@ -1,16 +1,14 @@
 #include "GeometryEngine/GetFunctions_GeometryOperations/ArcWalking.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "GeometryEngine/GeometryFuncts/detail/CirclePoint.h"
+#include "GeometryEngine/GetFunctions_GeometryOperations/detail/ChordCount.h"
 #include "GeometryEngine/host/Numerics.h"
 
 namespace GeometryEngine {
 
 namespace {
-
-constexpr std::int32_t kLeastChords = 3;
 
 double GetWalkedAngle(std::int32_t aIndex, TTravelDirection aDirection, double aStartAngle, double aStep) {
   switch (aDirection) {
@@ -43,8 +41,7 @@ TTravelDirection GetArcTravelDirection(double aAngle, const TDXFEntity& aEntity)
 TArcSegments GetArcSegmentPoints_Surf(const TDXFEntity& aEntity, double aTolerance) {
   const double sweep = aEntity.ArcSweep();
   const double chordAngle = std::acos(1 - aTolerance / aEntity.radius) * kDegreesPerRadian;
-  const std::int32_t count =
-      chordAngle == 0 ? kLeastChords : std::max(kLeastChords, ToInteger_Saturated(sweep / chordAngle));
+  const std::int32_t count = detail::GetChordCount(chordAngle == 0 ? 0 : sweep / chordAngle);
   return {count, sweep / count};
 }
 

@@ -82,6 +82,14 @@ TEST(GetArcSegmentPoints_Surf, DegenerateRadiiAndTolerancesGiveThreeChords) {
     EXPECT_EQ(GetArcSegmentPoints_Surf(WithRadius(1), tolerance).aCount, 3) << "tolerance " << tolerance;
 }
 
+TEST(GetArcSegmentPoints_Surf, HugeCirclesGiveAMillionChords) {
+  for (const double radius : {1e10, 1e12, 4e13}) {
+    const auto [count, step] = GetArcSegmentPoints_Surf(WithRadius(radius), 0.01);
+    EXPECT_EQ(count, 1'000'000) << "radius " << radius;
+    EXPECT_EQ(step, WithRadius(radius).ArcSweep() / 1e6) << "radius " << radius;
+  }
+}
+
 TEST(GetArc_LineSegmentCoord, StepsWithAndAgainstTheArc) {
   const TDXFEntity arc = ParseEntity("A c 1,2 r 2 0..90");
   EXPECT_THAT(GetArc_LineSegmentCoord(arc, 0, Travel_AntiClockwise, 0, 30), IsBits(3, 2));
