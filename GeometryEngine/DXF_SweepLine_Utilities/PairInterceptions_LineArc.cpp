@@ -12,6 +12,8 @@ namespace GeometryEngine {
 
 namespace {
 
+// KEPT: one bound for lines of every slope m, though the discriminant grows with m * m + 1: whether a line that passes
+// an arc at less than the tolerance touches it depends on its direction. Drawings are settled by this number.
 constexpr double kTangentDiscriminant = 0.001;  // drawing length units squared, inclusive
 
 struct TRootPair {

@@ -2,6 +2,7 @@
 // both directions.
 
 #include <cmath>
+#include <limits>
 #include <numbers>
 
 #include <gtest/gtest.h>
@@ -10,9 +11,9 @@
 #include "GeometryEngine/DXF_EntityStorage/TEntityStorage.h"
 #include "GeometryEngine/GeometryCreation_Drawing/EntityConstruction.h"
 #include "GeometryEngine/GeometryFuncts/Rotation.h"
+#include "tests/properties/ExactSettings.h"
 #include "tests/properties/RandomChains.h"
 #include "tests/support/DetectedRegions.h"
-#include "tests/support/Settings.h"
 
 namespace GeometryEngine::properties {
 namespace {
@@ -83,7 +84,7 @@ bool IsInside(const TCoordinateArray& aOutline, const TEntityCoordinate& aPoint)
 }
 
 double DistanceToOutline(const TCoordinateArray& aOutline, const TEntityCoordinate& aPoint) {
-  double least = INFINITY;
+  double least = std::numeric_limits<double>::infinity();
   for (std::size_t i = 0; i < aOutline.size(); ++i) {
     const TEntityCoordinate& a = aOutline[i];
     const TEntityCoordinate& b = aOutline[(i + 1) % aOutline.size()];
@@ -94,18 +95,6 @@ double DistanceToOutline(const TCoordinateArray& aOutline, const TEntityCoordina
   }
   return least;
 }
-
-/// Settings under which nothing is rounded on purpose: no snapping to 0, and arcs in chords of a twentieth of a degree.
-class ExactSettings {
- public:
-  ExactSettings() {
-    fSettings.With(Maindataenum::TInputFields::ifSnappingMode, 2);
-    fSettings.With(Maindataenum::TInputFields::ifArcResolution, 200);
-  }
-
- private:
-  support::TSettingsGuard fSettings;
-};
 
 /// The squared sine of half the corner that a vertex makes with its neighbours.
 double SquaredSineOfHalfCorner(const TCoordinateArray& aVertices, std::size_t aIndex) {
