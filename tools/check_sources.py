@@ -4,7 +4,8 @@
 - No source is longer than 400 lines, and every header has its include guard.
 - What is kept on purpose is known: each KEPT: comment in a source, and each test whose name ends in Kept, has its row
   in docs/kept.md, and each row names a file with such a comment and tests that exist. The public headers of a module
-  speak of no more oddities than the page has rows for it.
+  speak of no more oddities than the page has rows for it. Each row gives a reason.
+- The limits of docs/kept.md name files and tests that exist.
 
 usage: check_sources.py
 """
@@ -17,7 +18,7 @@ import sys
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 LONGEST = 400
 KEPT_COMMENT = re.compile(r"^\s*(?://+|/?\*+).*\bKEPT:", re.MULTILINE)
-KEPT_TEST = re.compile(r"^\s*(?:TEST|TEST_F|TEST_P|RC_GTEST_PROP)\(\s*(\w+),\s*(\w+Kept)\b", re.MULTILINE)
+ANY_TEST = re.compile(r"^\s*(?:TEST|TEST_F|TEST_P|RC_GTEST_PROP)\(\s*(\w+),\s*(\w+)", re.MULTILINE)
 
 
 def sources(folder):
@@ -39,21 +40,35 @@ def shape_faults(paths):
     return faults
 
 
-def kept_rows():
-    """The rows of docs/kept.md: the file's path below GeometryEngine/, and the tests."""
+def rows_of_section(section):
+    """The rows below a heading of docs/kept.md: what holds, why or how much, the file below GeometryEngine/, tests."""
+    heading = ""
     for line in text(ROOT / "docs/kept.md").splitlines():
-        cells = line.split("|")
-        if len(cells) == 5 and "`" in cells[2]:
-            yield cells[2].strip(" `"), re.findall(r"`([^`]+)`", cells[3])
+        if line.startswith("#"):
+            heading = line.strip("# ")
+        cells = [cell.strip() for cell in line.split("|")[1:-1]]
+        if heading == section and len(cells) == 4 and "`" in cells[2]:
+            yield cells[0], cells[1], cells[2].strip("`"), re.findall(r"`([^`]+)`", cells[3])
+
+
+def limit_faults(tests):
+    faults = []
+    for what, _, file, names in rows_of_section("Limits"):
+        if not (ROOT / "GeometryEngine" / file).exists():
+            faults.append(f"docs/kept.md: there is no {file}")
+        faults += [f"docs/kept.md: there is no test {name}" for name in names if name not in tests]
+        faults += [f"docs/kept.md: no test of the limit: {what}"] if not names else []
+    return faults
 
 
 def is_public(path):
     return path.suffix == ".h" and "detail" not in path.parts
 
 
-def kept_faults():
-    faults = []
-    rows = list(kept_rows())
+def kept_faults(all_tests):
+    described = list(rows_of_section("Kept on purpose"))
+    faults = [f"docs/kept.md: no reason for: {what}" for what, why, _, _ in described if not why]
+    rows = [(file, names) for _, _, file, names in described]
     rows_of = collections.Counter(file for file, _ in rows)
     rows_of_module = collections.Counter(file.split("/")[0] for file, _ in rows)
     comments_of_module = collections.Counter()
@@ -73,7 +88,7 @@ def kept_faults():
     faults += [f"{name}: its headers have {count} KEPT: comments, but docs/kept.md {rows_of_module[name]} rows"
                for name, count in sorted(comments_of_module.items()) if count > rows_of_module[name]]
 
-    tests = {f"{suite}.{test}" for path in sources("tests") for suite, test in KEPT_TEST.findall(text(path))}
+    tests = {test for test in all_tests if test.endswith("Kept")}
     listed = [test for _, names in rows for test in names]
     faults += [f"docs/kept.md: does not list {test}" for test in sorted(tests - set(listed))]
     faults += [f"docs/kept.md: there is no test {test}" for test in sorted(set(listed) - tests)]
@@ -85,8 +100,9 @@ def main():
     paths = sources("GeometryEngine") + sources("xsec")
     if not paths:
         sys.exit("no source was found")
-    faults, rows, comments, tests = kept_faults()
-    faults += shape_faults(paths)
+    all_tests = {f"{suite}.{test}" for path in sources("tests") for suite, test in ANY_TEST.findall(text(path))}
+    faults, rows, comments, tests = kept_faults(all_tests)
+    faults += limit_faults(all_tests) + shape_faults(paths)
     for fault in faults:
         print(fault)
     print(f"{len(paths)} sources; {rows} oddities kept, {comments} KEPT: comments in sources, {tests} tests of them; "

@@ -96,15 +96,16 @@ class CheckLayers(Tree):
 class CheckSources(Tree):
     COMMENT = "// KEPT: an answer that callers rely on\n"
     TEST = "TEST(Numerics, AnswersAsEverKept) {}\n"
-    ROW = "| what | `host/Numerics.cpp` | `Numerics.AnswersAsEverKept` |\n"
+    ROW = "| what | why | `host/Numerics.cpp` | `Numerics.AnswersAsEverKept` |\n"
+    LIMIT = "\n## Limits\n| what | 7 | `host/Numerics.cpp` | `Numerics.AnswersAsEverKept` |\n"
 
     def lay_out(self, comment="", test="", row=""):
         self.write(ENGINE + "host/Numerics.cpp", text=comment)
         self.write("tests/host/NumericsTest.cpp", text=test)
-        self.write("docs/kept.md", text=row)
+        self.write("docs/kept.md", text="# Kept on purpose\n" + row)
 
     def test_a_good_tree_passes(self):
-        self.lay_out(self.COMMENT, self.TEST, self.ROW)
+        self.lay_out(self.COMMENT, self.TEST, self.ROW + self.LIMIT)
         code, text = self.run_tool("check_sources.py")
         self.assertEqual(code, 0, text)
         self.assertIn("1 oddities kept, 1 KEPT: comments in sources, 1 tests", text)
@@ -128,6 +129,22 @@ class CheckSources(Tree):
     def test_a_test_without_a_row_is_a_fault(self):
         self.lay_out("", self.TEST)
         self.assert_fault("check_sources.py", "does not list Numerics.AnswersAsEverKept")
+
+    def test_a_row_without_a_reason_is_a_fault(self):
+        self.lay_out(self.COMMENT, self.TEST, self.ROW.replace("why", ""))
+        self.assert_fault("check_sources.py", "no reason for: what")
+
+    def test_a_limit_whose_test_is_missing_is_a_fault(self):
+        self.lay_out(self.COMMENT, self.TEST, self.ROW + self.LIMIT.replace("AsEver", "Never"))
+        self.assert_fault("check_sources.py", "there is no test Numerics.AnswersNeverKept")
+
+    def test_a_limit_without_a_test_is_a_fault(self):
+        self.lay_out(self.COMMENT, self.TEST, self.ROW + self.LIMIT.replace("`Numerics.AnswersAsEverKept`", ""))
+        self.assert_fault("check_sources.py", "no test of the limit: what")
+
+    def test_a_limit_of_a_missing_file_is_a_fault(self):
+        self.lay_out(self.COMMENT, self.TEST, self.ROW + self.LIMIT.replace("Numerics.cpp", "Nowhere.cpp"))
+        self.assert_fault("check_sources.py", "there is no host/Nowhere.cpp")
 
     def test_a_header_that_speaks_of_more_than_the_page_is_a_fault(self):
         self.lay_out()
