@@ -99,6 +99,14 @@ TEST(CheckLineLineInterceptions, TwoSlopedLinesMustBothHoldThePoint) {
   EXPECT_THAT(Meet("L 0,0 5,5", "L 3,7 9,1"), IsNear("5,5", 1e-14));
 }
 
+TEST(CheckLineLineInterceptions, CrossingAHairBeyondASteepLinesEndDoesNotCount) {
+  TSettingsGuard settings;
+  for (const char* steep : {"L 2,0.001 2.01,10.001", "L 2.01,10.001 2,0.001"}) {
+    EXPECT_THAT(Meet("L 0,0 4,0", steep), IsBits(TCoordinateArray{}));
+    EXPECT_THAT(Meet(steep, "L 0,0 4,0"), IsBits(TCoordinateArray{}));
+  }
+}
+
 TEST(CheckLineLineInterceptions, EndNearTheOtherLineCountsWithinTheTolerance) {
   TSettingsGuard settings;
   EXPECT_EQ(Meet("L 0,0 4,0", "L 2,0.00005 3,5").size(), 1U);
@@ -273,6 +281,16 @@ TEST(CheckArcArcInterceptions, ConcentricArcsYieldNothing) {
 TEST(CheckArcArcInterceptions, CentresThatAreTheSameOnlyWithinTheToleranceCrossUpperFirst) {
   TSettingsGuard settings;
   EXPECT_THAT(Meet("A c 0,0 r 1 300..290", "A c 0.00005,0 r 1.00003 310..280"), IsNear("-0.6,0.8 -0.6,-0.8", 1e-3));
+}
+
+TEST(CheckArcArcInterceptions, UpperCrossingOfSuchCentresAtHeightZeroIsTheOnlyOne) {
+  TSettingsGuard settings;
+  TDXFEntity A = ParseEntity("A c 0,0 r 1 300..290");
+  TDXFEntity B = ParseEntity("A c 0.00005,0 r 1.00003 310..280");
+  const double xB = B.CentreCoords.x;
+  const double x = (-(xB * xB) - 1 + B.radius * B.radius) / (2 * -xB);
+  A.CentreCoords.y = B.CentreCoords.y = -std::sqrt(1 - x * x);
+  EXPECT_THAT(Meet(A, B), IsBits(TCoordinateArray{{x, 0}}));
 }
 
 TEST(CheckArcArcInterceptions, OuterTouchingYieldsThePointOnTheLineOfCentres) {

@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "GeometryEngine/DXF_EntityStorage/EntityEnds.h"
+#include "GeometryEngine/GeometryFuncts/CoordinateAngles.h"
 #include "tests/support/Geometry.h"
 #include "tests/support/Settings.h"
 
@@ -99,6 +100,20 @@ TEST(GetWindingNumber_Entity_Addition, CircleOfTwoArcsWindsOnceRoundItsInside) {
   EXPECT_EQ(WindingNumber(kCircle, {5, 4}, {4.9, 4.1}), 1);
   EXPECT_EQ(WindingNumber(kCircle, {5, 4}, {5.1, 4.1}), 0);
   EXPECT_EQ(WindingNumber("A c 3,4 r 2 180..360; A c 3,4 r 2 0..180", {5, 4}, {3, 4.3}), -1);
+}
+
+TEST(GetWindingNumber_Entity_Addition, ChordsStayWithinAHundredthOfTheArc) {
+  TSettingsGuard settings;
+  const auto countInside = [](double aDepth) {
+    int inside = 0;
+    for (int i = 0; i < 1000; ++i) {
+      const TEntityCoordinate point = RT_To_XY_Coordinate(100 - aDepth, 0.1 + 0.36 * i);
+      inside += WindingNumber("A c 0,0 r 100 0..180; A c 0,0 r 100 180..360", {100, 0}, point);
+    }
+    return inside;
+  };
+  EXPECT_EQ(countInside(0.003), 1000);
+  EXPECT_LT(countInside(0.001), 1000) << "chords, not the arc itself";
 }
 
 TEST(GetWindingNumber_Entity_Addition, ArcGoesByWhereItIsEntered) {
