@@ -2,7 +2,7 @@
 """Checks that the pages are about what is there.
 
 - Every link from one file of the project to another leads somewhere.
-- ARCHITECTURE.md names each public header of the library and each header of xsec.
+- ARCHITECTURE.md names each header of the library, public or private, and each header of xsec.
 
 usage: check_docs.py
 """
@@ -20,7 +20,7 @@ def pages():
 
 
 def headers():
-    library = [path for path in (ROOT / "GeometryEngine").glob("*/*.h")]
+    library = [path for path in (ROOT / "GeometryEngine").glob("*/**/*.h")]
     return sorted(path.stem for path in [*library, *(ROOT / "xsec").glob("*.h")])
 
 

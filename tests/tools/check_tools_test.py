@@ -175,6 +175,11 @@ class CheckDocs(Tree):
         self.lay_out("`TIndex` and `Tolerances`")
         self.assert_fault("check_docs.py", "does not name Rotation")
 
+    def test_a_private_header_that_no_page_names_is_a_fault(self):
+        self.write(ENGINE + "GeometryFuncts/detail/Secret.h")
+        self.lay_out("`TIndex`, `Tolerances` and `Rotation`")
+        self.assert_fault("check_docs.py", "does not name Secret")
+
     def test_a_link_that_leads_nowhere_is_a_fault(self):
         self.lay_out("`TIndex`, `Tolerances` and `Rotation`", "[more](docs/nothing.md)")
         self.assert_fault("check_docs.py", "README.md: nothing at docs/nothing.md")
