@@ -48,7 +48,7 @@ LAYERS = [
         "DXF_EntityStorage/TEntityStorage*",
         "DXF_EntityStorage/detail/ClosedLoops",
         "DXF_EntityStorage/detail/LomutoSort",
-        "DXF_EntityStorage/detail/SurfaceResolution",
+        "DXF_EntityStorage/detail/SurfaceSegments",
         "DXF_EntityStorage/detail/VertexWalk",
         "DXF_Regions_Utilities/SectionBoundaries",
         "GeometryEngine_Arrays/*",

@@ -6,12 +6,11 @@
 #include <vector>
 
 #include "GeometryEngine/DXF_EntityStorage/TEntityStorage.h"
-#include "GeometryEngine/DXF_EntityStorage/detail/SurfaceResolution.h"
+#include "GeometryEngine/DXF_EntityStorage/detail/SurfaceSegments.h"
 #include "GeometryEngine/DXF_Regions_Utilities/EntityTerms.h"
 #include "GeometryEngine/GeometryCreation_Drawing/EntityConstruction.h"
 #include "GeometryEngine/GeometryEngine_Arrays/CoordinateArrays.h"
 #include "GeometryEngine/GeometryEngine_Arrays/detail/RingOrder.h"
-#include "GeometryEngine/GetFunctions_GeometryOperations/ArcWalking.h"
 
 namespace GeometryEngine {
 
@@ -43,7 +42,7 @@ TCoordinateArray GetOffsetPoints(const TCoordinateArray& aPolyline, double aDist
 
 /// How many points of the polyline an entity gives.
 TIndex GetPointCount(const TDXFEntity& aEntity) {
-  if (aEntity.EntityType == DXFArc) return GetArcSegmentPoints_Surf(aEntity, detail::kSurfaceResolution).aCount;
+  if (aEntity.EntityType == DXFArc) return detail::GetSurfaceSegments(aEntity).aCount;
   return aEntity.EntityType == DXFLine ? 1 : 0;
 }
 

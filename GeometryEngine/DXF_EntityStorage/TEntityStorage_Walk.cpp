@@ -6,7 +6,7 @@
 
 #include "GeometryEngine/DXF_EntityStorage/EntityEnds.h"
 #include "GeometryEngine/DXF_EntityStorage/TEntityStorage.h"
-#include "GeometryEngine/DXF_EntityStorage/detail/SurfaceResolution.h"
+#include "GeometryEngine/DXF_EntityStorage/detail/SurfaceSegments.h"
 #include "GeometryEngine/DXF_EntityStorage/detail/VertexWalk.h"
 #include "GeometryEngine/GeometryEngine_Arrays/CoordinateArrays.h"
 #include "GeometryEngine/GeometryEngine_Arrays/EntityArrays.h"
@@ -47,7 +47,7 @@ void AddArcPoints(TCoordinateArray& aVertices, const detail::TVertexWalk& aWalk)
   const TDXFEntity& arc = aWalk.Entity();
   const double start_angle = GetEntityStartAngle_Arc(aWalk.From(), arc);
   const TTravelDirection direction = GetArcTravelDirection(start_angle, arc);
-  const auto [aCount, aStep] = GetArcSegmentPoints_Surf(arc, detail::kSurfaceResolution);
+  const auto [aCount, aStep] = detail::GetSurfaceSegments(arc);
   for (std::int32_t k = 0; k < aCount; ++k) {
     AddCoordinateToArray(aVertices, GetArc_LineSegmentCoord(arc, k, direction, start_angle, aStep));
   }

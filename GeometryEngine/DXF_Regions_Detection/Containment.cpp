@@ -8,6 +8,7 @@
 #include "GeometryEngine/DXF_Regions_Utilities/RegionPoints.h"
 #include "GeometryEngine/GeometryEngine_PointInPolygon/WindingContributions.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/ArcWalking.h"
+#include "GeometryEngine/GetFunctions_GeometryOperations/detail/LimitedSegments.h"
 #include "GeometryEngine/host/Numerics.h"
 #include "GeometryEngine/host/TDataStore.h"
 
@@ -37,7 +38,7 @@ class TRegionPointSearch {
     const double startAngle = GetEntityStartAngle_Arc(aFrom, aArc);
     const TTravelDirection direction = GetArcTravelDirection(startAngle, aArc);
     const double resolution = Kelvaralinks::dataStore.GetValue(Maindataenum::TInputFields::ifArcResolution);
-    const auto [count, step] = GetArcSegmentPoints_Step(aArc, resolution);
+    const auto [count, step] = detail::GetLimitedSegments(GetArcSegmentPoints_Step(aArc, resolution));
     for (std::int32_t i = 0; i < count; ++i) {
       if (HitsBesideEdge(GetArc_LineSegmentCoord(aArc, i, direction, startAngle, step),
                          GetArc_LineSegmentCoord(aArc, i + 1, direction, startAngle, step))) {

@@ -4,6 +4,7 @@
 
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ArcAngles.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ChordCount.h"
+#include "GeometryEngine/GetFunctions_GeometryOperations/detail/LimitedSegments.h"
 #include "GeometryEngine/host/Numerics.h"
 #include "GeometryEngine/host/TDataStore.h"
 
@@ -41,7 +42,7 @@ double GetRadius_EqualArea(double r, double aSweep, double aStep, std::int32_t n
 
 TEntityCoordinate GetCentroidComponent_Arc(const TEntityCoordinate& aFrom, const TDXFEntity& aArc) {
   const double factor = Kelvaralinks::dataStore.GetValue(Maindataenum::TInputFields::ifArcResolution);
-  const auto [count, step] = GetArcSegmentPoints_Step(aArc, factor);
+  const auto [count, step] = detail::GetLimitedSegments(GetArcSegmentPoints_Step(aArc, factor));
   const double startAngle = GetEntityStartAngle_Arc(aFrom, aArc);
   const TTravelDirection direction = GetArcTravelDirection(startAngle, aArc);
   TEntityCoordinate sum;

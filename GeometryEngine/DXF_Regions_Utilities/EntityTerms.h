@@ -45,7 +45,7 @@ GEOMETRYENGINE_API double GetArcSegment_Step(const TDXFEntity& aArc, std::int32_
 
 /// Segments for an arc at a resolution of `aFactor` segments per 10 degrees, rounded to the nearest count, halves to
 /// the even one. To keep chords within a distance of the arc use GetArcSegmentPoints_Surf.
-/// RANGE: 3 to 1 000 000, so that no setting, not even an infinite one, keeps a caller busy for ever.
+/// RANGE: at least 3; saturates.
 /// DEGENERATE: 3 for a factor that is 0, negative or not a number.
 GEOMETRYENGINE_API TArcSegments GetArcSegmentPoints_Step(const TDXFEntity& aArc, double aFactor);
 

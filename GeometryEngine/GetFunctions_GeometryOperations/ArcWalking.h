@@ -37,7 +37,7 @@ GEOMETRYENGINE_API double GetEntityEndAngle_Arc(const TEntityCoordinate& aCoordi
 GEOMETRYENGINE_API TTravelDirection GetArcTravelDirection(double aAngle, const TDXFEntity& aEntity);
 
 /// Enough equal chords to keep within `aTolerance` of the arc.
-/// RANGE: 3 to 1 000 000, which a full circle asks for from 5e10 tolerances of radius on.
+/// RANGE: at least 3; at most 421 657 428, since the angle of a chord is 0 or more than 8e-7 degrees.
 /// DEGENERATE: 3 when the radius is 0, negative, infinite, not a number or less than half the tolerance, and when the
 /// tolerance is too small for a chord's angle to differ from 0. A sweep of 0 gives 3 chords of step 0.
 GEOMETRYENGINE_API TArcSegments GetArcSegmentPoints_Surf(const TDXFEntity& aEntity, double aTolerance);

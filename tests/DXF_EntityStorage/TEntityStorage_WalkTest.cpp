@@ -245,6 +245,13 @@ TEST_F(TEntityStorage_GetVertices_Surf, AddsNothingForEntitiesWithoutGeometry) {
   EXPECT_THAT(MakeStorage("L 1,0 2,0; L 2,0 2,1; R")->GetVertices_Surf(false), IsBits("1,0 2,0"));
 }
 
+TEST_F(TEntityStorage_GetVertices_Surf, ListsAMillionPointsForAnArcThatAsksForMore) {
+  const auto chain = MakeStorage("A c 0,0 r 1e12 0..90");
+  const TCoordinateArray points = chain->GetVertices_Surf(false);
+  ASSERT_EQ(points.size(), 1'000'000U);
+  EXPECT_NEAR(std::atan2(points[500'000].y, points[500'000].x) * 180 / 3.14159265358979323846, 45, 1e-9);
+}
+
 TEST_F(TEntityStorage_Chain, OfTenThousandEntitiesNeedsLittleStack) {
   support::RunWithStack(256 * 1024, [] {
     constexpr int kEntities = 10'000;

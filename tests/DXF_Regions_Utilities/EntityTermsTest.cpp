@@ -178,12 +178,11 @@ TEST(GetArcSegmentPoints_Step, HalvesRoundToTheEvenCount) {
   EXPECT_EQ(GetArcSegmentPoints_Step(ParseEntity("A c 0,0 r 1 0..65"), 1).aCount, 6);
 }
 
-TEST(GetArcSegmentPoints_Step, FactorsOutOfRangeGiveFromThreeToAMillionSegments) {
+TEST(GetArcSegmentPoints_Step, FactorsOutOfRangeSaturate) {
   const TDXFEntity arc = ParseEntity("A c 0,0 r 1 0..90");
   for (const double factor : {0.0, -1.0, kNaN, -kInfinity}) EXPECT_EQ(GetArcSegmentPoints_Step(arc, factor).aCount, 3);
-  for (const double factor : {kInfinity, 1e300, 1e9}) {
-    EXPECT_EQ(GetArcSegmentPoints_Step(arc, factor).aCount, 1'000'000);
-    EXPECT_EQ(GetArcSegmentPoints_Step(arc, factor).aStep, 90 / 1e6);
+  for (const double factor : {kInfinity, 1e300, 1e10}) {
+    EXPECT_EQ(GetArcSegmentPoints_Step(arc, factor).aCount, std::numeric_limits<std::int32_t>::max());
   }
 }
 
