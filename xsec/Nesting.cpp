@@ -31,8 +31,12 @@ const TravelledPiece& LongestPiece(const TracedLoop& loop) {
                            [](const TravelledPiece& a, const TravelledPiece& b) { return Length(a) < Length(b); });
 }
 
-std::size_t FindParent(std::span<const TracedLoop> faces, std::span<const std::size_t> larger, const Point& inner) {
-  const auto parent = std::find_if(larger.begin(), larger.end(), [&](std::size_t f) { return Holds(faces[f], inner); });
+/// Faces that share a piece lie beside each other. That is asked too because the inner point of a sliver may have to be
+/// the middle of its first piece.
+std::size_t FindParent(std::span<const TracedLoop> faces, std::span<const std::size_t> larger, const TracedLoop& face) {
+  const auto parent = std::find_if(larger.begin(), larger.end(), [&](std::size_t f) {
+    return Holds(faces[f], face.inner) && !HasPiece(faces[f], face.pieces.front().index);
+  });
   return parent == larger.end() ? kNone : *parent;
 }
 
@@ -54,7 +58,7 @@ Nesting DetermineNesting(std::span<const TracedLoop> aFaces, std::span<const Tra
   nesting.parents.assign(aFaces.size(), kNone);
   for (std::size_t i = 0; i < byArea.size(); ++i) {
     const std::size_t face = byArea[i];
-    nesting.parents[face] = FindParent(aFaces, std::span(byArea).subspan(i + 1), aFaces[face].inner);
+    nesting.parents[face] = FindParent(aFaces, std::span(byArea).subspan(i + 1), aFaces[face]);
   }
   for (const TracedLoop& boundary : aOuterBoundaries) {
     nesting.holeOwners.push_back(FindHoleOwner(aFaces, byArea, boundary));

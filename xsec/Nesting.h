@@ -18,7 +18,7 @@ struct TracedLoop {
   Loop pieces;
   double area = 0;  ///< signed
   Extents box;
-  Point inner;  ///< of a face: a point inside its outline
+  Point inner;  ///< of a face: inside its outline; of a sliver the middle of its first piece
 };
 
 struct Nesting {
