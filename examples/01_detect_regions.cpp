@@ -52,7 +52,6 @@ int main() {
   for (TTreeNode_Geometry* region : regions) {
     region->UpdateGeometry_Outputs();
     region->SetRegionName(NameFor(*region, tree));
-    region->SetRegionName_Unique();
     const TEntityCoordinate centroid = region->Centroid();
     const TEntityCoordinate label = region->RegionCoordinate();
     std::printf("%-12s net area %9.3f  centroid (%.3f, %.3f)  label point (%.3f, %.3f)\n", region->UniqueName().c_str(),

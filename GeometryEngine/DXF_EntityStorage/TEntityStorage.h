@@ -144,7 +144,7 @@ class GEOMETRYENGINE_API TEntityStorage {
   TCoordinateArray GetVertices() const;
   /// The chain as a polyline: for a line its vertex (and its middle if asked for), for an arc the ends of its chords
   /// but the last, chords that stay within 0.01 of the arc. Other entities add nothing.
-  /// COST: the number of an arc's chords grows with the square root of its radius.
+  /// RANGE: an arc gives 1 000 000 points at most. COST: their number grows with the square root of its radius.
   TCoordinateArray GetVertices_Surf(bool aIncludeMidPoint) const;
 
   /// Sets `Min_X` to `Max_Y` from the extreme coordinates of the entities, see ExtremeCoordinates.h. DEGENERATE: plus
