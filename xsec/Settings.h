@@ -40,7 +40,8 @@ double DefaultTolerance(const Extents& aExtents);
 /// FIELD=VALUE as the command line spells it. Throws UsageError for anything else.
 FieldValue ParseFieldValue(std::string_view aText);
 
-/// Puts the host's store and input-data record to their starting values, then sets what the request says.
+/// Puts the host's store and input-data record to their starting values, the arc resolution finer than that, then sets
+/// what the request says.
 Settings ApplySettings(const SettingsRequest& aRequest, const Extents& aExtents);
 
 }  // namespace xsec

@@ -56,6 +56,12 @@ TEST(DetectRegions, SquareIsOneRegionWithItsMeasures) {
   EXPECT_EQ(detection.diagnostics.lostSides, 0U);
 }
 
+TEST(DetectRegions, SmallDiscFarFromTheOriginHasItsCentroidAtItsCentre) {
+  const Detection detection = Detect(Circle(117, 0, 1));
+  ASSERT_THAT(detection.regions, SizeIs(1));
+  EXPECT_THAT(detection.regions[0].centroid, IsNear(117, 0, 1e-3));
+}
+
 TEST(DetectRegions, EveryPieceKnowsTheEntityItWasCutFrom) {
   const Drawing drawing = DrawingOf(Rectangle(0, 0, 4, 4) + "L 2,-1 2,5; " + Circle(20, 0, 3));
   const Detection detection = Detect(drawing);
