@@ -1,9 +1,11 @@
 // What the measures and transforms of a closed chain promise, for random chains, each from every start vertex and in
 // both directions.
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <numbers>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -200,6 +202,63 @@ RC_GTEST_PROP(ClosedChain, CopiesAboutTheAxisAreDetectedWithTheirAreas, ()) {
   double sum = 0;
   for (const auto& region : regions) sum += region.netArea;
   AssertNear(sum, copies * area, copies * area * 1e-6);
+}
+
+struct Sector {
+  int full = *rc::gen::inRange(2, 13);          // sectors in a whole ring
+  int copies = *rc::gen::inRange(1, full + 1);  // of them
+  double inner = *Between(5, 50);
+  double outer = inner + *Between(1, 50);
+  double start = 0;  // seams are known by their angles, from 0 on
+  double angle = 360.0 / full;
+  double area = std::numbers::pi * (outer * outer - inner * inner) / full;
+
+  TEntityCoordinate At(double aRadius, double aAngle) const { return RotateByAngle(aAngle, aRadius, 0); }
+  TEntityArray Entities() const {
+    const double end = start + angle;
+    return {CreateEntity_Line(At(inner, start), At(outer, start)), CreateEntity_Arc(0, 0, outer, start, end),
+            CreateEntity_Line(At(outer, end), At(inner, end)), CreateEntity_Arc(0, 0, inner, start, end)};
+  }
+  bool IsRing() const { return copies == full; }
+};
+
+/// The areas of the regions detected in copies of a sector about the axis, nested ones taken off, in ascending order.
+/// In a whole ring the hole in the middle is a region like any other.
+std::vector<double> AreasOfCopies(const Sector& aSector, bool aSingular) {
+  Chain chain(aSector.Entities());
+  chain->DuplicateAroundAxis(aSector.copies, aSector.full, aSector.angle, aSingular);
+  std::vector<double> areas;
+  for (const auto& region : support::DetectRegions(chain->EntityArray())) areas.push_back(region.netArea);
+  std::ranges::sort(areas);
+  return areas;
+}
+
+/// The hole of a whole ring, taken out of the areas.
+void RemoveHole(const Sector& aSector, std::vector<double>& aAreas) {
+  if (!aSector.IsRing()) return;
+  const double hole = std::numbers::pi * aSector.inner * aSector.inner;
+  const auto found = std::ranges::find_if(aAreas, [&](double aArea) { return std::abs(aArea - hole) <= hole * 1e-6; });
+  RC_ASSERT(found != aAreas.end());
+  aAreas.erase(found);
+}
+
+RC_GTEST_PROP(Sector, CopiesWithoutTheirSeamsAreOneRegionOfTheirTotalArea, ()) {
+  const ExactSettings settings;
+  const Sector sector;
+  std::vector<double> areas = AreasOfCopies(sector, false);
+  RemoveHole(sector, areas);
+  RC_ASSERT(areas.size() == 1U);
+  AssertNear(areas[0], sector.copies * sector.area, sector.copies * sector.area * 1e-6);
+}
+
+RC_GTEST_PROP(Sector, CopiesWithTheirSeamsAreARegionEach, ()) {
+  const ExactSettings settings;
+  Sector sector;
+  sector.start = *Between(0, 360);
+  std::vector<double> areas = AreasOfCopies(sector, true);
+  RemoveHole(sector, areas);
+  RC_ASSERT(areas.size() == static_cast<std::size_t>(sector.copies));
+  for (const double area : areas) AssertNear(area, sector.area, sector.area * 1e-6);
 }
 
 RC_GTEST_PROP(ConvexChain, OffsetThereAndBackReturnsWithinTheMitreRule, ()) {
