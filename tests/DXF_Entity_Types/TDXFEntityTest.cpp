@@ -221,6 +221,8 @@ TEST(DXFRecords, AreZeroAtFirst) {
   EXPECT_EQ(arc.endAngle, 0);
   EXPECT_EQ(arc.radius, 0);
   EXPECT_EQ(arc.endPoint.y, 0);
+  EXPECT_EQ(TDXFPoint{}.x, 0);
+  EXPECT_EQ(TDXFPoint{}.y, 0);
   EXPECT_EQ(TDXFLine{}.point1, 0);
   EXPECT_EQ(TDXFLine{}.point2, 0);
 }

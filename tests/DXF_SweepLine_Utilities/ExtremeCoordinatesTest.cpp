@@ -83,78 +83,90 @@ TEST(GetLeftMostCoordinate_Line, NotANumberFallsThroughToTheOrigin) {
   EXPECT_THAT(GetLowerMostCoordinate_Line(line), IsBits(0, 0));
 }
 
+TEST(GetLeftMostCoordinate, ArcAnswersByTheRulesOfArcs) {
+  TSettingsGuard settings;
+  for (const char* text :
+       {"A c 3,4 r 2 100..280", "A c 3,4 r 2 350..100", "A c 3,4 r 2 20..70", "A c 3,4 r 2 300..200"}) {
+    const TDXFEntity arc = ParseEntity(text);
+    EXPECT_THAT(GetLeftMostCoordinate(arc), IsBits(GetLeftMostCoordinate_Arc(arc))) << text;
+    EXPECT_THAT(GetRightMostCoordinate(arc), IsBits(GetRightMostCoordinate_Arc(arc))) << text;
+    EXPECT_THAT(GetUpperMostCoordinate(arc), IsBits(GetUpperMostCoordinate_Arc(arc))) << text;
+    EXPECT_THAT(GetLowerMostCoordinate(arc), IsBits(GetLowerMostCoordinate_Arc(arc))) << text;
+  }
+}
+
 TEST(GetRightMostCoordinate_Arc, ArcThroughZeroAnswersTheCircle) {
   TSettingsGuard settings;
-  EXPECT_THAT(GetRightMostCoordinate(ParseEntity("A c 0,0 r 1 350..10")), IsBits(1, 0));
-  EXPECT_THAT(GetRightMostCoordinate(ParseEntity("A c 3,4 r 2 -10..370")), IsBits(5, 4));
+  EXPECT_THAT(GetRightMostCoordinate_Arc(ParseEntity("A c 0,0 r 1 350..10")), IsBits(1, 0));
+  EXPECT_THAT(GetRightMostCoordinate_Arc(ParseEntity("A c 3,4 r 2 -10..370")), IsBits(5, 4));
 }
 
 TEST(GetRightMostCoordinate_Arc, ArcThatEndsAtZeroAnswersItsEnd) {
   TSettingsGuard settings;
   const TDXFEntity arc = ParseEntity("A c 0,0 r 1 10..0 from 0.98,0.17 to 0.999,0.01");
-  EXPECT_THAT(GetRightMostCoordinate(arc), IsBits(0.999, 0.01));
+  EXPECT_THAT(GetRightMostCoordinate_Arc(arc), IsBits(0.999, 0.01));
 }
 
 TEST(GetRightMostCoordinate_Arc, ArcThatStartsAtZeroAnswersItsStart) {
   TSettingsGuard settings;
   const TDXFEntity arc = ParseEntity("A c 0,0 r 1 0..90 from 0.999,0.01 to 0,1");
-  EXPECT_THAT(GetRightMostCoordinate(arc), IsBits(0.999, 0.01));
+  EXPECT_THAT(GetRightMostCoordinate_Arc(arc), IsBits(0.999, 0.01));
 }
 
 TEST(GetLeftMostCoordinate_Arc, ArcThrough180AnswersTheCircle) {
   TSettingsGuard settings;
-  EXPECT_THAT(GetLeftMostCoordinate(ParseEntity("A c 3,4 r 2 100..200")), IsBits(1, 4));
+  EXPECT_THAT(GetLeftMostCoordinate_Arc(ParseEntity("A c 3,4 r 2 100..200")), IsBits(1, 4));
 }
 
 TEST(GetLeftMostCoordinate_Arc, ArcThatEndsAt180AnswersItsEnd) {
   TSettingsGuard settings;
   const TDXFEntity arc = ParseEntity("A c 0,0 r 1 90..180");
-  EXPECT_THAT(GetLeftMostCoordinate(arc), IsBits(arc.EndCoords));
-  EXPECT_THAT(GetUpperMostCoordinate(arc), IsBits(arc.StartCoords));
+  EXPECT_THAT(GetLeftMostCoordinate_Arc(arc), IsBits(arc.EndCoords));
+  EXPECT_THAT(GetUpperMostCoordinate_Arc(arc), IsBits(arc.StartCoords));
 }
 
 TEST(GetLeftMostCoordinate_Arc, WrappingArcPast180AnswersItsLeftMostEndKept) {
   TSettingsGuard settings;
   const TDXFEntity late = ParseEntity("A c 0,0 r 1 300..200");
-  EXPECT_THAT(GetLeftMostCoordinate(late), IsBits(late.EndCoords));
+  EXPECT_THAT(GetLeftMostCoordinate_Arc(late), IsBits(late.EndCoords));
   const TDXFEntity early = ParseEntity("A c 0,0 r 1 170..10");
-  EXPECT_THAT(GetLeftMostCoordinate(early), IsBits(early.StartCoords));
+  EXPECT_THAT(GetLeftMostCoordinate_Arc(early), IsBits(early.StartCoords));
 }
 
 TEST(GetUpperMostCoordinate_Arc, ArcThrough90AnswersTheCircle) {
   TSettingsGuard settings;
-  EXPECT_THAT(GetUpperMostCoordinate(ParseEntity("A c 3,4 r 2 80..100")), IsBits(3, 6));
-  EXPECT_THAT(GetUpperMostCoordinate(ParseEntity("A c 3,4 r 2 350..100")), IsBits(3, 6));
+  EXPECT_THAT(GetUpperMostCoordinate_Arc(ParseEntity("A c 3,4 r 2 80..100")), IsBits(3, 6));
+  EXPECT_THAT(GetUpperMostCoordinate_Arc(ParseEntity("A c 3,4 r 2 350..100")), IsBits(3, 6));
 }
 
 TEST(GetUpperMostCoordinate_Arc, ArcThatMisses90AnswersItsUpperEnd) {
   TSettingsGuard settings;
   const TDXFEntity plain = ParseEntity("A c 0,0 r 1 100..260");
-  EXPECT_THAT(GetUpperMostCoordinate(plain), IsBits(plain.StartCoords));
+  EXPECT_THAT(GetUpperMostCoordinate_Arc(plain), IsBits(plain.StartCoords));
   const TDXFEntity wrapping = ParseEntity("A c 0,0 r 1 350..80");
-  EXPECT_THAT(GetUpperMostCoordinate(wrapping), IsBits(wrapping.EndCoords));
+  EXPECT_THAT(GetUpperMostCoordinate_Arc(wrapping), IsBits(wrapping.EndCoords));
   const TDXFEntity wrappingFrom80 = ParseEntity("A c 0,0 r 1 80..70");
-  EXPECT_THAT(GetUpperMostCoordinate(wrappingFrom80), IsBits(wrappingFrom80.StartCoords))
+  EXPECT_THAT(GetUpperMostCoordinate_Arc(wrappingFrom80), IsBits(wrappingFrom80.StartCoords))
       << "passes 90, but not both angles lie above it";
 }
 
 TEST(GetLowerMostCoordinate_Arc, ArcThrough270AnswersTheCircle) {
   TSettingsGuard settings;
-  EXPECT_THAT(GetLowerMostCoordinate(ParseEntity("A c 3,4 r 2 200..300")), IsBits(3, 2));
-  EXPECT_THAT(GetLowerMostCoordinate(ParseEntity("A c 3,4 r 2 300..280")), IsBits(3, 2));
+  EXPECT_THAT(GetLowerMostCoordinate_Arc(ParseEntity("A c 3,4 r 2 200..300")), IsBits(3, 2));
+  EXPECT_THAT(GetLowerMostCoordinate_Arc(ParseEntity("A c 3,4 r 2 300..280")), IsBits(3, 2));
 }
 
 TEST(GetLowerMostCoordinate_Arc, PlainArcThatMisses270AnswersItsLowerEnd) {
   TSettingsGuard settings;
   const TDXFEntity arc = ParseEntity("A c 0,0 r 1 10..260");
-  EXPECT_THAT(GetLowerMostCoordinate(arc), IsBits(arc.EndCoords));
+  EXPECT_THAT(GetLowerMostCoordinate_Arc(arc), IsBits(arc.EndCoords));
 }
 
 TEST(GetLowerMostCoordinate_Arc, WrappingArcThatMisses270AnswersItsUpperEndKept) {
   TSettingsGuard settings;
   const TDXFEntity arc = ParseEntity("A c 0,0 r 1 300..200");
   EXPECT_LT(arc.StartCoords.y, arc.EndCoords.y);
-  EXPECT_THAT(GetLowerMostCoordinate(arc), IsBits(arc.EndCoords));
+  EXPECT_THAT(GetLowerMostCoordinate_Arc(arc), IsBits(arc.EndCoords));
 }
 
 TEST(GetAngleFromCoordinate, IsTheDirectionFromTheSecondPointToTheFirst) {

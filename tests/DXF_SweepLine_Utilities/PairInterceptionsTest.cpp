@@ -39,6 +39,24 @@ TEST(CheckIntercepts, TakesALineAndAnArcInEitherOrder) {
   EXPECT_THAT(Meet("A c 0,0 r 1 0..180", "L 0,-2 0,2"), IsNear("0,1", 1e-15));
 }
 
+TEST(CheckIntercepts, HandsEachPairToItsOwnCheckInTheOrderGiven) {
+  TSettingsGuard settings;
+  struct {
+    const char* a;
+    const char* b;
+    bool (*check)(const TDXFEntity&, const TDXFEntity&, TInterceptionPoints&);
+  } const pairs[] = {{"L 0,0 3,0", "L 1,0 4,0", CheckLineLineInterceptions},
+                     {"L -2,0 2,0.5", "A c 0,0 r 1 0..200", CheckLineArcInterceptions},
+                     {"A c 0,0 r 1 0..200", "L -2,0 2,0.5", CheckLineArcInterceptions},
+                     {"A c 0,0 r 1 0..200", "A c 0,1 r 1 100..80", CheckArcArcInterceptions}};
+  for (const auto& [a, b, check] : pairs) {
+    TInterceptionPoints points;
+    EXPECT_TRUE(check(ParseEntity(a), ParseEntity(b), points)) << a << " and " << b;
+    EXPECT_EQ(points.Points().size(), 2U) << a << " and " << b;
+    EXPECT_THAT(Meet(a, b), IsBits(points.Points())) << a << " and " << b;
+  }
+}
+
 TEST(CheckIntercepts, OtherTypesLeaveTheListUntouched) {
   TSettingsGuard settings;
   TInterceptionPoints points;

@@ -31,6 +31,7 @@ TEST(TCoordinate_3D_Array_Helper, ContainsIsWhetherIndexOfFinds) {
   const TSettingsGuard settings;
   const TCoordinate_3D_Array array{{0, 0, 0}, {1, 2, 3}};
   EXPECT_TRUE(Contains(array, {1, 2, 3}));
+  EXPECT_TRUE(TCoordinate_3D_Array_Helper::Contains(array, {1, 2, 3}));
   EXPECT_FALSE(Contains(array, {3, 2, 1}));
 }
 

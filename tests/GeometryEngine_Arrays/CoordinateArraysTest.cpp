@@ -47,6 +47,7 @@ TEST(TCoordinateArray_Helper, ContainsIsWhetherIndexOfFinds) {
   const TSettingsGuard settings;
   const TCoordinateArray array = ParseCoordinates("0,0 4,0");
   EXPECT_TRUE(Contains(array, {4, 0}));
+  EXPECT_TRUE(TCoordinateArray_Helper::Contains(array, {4, 0}));
   EXPECT_FALSE(Contains(array, {4, 4}));
   EXPECT_FALSE(Contains(array, {kNaN, 0}));
   EXPECT_FALSE(Contains(TCoordinateArray{}, {0, 0}));

@@ -41,6 +41,7 @@ TEST(TEntityArray_Helper, ContainsEntityIsWhetherIndexOfEntityFinds) {
   const TSettingsGuard settings;
   const TEntityArray array = ParseEntities("L 0,0 4,0");
   EXPECT_TRUE(ContainsEntity(array, ParseEntity("L 4,0 0,0")));
+  EXPECT_TRUE(TEntityArray_Helper::ContainsEntity(array, ParseEntity("L 4,0 0,0")));
   EXPECT_FALSE(ContainsEntity(array, ParseEntity("L 4,0 0,1")));
   EXPECT_FALSE(ContainsEntity(TEntityArray{}, ParseEntity("L 4,0 0,1")));
 }

@@ -53,6 +53,7 @@ TEST(ElementsEqual, LeavesTheAngleShiftOut) {
 TEST(ElementsEqual, TakesLengthAndOrder) {
   const TAxialBlockArray blocks{{0, 1}, {1, 2}};
   EXPECT_TRUE(ElementsEqual(blocks, blocks));
+  EXPECT_TRUE(TAxialBlockArray_Helper::ElementsEqual(blocks, blocks));
   EXPECT_FALSE(ElementsEqual(blocks, TAxialBlockArray{{1, 2}, {0, 1}}));
   EXPECT_FALSE(ElementsEqual(blocks, TAxialBlockArray{{0, 1}}));
   EXPECT_FALSE(ElementsEqual(TAxialBlockArray{{0, 1}}, blocks));

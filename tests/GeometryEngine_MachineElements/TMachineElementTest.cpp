@@ -96,8 +96,9 @@ TEST(TMachineElement_Assign, TakesOverEveryField) {
 TEST(TMachineElement, FieldsAreReadAndWrittenByTheirNames) {
   TMachineElement element;
   element.WeightField(kField);
-  element.MaterialsWeightsComponent({.Density = 1, .Multiplier = 2, .WeightInternal = 3, .WeightTotal = 4});
-  element.innerBoundary({true, ParseEntity("L 0,1 1,1")});
+  element.MaterialsWeightsComponent(
+      TMaterialsWeightsComponent{.Density = 1, .Multiplier = 2, .WeightInternal = 3, .WeightTotal = 4});
+  element.innerBoundary(TVirtualBoundary{.Enabled = true, .BoundaryEntity = ParseEntity("L 0,1 1,1")});
   element.outerBoundary({true, ParseEntity("L 0,2 1,2")});
   EXPECT_EQ(element.WeightField(), kField);
   EXPECT_EQ(element.MaterialsWeightsComponent().Multiplier, 2);

@@ -27,7 +27,7 @@ TEST(TTreeNodeArray_Geometry_Helper, TypeCastKeepsPlacesAndGivesNilForOtherNodes
   const TTreeNodeArray_Base nodes = {&region, nullptr, &other, tree.RootNode()};
   EXPECT_THAT(TypeCast(nodes), ElementsAre(&region, nullptr, nullptr, tree.RootNode()));
   const TTreeNodeArray_CoreProperties regions = {&other, &region};
-  EXPECT_THAT(TypeCast(regions), ElementsAre(nullptr, &region));
+  EXPECT_THAT(TTreeNodeArray_Geometry_Helper::TypeCast(regions), ElementsAre(nullptr, &region));
   EXPECT_THAT(TypeCast(TTreeNodeArray_Base{}), ElementsAre());
 }
 
