@@ -124,8 +124,8 @@ TWalkStep WalkOn(TEntityTree& aTree, const TWalkStep& aStep, TRegionWalk& aWalk)
   if (aWalk.fBacktracking && IsEntityInRegionPath(aTree, aWalk.fPath, best.fEntityEnd->EntityIndex())) {
     return StepBack(aTree, walked, aWalk);
   }
-  // KEPT: a loop closes where it first comes back to its start. One that passes a vertex twice is traced as a whole from
-  // every other vertex, but falls apart at that one; hosts index regions by what this rule yields.
+  // KEPT: a loop closes where it first comes back to its start. One that passes a vertex twice is traced as a whole
+  // from every other vertex, but falls apart at that one; hosts index regions by what this rule yields.
   if (best.fFarEnd == aWalk.fStart) {
     CloseLoop(aTree, best, walked.fFarEnd, aWalk);
     return {};
