@@ -78,7 +78,8 @@ TEST_F(TEntityStorage_GetStartCoordinate, OfTwoEntitiesThatCloseOnThemselvesIsTh
 }
 
 TEST_F(TEntityStorage_GetStartCoordinate, OfTwoEntitiesInARowIsTheFreeEnd) {
-  for (const char* text : {"L 0,0 1,0; L 1,0 1,1", "L 1,0 0,0; L 1,0 1,1", "L 0,0 1,0; L 1,1 1,0"}) {
+  for (const char* text :
+       {"L 0,0 1,0; L 1,0 1,1", "L 1,0 0,0; L 1,0 1,1", "L 0,0 1,0; L 1,1 1,0", "L 1,0 0,0; L 1,1 1,0"}) {
     EXPECT_THAT(MakeStorage(text)->GetStartCoordinate(), IsBits(0, 0)) << text;
     EXPECT_THAT(MakeStorage(text)->GetEndCoordinate(), IsBits(1, 1)) << text;
   }

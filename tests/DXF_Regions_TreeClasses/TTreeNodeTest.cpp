@@ -131,6 +131,25 @@ TEST(TTreeNode, EqualComparesTreeNamePlaceAndEntityButNoCoordinates) {
   EXPECT_FALSE(node->Equal(nullptr));
 }
 
+TEST(TTreeNode, EqualTellsPlacesUnderOneIndexApart) {
+  TEntityTree wide("Regions");
+  const TTreeNode* first = wide.AddTreeNode_ToRoot();
+  const TTreeNode* second = wide.AddTreeNode_ToRoot();
+
+  TEntityTree deep("Regions");
+  const TTreeNode* below = deep.AddTreeNode(deep.AddTreeNode_ToRoot());
+  ASSERT_EQ(second->AbsoluteIndex(), below->AbsoluteIndex());
+  EXPECT_FALSE(second->Equal(below)) << "the second child of its parent and the first";
+
+  TEntityTree shifted("Regions");
+  const TTreeNode free(&shifted);
+  const TTreeNode* alone = shifted.AddTreeNode_ToRoot();
+  ASSERT_EQ(alone->AbsoluteIndex(), below->AbsoluteIndex());
+  ASSERT_EQ(alone->RelativeIndex(), below->RelativeIndex());
+  EXPECT_FALSE(alone->Equal(below)) << "levels 1 and 2";
+  EXPECT_FALSE(first->Equal(alone));
+}
+
 TEST(TTreeNode, StandingFreeTakesAnIndexOfItsTreeAndGivesItBack) {
   TEntityTree tree("Regions");
   {

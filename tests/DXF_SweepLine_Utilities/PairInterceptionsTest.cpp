@@ -57,6 +57,23 @@ TEST(CheckIntercepts, HandsEachPairToItsOwnCheckInTheOrderGiven) {
   }
 }
 
+TEST(CheckLineArcInterceptions, FindsOnlyTheSharedEndsOfTwoLines) {
+  TSettingsGuard settings;
+  TInterceptionPoints points;
+  EXPECT_FALSE(CheckLineArcInterceptions(ParseEntity("L 5,5 7,7"), ParseEntity("L 5,7 7,5"), points));
+  EXPECT_TRUE(points.IsEmpty());
+  EXPECT_TRUE(CheckLineArcInterceptions(ParseEntity("L 5,5 6,6"), ParseEntity("L 6,6 7,5"), points));
+  EXPECT_THAT(points.Points(), IsBits("6,6"));
+}
+
+TEST(CheckLineArcInterceptions, TakesTheSecondOfTwoArcsAsItsChord) {
+  TSettingsGuard settings;
+  TInterceptionPoints points;
+  const TDXFEntity second = ParseEntity("A c -5,1 r 5.0990195135927845 348.69..11.31 from 0,0 to 0,2");
+  EXPECT_TRUE(CheckLineArcInterceptions(ParseEntity("A c 0,0 r 1 0..180"), second, points));
+  EXPECT_THAT(points.Points(), IsNear("0,1", 1e-15));
+}
+
 TEST(CheckIntercepts, OtherTypesLeaveTheListUntouched) {
   TSettingsGuard settings;
   TInterceptionPoints points;
@@ -299,6 +316,11 @@ TEST(CheckArcArcInterceptions, ConcentricArcsYieldNothing) {
 TEST(CheckArcArcInterceptions, CentresThatAreTheSameOnlyWithinTheToleranceCrossUpperFirst) {
   TSettingsGuard settings;
   EXPECT_THAT(Meet("A c 0,0 r 1 300..290", "A c 0.00005,0 r 1.00003 310..280"), IsNear("-0.6,0.8 -0.6,-0.8", 1e-3));
+}
+
+TEST(CheckArcArcInterceptions, LowerCrossingOfSuchCentresIsFoundWithoutTheUpperOne) {
+  TSettingsGuard settings;
+  EXPECT_THAT(Meet("A c 0,0 r 1 190..350", "A c 0.00005,0 r 1.00003 200..340"), IsNear("-0.6,-0.8", 1e-3));
 }
 
 TEST(CheckArcArcInterceptions, UpperCrossingOfSuchCentresAtHeightZeroIsTheOnlyOne) {

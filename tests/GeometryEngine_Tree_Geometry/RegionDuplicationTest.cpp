@@ -128,6 +128,32 @@ TEST_F(DuplicateAndUnite, RowsOfRegionsThatTouchInNoEdgeAreKeptBesideOneAnother)
   EXPECT_THAT(region.RegionCoordinates(), IsNear("0,1 4,1", kEps));
 }
 
+TEST_F(DuplicateAndUnite, OutlineRunsAnticlockwiseWhicheverWayItsFirstPieceIsStored) {
+  TTreeNode_Geometry& region =
+      Add("L 2,0 1,0; A c 0,0 r 2 0..90 from 2,0 to 0,2; L 0,2 0,1; A c 0,0 r 1 0..90 from 1,0 to 0,1", 4);
+  region.DuplicateAndUnite(2, gpRadial);
+  EXPECT_EQ(region.NumberEntities(), 6);
+  EXPECT_NEAR(region.Entities().GetClosedArea(), 2 * kQuarterArea, kEps);
+}
+
+TEST_F(DuplicateAndUnite, FullRingWithHolesOfItsOwnIsKeptInCopies) {
+  TTreeNode_Geometry& region = Add(kQuarter, 4);
+  support::AddChain(region.Entities_Internal(), RectangleText(1, 1, 1.1, 1.1));
+  region.UpdateGeometry_Outputs();
+  region.DuplicateAndUnite(4, gpRadial);
+  EXPECT_EQ(region.NumberEntities(), 8);
+  EXPECT_EQ(region.NumberEntities_Internal(), 16);
+  EXPECT_NEAR(region.RegionArea_Base(), 4 * (kQuarterArea - 0.01), kEps);
+  EXPECT_EQ(region.RegionCoordinates().size(), 4U);
+}
+
+TEST_F(DuplicateAndUnite, CopiesOfAnOpenChainAreKeptBesideOneAnother) {
+  TTreeNode_Geometry& region = Add("L 10,1 20,1; L 20,1 20,5", 4);
+  region.DuplicateAndUnite(2, gpRadial);
+  EXPECT_THAT(region.Entities().EntityArray(), IsNear("L 10,1 20,1; L 20,1 20,5; L -1,10 -1,20; L -1,20 -5,20", kEps));
+  EXPECT_EQ(region.NumberDuplications(), 2);
+}
+
 TEST_F(DuplicateAndUnite, FewerThanTwoOrMoreThanAFullRingChangeNothing) {
   TTreeNode_Geometry& region = Add(kQuarter, 4);
   for (const std::int32_t copies : {-1, 0, 1, 5, std::numeric_limits<std::int32_t>::max()}) {

@@ -280,6 +280,12 @@ TEST_F(CopyRegionParameters, LeavesAdaptiveEntitiesStartCoordinatesAndShape) {
   EXPECT_EQ(fRegion.RegionArea_Base(), 0);
 }
 
+TEST_F(CopyRegionParameters, StartCoordinatesAreReadOfAConstantNodeToo) {
+  fRegion.DetectionStartCoords().push_back({1, 2});
+  const TTreeNode_Geometry& region = fRegion;
+  EXPECT_THAT(region.DetectionStartCoords(), IsBits("1,2"));
+}
+
 TEST_F(CopyRegionParameters, TheAngleWinsOverTheNumber) {
   fSource.NumberDuplications(-3);  // angle 0
   fRegion.CopyRegionParameters(fSource, false);
