@@ -1,0 +1,86 @@
+#pragma once
+
+// The first of many points that is the same as a given one under the linear tolerance. Private.
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "GeometryEngine/DXF_Entity_Types/TEntityCoordinate.h"
+#include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
+#include "GeometryEngine/DXF_Entity_Types/detail/TCellChains.h"
+#include "GeometryEngine/DXF_Entity_Types/detail/TToleranceCells.h"
+
+namespace GeometryEngine::detail {
+
+/// Points 0, 1, 2, ... in the order in which they were added. A search answers what a comparison point by point from
+/// the first one on would: sameness under a tolerance is not transitive, so the order decides. Cells only propose
+/// points; the points' own == decides.
+///
+/// REQUIRES: the tolerance as it was when the index was made; see `IsCurrent`.
+/// COST: constant on average, as long as few different points lie within some tolerances of each other.
+class TPointIndex {
+ public:
+  TPointIndex() : fCells(GetLinearTolerance()) {}
+
+  /// False once the tolerance is another one; what a search then answers is wrong.
+  bool IsCurrent() const { return fCells.ServesTolerance(GetLinearTolerance()); }
+
+  void Reserve(std::size_t aCount) {
+    fPoints.reserve(aCount);
+    fChains.Reserve(aCount);
+  }
+
+  void Add(const TEntityCoordinate& aPoint) {
+    fPoints.push_back(aPoint);
+    if (CanMatch(aPoint)) {
+      fChains.Add(GetHash(fCells.GetCell(aPoint.x), fCells.GetCell(aPoint.y)));
+    } else {
+      fChains.AddHidden();
+    }
+  }
+
+  TIndex Count() const { return fChains.Count(); }
+  const TEntityCoordinate& Point(TIndex aIndex) const { return fPoints[static_cast<std::size_t>(aIndex)]; }
+
+  /// The first point that is the same as `aPoint`; kNotFound when none is.
+  TIndex FindFirst(const TEntityCoordinate& aPoint) const {
+    TIndex first = kNotFound;
+    if (!CanMatch(aPoint)) return first;
+    const TCellRange columns = fCells.GetCellsAround(aPoint.x);
+    const TCellRange rows = fCells.GetCellsAround(aPoint.y);
+    for (std::int64_t column = columns.fFirst; column <= columns.fLast; ++column) {
+      for (std::int64_t row = rows.fFirst; row <= rows.fLast; ++row) {
+        first = EarlierOf(first, FindFirstInChain(GetHash(column, row), aPoint, first));
+      }
+    }
+    return first;
+  }
+
+ private:
+  static std::uint64_t GetHash(std::int64_t aColumn, std::int64_t aRow) { return MixCell(MixCell(0, aColumn), aRow); }
+
+  static TIndex EarlierOf(TIndex aLeft, TIndex aRight) {
+    if (aLeft == kNotFound || aRight == kNotFound) return std::max(aLeft, aRight);
+    return std::min(aLeft, aRight);
+  }
+
+  bool CanMatch(const TEntityCoordinate& aPoint) const {
+    return fCells.CanMatch(aPoint.x) && fCells.CanMatch(aPoint.y);
+  }
+
+  TIndex FindFirstInChain(std::uint64_t aHash, const TEntityCoordinate& aPoint, TIndex aBefore) const {
+    for (TIndex i = fChains.First(aHash); i != kNotFound; i = fChains.Next(i)) {
+      if (aBefore != kNotFound && i >= aBefore) return kNotFound;
+      if (Point(i) == aPoint) return i;
+    }
+    return kNotFound;
+  }
+
+  TToleranceCells fCells;
+  TCellChains fChains;
+  std::vector<TEntityCoordinate> fPoints;
+};
+
+}  // namespace GeometryEngine::detail
