@@ -30,6 +30,7 @@
 #include "GeometryEngine/DXF_SweepLine_Utilities/TInterceptionPoints.h"
 #include "GeometryEngine/DXF_SweepLine_Utilities/VerticalLine.h"
 #include "GeometryEngine/Export.h"
+#include "GeometryEngine/FloatingPoint/TFloatEnvironment.h"
 #include "GeometryEngine/GeometryCreation_Drawing/CoordinateCleaning.h"
 #include "GeometryEngine/GeometryCreation_Drawing/EntityConstruction.h"
 #include "GeometryEngine/GeometryEngine_Arrays/Coordinate3DArrays.h"

@@ -25,6 +25,7 @@ LAYERS = [
     ("host", ["host/*"]),
     ("values", [
         "DXF_Entity_Types/*",
+        "FloatingPoint/*",
         "GeometryEngine_Data_Constants/*",
         "GeometryEngine_Definitions/*",
         "GeometryEngine_Plane/*",
