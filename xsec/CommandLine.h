@@ -1,25 +1,11 @@
 #pragma once
 
-#include <optional>
-#include <string>
-#include <vector>
-
-#include "xsec/Drawing.h"
-#include "xsec/OutputFiles.h"
-#include "xsec/Settings.h"
+#include "xsec/Commands.h"
 
 namespace xsec {
 
-/// What `xsec regions` is asked for.
-struct RegionsCommand {
-  std::string drawing;
-  std::vector<Output> outputs;
-  std::optional<DrawingUnits> units;
-  SettingsRequest settings;
-};
-
-/// The command that the arguments spell; nothing when they asked for help or the version, which have then been printed.
+/// What the arguments ask to be run; empty when they asked for help or the version, which have then been printed.
 /// Throws UsageError.
-std::optional<RegionsCommand> ParseCommandLine(int aCount, const char* const* aArguments);
+Action ParseCommandLine(int aCount, const char* const* aArguments);
 
 }  // namespace xsec
