@@ -34,6 +34,7 @@ LAYERS = [
         "DXF_EntityStorage/AngularDuplication",
         "DXF_EntityStorage/EntityEnds",
         "DXF_EntityStorage/detail/IsEntityEnd",
+        "DXF_EntityStorage/detail/OtherEnd",
         "DXF_Regions_Utilities/DuplicationNumber",
         "DXF_Regions_Utilities/EntityTerms",
         "DXF_Regions_Utilities/RegionPoints",
@@ -47,6 +48,7 @@ LAYERS = [
     ]),
     ("arrays and chains", [
         "DXF_EntityStorage/TEntityStorage*",
+        "DXF_EntityStorage/detail/ChainSums",
         "DXF_EntityStorage/detail/ClosedLoops",
         "DXF_EntityStorage/detail/LomutoSort",
         "DXF_EntityStorage/detail/SurfaceSegments",

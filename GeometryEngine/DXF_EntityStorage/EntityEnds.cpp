@@ -1,6 +1,7 @@
 #include "GeometryEngine/DXF_EntityStorage/EntityEnds.h"
 
 #include "GeometryEngine/DXF_EntityStorage/detail/IsEntityEnd.h"
+#include "GeometryEngine/DXF_EntityStorage/detail/OtherEnd.h"
 
 namespace GeometryEngine {
 
@@ -11,9 +12,7 @@ TCommonCoordinate GetCommonCoordinate(const TDXFEntity& aEntity_A, const TDXFEnt
 }
 
 TEntityCoordinate GetEntityEndCoordinate(const TEntityCoordinate& aCoordinate, const TDXFEntity& aEntity) {
-  if (aEntity.StartCoords == aCoordinate) return aEntity.EndCoords;
-  if (aEntity.EndCoords == aCoordinate) return aEntity.StartCoords;
-  return {};
+  return detail::GetOtherEnd(aCoordinate, aEntity, detail::ReadLinearTolerance());
 }
 
 }  // namespace GeometryEngine

@@ -1,7 +1,7 @@
 #include "GeometryEngine/DXF_EntityStorage/TEntityStorage.h"
 
 #include <algorithm>
-#include <iterator>
+#include <cstddef>
 #include <utility>
 
 #include "GeometryEngine/GeometryEngine_Arrays/EntityArrays.h"
@@ -71,8 +71,10 @@ TIndex TEntityStorage::AddEntity_AtIndex(const TDXFEntity& aEntity, TIndex aInde
 }
 
 void TEntityStorage::AddEntities(const TEntityArray& aEntityArray) {
-  TEntityArray added = aEntityArray;  // aEntityArray may be this storage's own array
-  fEntityArray.insert(fEntityArray.end(), std::make_move_iterator(added.begin()), std::make_move_iterator(added.end()));
+  if (&aEntityArray == &fEntityArray) return AddEntities(TEntityArray(aEntityArray));
+  const std::size_t count = fEntityArray.size() + aEntityArray.size();
+  if (count > fEntityArray.capacity()) fEntityArray.reserve(std::max(count, 2 * fEntityArray.size()));
+  fEntityArray.insert(fEntityArray.end(), aEntityArray.begin(), aEntityArray.end());
 }
 
 void TEntityStorage::RemoveEntityFromArray(TIndex aIndex) {

@@ -5,8 +5,8 @@
 #include <limits>
 
 #include "GeometryEngine/DXF_EntityStorage/TEntityStorage.h"
+#include "GeometryEngine/DXF_EntityStorage/detail/ChainSums.h"
 #include "GeometryEngine/DXF_EntityStorage/detail/VertexWalk.h"
-#include "GeometryEngine/DXF_Regions_Utilities/EntityTerms.h"
 #include "GeometryEngine/GeometryEngine_Arrays/CoordinateArrays.h"
 #include "GeometryEngine/GeometryEngine_Entity_Operations/PointTests.h"
 #include "GeometryEngine/GeometryEngine_PointInPolygon/WindingContributions.h"
@@ -14,8 +14,6 @@
 namespace GeometryEngine {
 
 namespace {
-
-constexpr double kCentroidDivisor = 6;  // the centroid sum of a closed chain is 6 times its area times its centroid
 
 bool PointOnEntity(const TDXFEntity& aEntity, const TEntityCoordinate& aPoint) {
   if (aEntity.EntityType == DXFLine) return PointOnLine(aEntity, aPoint);
@@ -43,19 +41,11 @@ bool TEntityStorage::PointOnEntities(const TEntityCoordinate& aCoordinate) const
 }
 
 double TEntityStorage::GetClosedArea() const {
-  double area = 0;
-  for (detail::TVertexWalk walk(fEntityArray, GetStartCoordinate()); walk.Next();) {
-    area += GetSignedArea_Entity(walk.From(), walk.To(), walk.Entity());
-  }
-  return area;
+  return detail::GetChainArea(fEntityArray, GetStartCoordinate());
 }
 
 TEntityCoordinate TEntityStorage::GetCentroid() const {
-  TEntityCoordinate sum;
-  for (detail::TVertexWalk walk(fEntityArray, GetStartCoordinate()); walk.Next();) {
-    sum = sum + GetCentroidComponent_Entity(walk.From(), walk.To(), walk.Entity());
-  }
-  return (1 / (kCentroidDivisor * GetClosedArea())) * sum;
+  return detail::GetChainSums(fEntityArray, GetStartCoordinate()).Centroid();
 }
 
 double TEntityStorage::MinPointToEntitiesDistance(const TEntityCoordinate& aPoint) const {

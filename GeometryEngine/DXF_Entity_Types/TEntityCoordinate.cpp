@@ -1,6 +1,6 @@
 #include "GeometryEngine/DXF_Entity_Types/TEntityCoordinate.h"
 
-#include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
+#include "GeometryEngine/DXF_Entity_Types/detail/Sameness.h"
 #include "GeometryEngine/GeometryEngine_Plane/TPlane.h"
 
 namespace GeometryEngine {
@@ -30,8 +30,8 @@ TCoordinate_3D TEntityCoordinate::GetCoordinate_3D(const TPlane& aPlane) const {
 }
 
 bool operator==(const TEntityCoordinate& aEntityCoord_A, const TEntityCoordinate& aEntityCoord_B) {
-  return ValuesSame_DXFTolerance(aEntityCoord_A.x, aEntityCoord_B.x) &&
-         ValuesSame_DXFTolerance(aEntityCoord_A.y, aEntityCoord_B.y);
+  return detail::AreSame(aEntityCoord_A.x, aEntityCoord_B.x, detail::ReadLinearTolerance()) &&
+         detail::AreSame(aEntityCoord_A.y, aEntityCoord_B.y, detail::ReadLinearTolerance());
 }
 
 bool operator!=(const TEntityCoordinate& aEntityCoord_A, const TEntityCoordinate& aEntityCoord_B) {

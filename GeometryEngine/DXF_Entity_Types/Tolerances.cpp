@@ -1,19 +1,17 @@
 #include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
 
-#include <cmath>
-
-#include "GeometryEngine/host/TDataStore.h"
+#include "GeometryEngine/DXF_Entity_Types/detail/Sameness.h"
 
 namespace GeometryEngine {
 
 using enum Maindataenum::TInputFields;
 
 double GetLinearTolerance() {
-  return Kelvaralinks::dataStore.GetValue(ifLinearTolerance);
+  return detail::ReadLinearTolerance();
 }
 
 bool ValuesSame_DXFTolerance(double a, double b) {
-  return std::abs(a - b) < GetLinearTolerance();
+  return detail::AreSame(a, b, detail::ReadLinearTolerance());
 }
 
 bool ValueLessThan_DXFTolerance(double a, double b) {
@@ -25,7 +23,7 @@ bool ValueMoreThan_DXFTolerance(double a, double b) {
 }
 
 bool ValuesSame_DXFAngle(double a, double b) {
-  return std::abs(a - b) < Kelvaralinks::dataStore.GetValue(ifAngleTolerance);
+  return detail::AreSame(a, b, Kelvaralinks::dataStore.GetValue(ifAngleTolerance));
 }
 
 bool ValuesLessThanOrEqual_DXFAngle(double a, double b) {

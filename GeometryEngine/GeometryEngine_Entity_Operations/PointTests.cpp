@@ -5,6 +5,7 @@
 
 #include "GeometryEngine/DXF_EntityStorage/detail/IsEntityEnd.h"
 #include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
+#include "GeometryEngine/DXF_Entity_Types/detail/PointSameness.h"
 #include "GeometryEngine/GeometryFuncts/detail/CirclePoint.h"
 #include "GeometryEngine/GeometryFuncts/detail/CoordinateDistance.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ArcAngles.h"
@@ -19,6 +20,11 @@ constexpr double kSideDeadBand = 1e-5;  // drawing length units squared, exclusi
 /// Inclusive, the two bounds in either order.
 bool IsBetween(double aValue, double aBound_A, double aBound_B) {
   return (aBound_A <= aValue && aValue <= aBound_B) || (aBound_B <= aValue && aValue <= aBound_A);
+}
+
+/// True when the value lies outside both bounds by more than the tolerance: neither between them nor the same as one.
+bool IsBeyond(double aValue, double aBound_A, double aBound_B, double aTolerance) {
+  return aValue < std::min(aBound_A, aBound_B) - aTolerance || aValue > std::max(aBound_A, aBound_B) + aTolerance;
 }
 
 }  // namespace
@@ -44,14 +50,17 @@ bool PointTouchingArc(const TDXFEntity& aEntity, const TEntityCoordinate& aPoint
 }
 
 bool PointOnLine(const TDXFEntity& aEntity, const TEntityCoordinate& aPoint) {
-  if (detail::IsEntityEnd(aEntity, aPoint)) return true;
+  const double tolerance = detail::ReadLinearTolerance();
   const TEntityCoordinate& start = aEntity.StartCoords;
   const TEntityCoordinate& end = aEntity.EndCoords;
-  if (ValuesSame_DXFTolerance(start.x, end.x))
-    return ValuesSame_DXFTolerance(aPoint.x, start.x) && IsBetween(aPoint.y, start.y, end.y);
-  const auto [slope, intercept] = GetLinearEquation(start.x, start.y, end.x, end.y);
+  if (IsBeyond(aPoint.x, start.x, end.x, tolerance)) return false;
+  if (detail::AreSame(aPoint, start, tolerance) || detail::AreSame(aPoint, end, tolerance)) return true;
+  if (detail::AreSame(start.x, end.x, tolerance))
+    return detail::AreSame(aPoint.x, start.x, tolerance) && IsBetween(aPoint.y, start.y, end.y);
   // KEPT: the extent is compared without tolerance; a point a hair beyond an end is either that end or off the line.
-  return IsBetween(aPoint.x, start.x, end.x) && ValuesSame_DXFTolerance(aPoint.y, slope * aPoint.x + intercept);
+  if (!IsBetween(aPoint.x, start.x, end.x)) return false;
+  const auto [slope, intercept] = GetLinearEquation(start.x, start.y, end.x, end.y);
+  return detail::AreSame(aPoint.y, slope * aPoint.x + intercept, tolerance);
 }
 
 bool PointWithinArcSweep(const TEntityCoordinate& aPoint, const TDXFEntity& aEntity) {

@@ -13,8 +13,7 @@ constexpr double kFullTurn = 360;  // degrees
 
 }  // namespace
 
-TTreeNode_Geometry::TTreeNode_Geometry(TTree_Base* aTree)
-    : TTreeNode_CoreProperties(aTree), fPlane(std::make_unique<TPlane>()), fRegionCoordinates(1) {}
+TTreeNode_Geometry::TTreeNode_Geometry(TTree_Base* aTree) : TTreeNode_CoreProperties(aTree), fRegionCoordinates(1) {}
 
 TTreeNode_Geometry::~TTreeNode_Geometry() = default;
 
@@ -29,7 +28,11 @@ void TTreeNode_Geometry::CopyRegionParameters(const TTreeNode_Geometry& aRegion,
   fFitToParent = aRegion.fFitToParent;
   fRegionPolyType = aRegion.fRegionPolyType;
   fCustomRegionApplied = aRegion.fCustomRegionApplied;
-  fPlane->CopyParameters(*aRegion.fPlane);
+  if (aRegion.fPlane != nullptr) {
+    GetPlane().CopyParameters(*aRegion.fPlane);
+  } else if (fPlane != nullptr) {
+    fPlane->CopyParameters(TPlane());
+  }
 }
 
 void TTreeNode_Geometry::CopyRegionParameters_Geometry(const TTreeNode_Geometry& aRegion) {
@@ -129,6 +132,7 @@ bool TTreeNode_Geometry::HasFractionalChildDuplications() const {
 }
 
 TPlane& TTreeNode_Geometry::GetPlane() {
+  if (fPlane == nullptr) fPlane = std::make_unique<TPlane>();
   return *fPlane;
 }
 

@@ -218,6 +218,7 @@ class GEOMETRYENGINE_API TTreeNode_Geometry : public TTreeNode_CoreProperties {
   static const TTreeNode_Geometry* TypeCast(const TTreeNode_Base* aNode);
 
  private:
+  void MeasureChains();
   bool HasInside() const;
   bool PointInsideChild(const TEntityCoordinate& aPoint, const TGeometryRegionTypesSet& aRegionTypes) const;
   bool UniteOutline();
@@ -235,7 +236,7 @@ class GEOMETRYENGINE_API TTreeNode_Geometry : public TTreeNode_CoreProperties {
   bool fOnBoundary = false;
   bool fSingularRegion = false;
   bool fFitToParent = false;
-  std::unique_ptr<TPlane> fPlane;
+  std::unique_ptr<TPlane> fPlane;  ///< nil for a new plane that nobody has asked for yet
   TCoordinateArray fRegionCoordinates;
   bool fIncludeRegionIdentifier = true;
   TPolyType fRegionPolyType = ptClosed;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "GeometryEngine/DXF_EntityStorage/detail/ChainSums.h"
 #include "GeometryEngine/GeometryEngine_Tree_Geometry/TTreeNode_Geometry.h"
 #include "GeometryEngine/host/Numerics.h"
 #include "GeometryEngine/host/TDataStore.h"
@@ -84,9 +85,11 @@ bool TTreeNode_Geometry::PointInsideRegion(const TEntityCoordinate& aPoint, cons
 
 bool TTreeNode_Geometry::PointInsideChild(const TEntityCoordinate& aPoint,
                                           const TGeometryRegionTypesSet& aRegionTypes) const {
-  const TTreeNodeArray_Geometry children = Children();
-  return std::any_of(children.begin(), children.end(), [&](const TTreeNode_Geometry* child) {
-    return child->IsOfType_WithinSet(aRegionTypes) && child->fEntities.PointInsideEntities(aPoint, true) &&
+  const TTreeNodeArray_Base& children = TTreeNode_Base::GetChildren();
+  return std::any_of(children.begin(), children.end(), [&](const TTreeNode_Base* aNode) {
+    const TTreeNode_Geometry* child = TypeCast(aNode);
+    return child != nullptr && child->IsOfType_WithinSet(aRegionTypes) &&
+           child->fEntities.PointInsideEntities(aPoint, true) &&
            !child->fEntities_Internal.PointInsideEntities(aPoint, true);
   });
 }
@@ -102,14 +105,21 @@ void TTreeNode_Geometry::UpdateRegionArea_Base() {
   fRegionArea_Base = fEntities.GetClosedArea() - fEntities_Internal.GetClosedArea();
 }
 
-void TTreeNode_Geometry::UpdateGeometry_Outputs() {
+/// The outline's start vertex, the base area and the centroid; the outline is walked once unless it has to be reversed.
+void TTreeNode_Geometry::MeasureChains() {
   fEntities.StartCoordinate(fEntities.GetStartCoordinate());
-  UpdateRegionArea_Base();
+  detail::TChainSums sums = detail::GetChainSums(fEntities.EntityArray(), fEntities.StartCoordinate());
+  fRegionArea_Base = sums.fArea - fEntities_Internal.GetClosedArea();
   if (fRegionArea_Base < 0) {
     fEntities.ReverseEntities();
     fRegionArea_Base = -fRegionArea_Base;
+    sums = detail::GetChainSums(fEntities.EntityArray(), fEntities.GetStartCoordinate());
   }
-  fCentroid = fEntities.GetCentroid();
+  fCentroid = sums.Centroid();
+}
+
+void TTreeNode_Geometry::UpdateGeometry_Outputs() {
+  MeasureChains();
   if (!(fRegionArea_Base > Kelvaralinks::dataStore.GetValue(Maindataenum::TInputFields::ifMinimumLabelArea))) return;
   if (PointInsideRegion(fCentroid, TGeometryRegionTypesSet::All(), false)) {
     SetRegionCoordinate_Single(fCentroid);

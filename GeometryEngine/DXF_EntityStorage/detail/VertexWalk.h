@@ -6,8 +6,9 @@
 #include <cstddef>
 #include <span>
 
-#include "GeometryEngine/DXF_EntityStorage/EntityEnds.h"
+#include "GeometryEngine/DXF_EntityStorage/detail/OtherEnd.h"
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
+#include "GeometryEngine/DXF_Entity_Types/detail/Sameness.h"
 #include "GeometryEngine/host/TIndex.h"
 
 namespace GeometryEngine::detail {
@@ -21,13 +22,14 @@ namespace GeometryEngine::detail {
 /// walk goes on from there. OWNS: nothing; the chain must outlive the walk and stay as it is.
 class TVertexWalk {
  public:
-  TVertexWalk(std::span<const TDXFEntity> aChain, const TEntityCoordinate& aStart) : fChain(aChain), fTo(aStart) {}
+  TVertexWalk(std::span<const TDXFEntity> aChain, const TEntityCoordinate& aStart)
+      : fChain(aChain), fTolerance(ReadLinearTolerance()), fTo(aStart) {}
 
   /// Steps on to the next entity; false behind the last one.
   bool Next() {
     if (fPassed == fChain.size()) return false;
     fFrom = fTo;
-    fTo = GetEntityEndCoordinate(fFrom, fChain[fPassed]);
+    fTo = GetOtherEnd(fFrom, fChain[fPassed], fTolerance);
     ++fPassed;
     return true;
   }
@@ -39,6 +41,7 @@ class TVertexWalk {
 
  private:
   std::span<const TDXFEntity> fChain;
+  double fTolerance;
   std::size_t fPassed = 0;
   TEntityCoordinate fFrom;
   TEntityCoordinate fTo;
