@@ -224,7 +224,7 @@ class GEOMETRYENGINE_API TEntityStorage {
   /// lines. DEGENERATE: a distance of 0 changes nothing. Self-intersections stay, an arc that the chain passes
   /// clockwise becomes its complement, and a chain that turns back on itself has no mitre there. REQUIRES: a closed
   /// chain without repeated points; points are looked up by coordinate, and the first one counts. UNITS: drawing length
-  /// units. COST: the square of the points of the surface polyline.
+  /// units. COST: in proportion to the points of the surface polyline, as long as few of them are the same.
   void Offset(double aDistance);
 
  private:

@@ -96,6 +96,7 @@ void TEntityStorage::ReverseEntities() {
 
 TCoordinateArray TEntityStorage::GetVertices() const {
   TCoordinateArray vertices;
+  vertices.reserve(fEntityArray.size());
   for (detail::TVertexWalk walk(fEntityArray, GetStartCoordinate()); walk.Next();) {
     AddCoordinateToArray(vertices, walk.From());
   }
@@ -104,6 +105,7 @@ TCoordinateArray TEntityStorage::GetVertices() const {
 
 TCoordinateArray TEntityStorage::GetVertices_Surf(bool aIncludeMidPoint) const {
   TCoordinateArray vertices;
+  vertices.reserve(fEntityArray.size());
   for (detail::TVertexWalk walk(fEntityArray, GetStartCoordinate()); walk.Next();) {
     if (walk.Entity().EntityType == DXFLine) AddLinePoints(vertices, walk, aIncludeMidPoint);
     if (walk.Entity().EntityType == DXFArc) AddArcPoints(vertices, walk);

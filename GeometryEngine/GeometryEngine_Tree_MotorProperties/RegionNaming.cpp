@@ -3,11 +3,12 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cstddef>
+#include <utility>
 
 #include "GeometryEngine/GeometryEngine_Tree_MotorProperties/TTreeNode_CoreProperties.h"
 #include "GeometryEngine/GeometryEngine_Tree_MotorProperties/TTree_CoreProperties.h"
+#include "GeometryEngine/GeometryEngine_Tree_MotorProperties/detail/TNameTable.h"
 #include "GeometryEngine/host/TDataStore.h"
 #include "GeometryEngine/host/TInputData.h"
 
@@ -31,29 +32,18 @@ bool IsMachineTypeAmong(const std::array<std::uint8_t, N>& aTypes) {
   return std::find(aTypes.begin(), aTypes.end(), Kelvaralinks::InputData.MachineType) != aTypes.end();
 }
 
-char FoldCase(char aLetter) {
-  constexpr char kToLowerCase = 'a' - 'A';
-  return aLetter >= 'A' && aLetter <= 'Z' ? static_cast<char>(aLetter + kToLowerCase) : aLetter;
-}
-
-bool SameName_IgnoringCase(std::string_view aName_A, std::string_view aName_B) {
-  return std::equal(aName_A.begin(), aName_A.end(), aName_B.begin(), aName_B.end(),
-                    [](char a, char b) { return FoldCase(a) == FoldCase(b); });
-}
-
-std::string NumberedName(const std::string& aName, std::int32_t aNumber) {
-  std::array<char, 16> digits{};
-  const std::to_chars_result written = std::to_chars(digits.data(), digits.data() + digits.size(), aNumber);
-  return aName + "_" + std::string(digits.data(), written.ptr);
-}
-
 }  // namespace
 
 TTree_CoreProperties* TTreeNode_CoreProperties::GetTree() const {
   return dynamic_cast<TTree_CoreProperties*>(TTreeNode_Base::GetTree());
 }
 
+void TTreeNode_CoreProperties::NoteRenaming() {
+  if (TTree_CoreProperties* tree = GetTree()) tree->Names().NoteRenaming(GetTreeIndex());
+}
+
 void TTreeNode_CoreProperties::SetRegionName(std::string_view aName) {
+  NoteRenaming();
   fRegionName = aName;
   fUniqueName.clear();
   SetRegionName_Unique();
@@ -67,8 +57,11 @@ void TTreeNode_CoreProperties::SetRegionName_Unique() {
   if (GetTree() == nullptr) return;
   const double uniqueNames = Kelvaralinks::dataStore.GetValue(Maindataenum::TInputFields::ifUniqueRegionNames);
   if (uniqueNames == kUniqueNamesOn && CheckApply_UniqueRegionName()) {
-    fUniqueName = GenerateUniqueRegionName();
+    std::string name = GenerateUniqueRegionName();
+    NoteRenaming();
+    fUniqueName = std::move(name);
   } else {
+    NoteRenaming();
     fUniqueName.clear();
   }
 }
@@ -78,25 +71,17 @@ bool TTreeNode_CoreProperties::CheckApply_UniqueRegionName() const {
   return !(IsMachineTypeAmong(kMachineTypes_SharedBarNames) && IsOfType(rtRotorBar));
 }
 
-bool TTreeNode_CoreProperties::NameClashes(const TTree_CoreProperties& aTree, std::string_view aName) const {
-  for (TIndex index = 1; index < aTree.GetCount(); ++index) {
-    const TTreeNode_CoreProperties* node = aTree.GetNodeFromIndex(index);
-    if (node == nullptr || index == GetTreeIndex()) continue;
-    if (SameName_IgnoringCase(node->GetRegionName_Unique(), aName)) return true;
-  }
-  return false;
-}
-
 std::string TTreeNode_CoreProperties::GenerateUniqueRegionName() const {
-  std::string name = GetRegionName_Unique();
-  const TTree_CoreProperties* tree = GetTree();
-  if (tree == nullptr) return name;
-  std::int32_t counter = 0;
-  while (counter <= kLargestNameCounter && NameClashes(*tree, name)) {
-    ++counter;
-    name = NumberedName(fRegionName, counter);
-  }
-  return name;
+  TTree_CoreProperties* tree = GetTree();
+  if (tree == nullptr) return GetRegionName_Unique();
+  detail::TNameTable& names = tree->Names();
+  names.Update(tree->GetChangeCount(), tree->GetCount(), [tree](TIndex aIndex) -> const std::string* {
+    // The root is compared with nobody.
+    const TTreeNode_CoreProperties* node = aIndex == 0 ? nullptr : tree->GetNodeFromIndex(aIndex);
+    return node == nullptr ? nullptr : &node->GetRegionName_Unique();
+  });
+  if (!names.IsTakenByOther(GetRegionName_Unique(), GetTreeIndex())) return GetRegionName_Unique();
+  return detail::TNameTable::NumberedName(fRegionName, names.GetLeastFreeNumber(fRegionName, kLargestNameCounter));
 }
 
 const std::string& TTreeNode_CoreProperties::GetRegionName_FEA() const {
@@ -110,6 +95,7 @@ std::string_view TTreeNode_CoreProperties::GetComponentName_3D() const {
 }
 
 void TTreeNode_CoreProperties::CopyRegionParameters(const TTreeNode_CoreProperties& aRegion, bool aApplyUniqueName) {
+  NoteRenaming();
   fColour = aRegion.fColour;
   fRegionType = aRegion.fRegionType;
   fRegionType_Mapped = aRegion.fRegionType_Mapped;

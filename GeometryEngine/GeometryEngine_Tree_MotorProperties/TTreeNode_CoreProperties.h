@@ -92,7 +92,7 @@ class GEOMETRYENGINE_API TTreeNode_CoreProperties : public TTreeNode_Base {
   /// taken when another node of the tree, the root left aside, answers to it; only the letters A to Z are folded.
   /// A region that has a unique name already keeps it while it is free, even after its given name was copied anew.
   /// DEGENERATE: the present name without a core-properties tree; the last candidate when a million and one are taken.
-  /// COST: the number of nodes for each candidate.
+  /// COST: constant for a node of a tree that is only added to; the number of nodes after others have been taken out.
   std::string GenerateUniqueRegionName() const;
   /// The name in the finite-element export: the unique name, but the given one when there is none and for regions that
   /// the export knows by their common name: wedges, impregnation, liners, coil dividers, slot openings, magnet pockets
@@ -111,7 +111,7 @@ class GEOMETRYENGINE_API TTreeNode_CoreProperties : public TTreeNode_Base {
   static const TTreeNode_CoreProperties* TypeCast(const TTreeNode_Base* aNode);
 
  private:
-  bool NameClashes(const TTree_CoreProperties& aTree, std::string_view aName) const;
+  void NoteRenaming();
 
   std::uint32_t fColour = 0;
   TGeometryRegionType fRegionType = rtUndefined;

@@ -1,5 +1,7 @@
 #include "GeometryEngine/GeometryEngine_Tree_MotorProperties/TTree_CoreProperties.h"
 
+#include "GeometryEngine/GeometryEngine_Tree_MotorProperties/detail/TNameTable.h"
+
 namespace GeometryEngine {
 
 namespace {
@@ -12,7 +14,8 @@ std::unique_ptr<TTreeNode_Base> NewNode(TTree_Base& aTree) {
 
 TTree_CoreProperties::TTree_CoreProperties() : TTree_CoreProperties(&NewNode) {}
 
-TTree_CoreProperties::TTree_CoreProperties(TNodeFactory aFactory) : TTree_Base(aFactory) {}
+TTree_CoreProperties::TTree_CoreProperties(TNodeFactory aFactory)
+    : TTree_Base(aFactory), fNames(std::make_unique<detail::TNameTable>()) {}
 
 TTree_CoreProperties::~TTree_CoreProperties() = default;
 
@@ -34,6 +37,10 @@ TTreeNode_CoreProperties* TTree_CoreProperties::GetConductorRegionFromName(std::
     if (TTreeNode_CoreProperties::IsOfType(node, rtConductor) && node->RegionName() == aConductorName) return node;
   }
   return nullptr;
+}
+
+detail::TNameTable& TTree_CoreProperties::Names() {
+  return *fNames;
 }
 
 }  // namespace GeometryEngine

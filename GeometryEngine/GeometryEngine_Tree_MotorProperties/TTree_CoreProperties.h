@@ -2,6 +2,7 @@
 
 // A tree of regions that have types and names, and the searches by them. TTree_Geometry adds the regions' shapes.
 
+#include <memory>
 #include <string_view>
 
 #include "GeometryEngine/Export.h"
@@ -9,6 +10,10 @@
 #include "GeometryEngine/host/TTree_Base.h"
 
 namespace GeometryEngine {
+
+namespace detail {
+class TNameTable;
+}
 
 /// A tree of TTreeNode_CoreProperties; CreateTreeNode makes such nodes. The root, at index 0, is a region like the
 /// others: searches by type include it.
@@ -31,6 +36,12 @@ class GEOMETRYENGINE_API TTree_CoreProperties : public TTree_Base {
  protected:
   /// For derived trees with a node class of their own.
   explicit TTree_CoreProperties(TNodeFactory aFactory);
+
+ private:
+  friend class TTreeNode_CoreProperties;
+  detail::TNameTable& Names();
+
+  std::unique_ptr<detail::TNameTable> fNames;
 };
 
 }  // namespace GeometryEngine

@@ -15,20 +15,29 @@ TTreeNode_Base* TTreeNode_Base::GetParent() const {
 }
 
 TIndex TTreeNode_Base::GetCount() const {
-  return ToIndex(fChildren.size());
+  return ToIndex(fChildren.size()) - fHoles;
 }
 
 TTreeNode_Base* TTreeNode_Base::GetNode(TIndex aIndex) const {
+  CloseHoles();
   if (!IsIndexWithin(aIndex, fChildren.size())) return nullptr;
   return fChildren[static_cast<std::size_t>(aIndex)];
 }
 
 const TTreeNodeArray_Base& TTreeNode_Base::GetChildren() const {
+  CloseHoles();
   return fChildren;
 }
 
 TIndex TTreeNode_Base::GetTreeIndex() const {
   return fTreeIndex;
+}
+
+void TTreeNode_Base::CloseHoles() const {
+  if (fHoles == 0) return;
+  std::erase(fChildren, nullptr);
+  for (std::size_t place = 0; place < fChildren.size(); ++place) fChildren[place]->fPlace = place;
+  fHoles = 0;
 }
 
 }  // namespace GeometryEngine

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 #include "GeometryEngine/Export.h"
@@ -14,6 +15,9 @@ class TTreeNode_Base;
 using TTreeNodeArray_Base = std::vector<TTreeNode_Base*>;
 
 /// A node of a TTree_Base: at most one parent and an ordered list of children, both changed by the tree alone.
+///
+/// A child that leaves its parent leaves a hole there at first; whoever reads the list next closes all holes at once.
+/// So even a reading belongs to the thread that works on the tree.
 ///
 /// OWNS: nothing. A node that has been entered belongs to its tree; before that it belongs to whoever created it. A
 /// node's destructor must not look at its parent or its children, which may be gone already.
@@ -33,16 +37,20 @@ class GEOMETRYENGINE_API TTreeNode_Base {
   TIndex GetCount() const;
   /// The child at that place; nil for an index outside 0 to GetCount() - 1.
   TTreeNode_Base* GetNode(TIndex aIndex) const;
-  /// The children, in order.
+  /// The children, in order. COST: constant; after children have left, the first reading takes their number once.
   const TTreeNodeArray_Base& GetChildren() const;
   /// Place in the tree's flat index; kNotFound while the node is not entered.
   TIndex GetTreeIndex() const;
 
  private:
   friend class TTree_Base;
+  void CloseHoles() const;
+
   TTree_Base* fTree;
   TTreeNode_Base* fParent = nullptr;
-  TTreeNodeArray_Base fChildren;
+  mutable TTreeNodeArray_Base fChildren;  ///< nil where a child has left
+  mutable TIndex fHoles = 0;              ///< how many of them are nil
+  mutable std::size_t fPlace = 0;         ///< where this node stands in its parent's list, holes counted in
   TIndex fTreeIndex = kNotFound;
 };
 

@@ -18,6 +18,7 @@ std::unique_ptr<TTreeNode_Base> CreateNode_Base(TTree_Base& aTree) {
 }
 
 bool IsWithinSubtree(const TTreeNode_Base* aNode, const TTreeNode_Base* aTop) {
+  if (aTop->GetCount() == 0) return aNode == aTop;
   while (aNode != nullptr && aNode != aTop) aNode = aNode->GetParent();
   return aNode == aTop;
 }
@@ -47,6 +48,7 @@ void TTree_Base::Clear() {
   nodes.push_back(CreateTreeNode());
   nodes.front()->fTreeIndex = 0;
   fNodes.swap(nodes);
+  ++fChanges;
 }
 
 TIndex TTree_Base::GetCount() const {
@@ -61,12 +63,18 @@ TTreeNode_Base* TTree_Base::GetRootNode() const {
   return fNodes.front().get();
 }
 
+std::uint64_t TTree_Base::GetChangeCount() const {
+  return fChanges;
+}
+
 void TTree_Base::SetRootNode(std::unique_ptr<TTreeNode_Base>& aNode) {
   if (!IsEnterable(aNode.get())) return;
+  GetRootNode()->CloseHoles();
   aNode->fChildren = std::move(GetRootNode()->fChildren);
   for (TTreeNode_Base* child : aNode->fChildren) child->fParent = aNode.get();
   aNode->fTreeIndex = 0;
   fNodes.front() = std::move(aNode);
+  ++fChanges;
 }
 
 std::unique_ptr<TTreeNode_Base> TTree_Base::CreateTreeNode() {
@@ -82,7 +90,8 @@ TTreeNode_Base* TTree_Base::AddNewTreeNode_AtIndex(std::unique_ptr<TTreeNode_Bas
   TTreeNode_Base* const node = aNode.get();
   const std::size_t place = aIndex >= 1 && aIndex < GetCount() ? static_cast<std::size_t>(aIndex) : fNodes.size();
   MakeRoomForOne(fNodes);
-  MakeRoomForOne(GetRootNode()->fChildren);
+  MakeRoomForChild(*GetRootNode());
+  if (place < fNodes.size()) ++fChanges;
   fNodes.insert(fNodes.begin() + static_cast<std::ptrdiff_t>(place), std::move(aNode));
   Attach(node, GetRootNode());
   RenumberFrom(place);
@@ -94,9 +103,12 @@ void TTree_Base::RemoveFreeTreeNode(TTreeNode_Base* aNode, bool aRemoveDescendan
   if (!aRemoveDescendants) HandChildrenToParent(*aNode);
   const TTreeNodeArray_Base doomed = CollectSubtree(aNode);
   Detach(aNode);
-  for (TTreeNode_Base* node : doomed) node->fTreeIndex = kNotFound;
-  std::erase_if(fNodes, [](const auto& aEntered) { return aEntered->fTreeIndex == kNotFound; });
-  RenumberFrom(1);
+  TIndex first = GetCount();
+  for (TTreeNode_Base* node : doomed) first = std::min(first, std::exchange(node->fTreeIndex, kNotFound));
+  const auto isDoomed = [](const auto& aEntered) { return aEntered->fTreeIndex == kNotFound; };
+  fNodes.erase(std::remove_if(fNodes.begin() + first, fNodes.end(), isDoomed), fNodes.end());
+  RenumberFrom(static_cast<std::size_t>(first));
+  ++fChanges;
 }
 
 void TTree_Base::MoveTreeNode(TTreeNode_Base* aNode, TTreeNode_Base* aNewParent) {
@@ -107,7 +119,7 @@ void TTree_Base::MoveTreeNode(TTreeNode_Base* aNode, TTreeNode_Base* aNewParent)
 
 void TTree_Base::MoveTreeNode_Recursive(TTreeNode_Base* aNode, TTreeNode_Base* aNewParent) {
   if (!IsMovableTo(aNode, aNewParent)) return;
-  MakeRoomForOne(aNewParent->fChildren);
+  MakeRoomForChild(*aNewParent);
   Detach(aNode);
   Attach(aNode, aNewParent);
 }
@@ -128,22 +140,35 @@ bool TTree_Base::IsMovableTo(const TTreeNode_Base* aNode, const TTreeNode_Base* 
   return IsMovable(aNode) && IsEntered(aNewParent) && !IsWithinSubtree(aNewParent, aNode);
 }
 
+void TTree_Base::MakeRoomForChild(TTreeNode_Base& aParent) {
+  if (aParent.fHoles > aParent.GetCount()) aParent.CloseHoles();
+  MakeRoomForOne(aParent.fChildren);
+}
+
 void TTree_Base::Attach(TTreeNode_Base* aNode, TTreeNode_Base* aParent) {
+  aNode->fPlace = aParent->fChildren.size();
   aParent->fChildren.push_back(aNode);
   aNode->fParent = aParent;
 }
 
 void TTree_Base::Detach(TTreeNode_Base* aNode) {
-  std::erase(aNode->fParent->fChildren, aNode);
-  aNode->fParent = nullptr;
+  TTreeNode_Base& parent = *std::exchange(aNode->fParent, nullptr);
+  parent.fChildren[aNode->fPlace] = nullptr;
+  ++parent.fHoles;
+  for (; !parent.fChildren.empty() && parent.fChildren.back() == nullptr; --parent.fHoles) parent.fChildren.pop_back();
 }
 
 void TTree_Base::HandChildrenToParent(TTreeNode_Base& aNode) {
+  if (aNode.GetCount() == 0) return;
+  aNode.CloseHoles();
   TTreeNodeArray_Base& siblings = aNode.fParent->fChildren;
-  const auto place = std::ranges::find(siblings, &aNode);
+  const auto place = siblings.begin() + static_cast<std::ptrdiff_t>(aNode.fPlace);
   siblings.insert(place + 1, aNode.fChildren.begin(), aNode.fChildren.end());
   for (TTreeNode_Base* child : aNode.fChildren) child->fParent = aNode.fParent;
   aNode.fChildren.clear();
+  for (std::size_t i = aNode.fPlace + 1; i < siblings.size(); ++i) {
+    if (siblings[i] != nullptr) siblings[i]->fPlace = i;
+  }
 }
 
 void TTree_Base::RenumberFrom(std::size_t aPlace) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -38,6 +39,9 @@ class GEOMETRYENGINE_API TTree_Base {
   /// The node at that place of the flat index; nil for an index outside it.
   TTreeNode_Base* GetNodeFromIndex(TIndex aIndex) const;
   TTreeNode_Base* GetRootNode() const;
+  /// Counts what has happened to the flat index apart from nodes entered at its end: as long as it stays the same, a
+  /// node keeps its place. For whoever keeps something by place between two calls.
+  std::uint64_t GetChangeCount() const;
   /// Puts `aNode` in the root's place: it takes over the root's children, and the old root is freed.
   /// OWNS: takes `aNode` unless it is refused.
   void SetRootNode(std::unique_ptr<TTreeNode_Base>& aNode);
@@ -51,12 +55,14 @@ class GEOMETRYENGINE_API TTree_Base {
   TTreeNode_Base* AddNewTreeNode_AtIndex(std::unique_ptr<TTreeNode_Base>& aNode, TIndex aIndex);
   /// Takes a node out of the tree and frees it, and with `aRemoveDescendants` all that hangs below it. Otherwise its
   /// children go to its parent, where they take its place in their order. The flat index closes up. The root is
-  /// refused.
+  /// refused. COST: the nodes behind it in the flat index.
   void RemoveFreeTreeNode(TTreeNode_Base* aNode, bool aRemoveDescendants);
   /// Makes `aNode` the last child of `aNewParent`; its children stay behind with the old parent, in its place and their
-  /// order. The root, and a new parent that is `aNode` or hangs below it, are refused.
+  /// order. The root, and a new parent that is `aNode` or hangs below it, are refused. COST: constant for a node
+  /// without children; otherwise the depth of the new parent and the number of old siblings besides.
   void MoveTreeNode(TTreeNode_Base* aNode, TTreeNode_Base* aNewParent);
-  /// The same, but the node takes all that hangs below it along.
+  /// The same, but the node takes all that hangs below it along. COST: constant for a node without children, else the
+  /// depth of the new parent.
   void MoveTreeNode_Recursive(TTreeNode_Base* aNode, TTreeNode_Base* aNewParent);
 
  protected:
@@ -72,12 +78,14 @@ class GEOMETRYENGINE_API TTree_Base {
   bool IsEntered(const TTreeNode_Base* aNode) const;
   bool IsMovable(const TTreeNode_Base* aNode) const;
   bool IsMovableTo(const TTreeNode_Base* aNode, const TTreeNode_Base* aNewParent) const;
+  static void MakeRoomForChild(TTreeNode_Base& aParent);
   static void Attach(TTreeNode_Base* aNode, TTreeNode_Base* aParent);
   static void Detach(TTreeNode_Base* aNode);
   static void HandChildrenToParent(TTreeNode_Base& aNode);
   void RenumberFrom(std::size_t aPlace);
 
   TNodeFactory fFactory;
+  std::uint64_t fChanges = 0;
   std::vector<std::unique_ptr<TTreeNode_Base>> fNodes;  ///< the flat index; position 0 is the root
 };
 

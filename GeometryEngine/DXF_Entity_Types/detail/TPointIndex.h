@@ -46,13 +46,19 @@ class TPointIndex {
 
   /// The first point that is the same as `aPoint`; kNotFound when none is.
   TIndex FindFirst(const TEntityCoordinate& aPoint) const {
+    return FindFirstIf(aPoint, [](TIndex) { return true; });
+  }
+
+  /// The same among the points whose index `aAccepts`.
+  template <class TAccepts>
+  TIndex FindFirstIf(const TEntityCoordinate& aPoint, const TAccepts& aAccepts) const {
     TIndex first = kNotFound;
     if (!CanMatch(aPoint)) return first;
     const TCellRange columns = fCells.GetCellsAround(aPoint.x);
     const TCellRange rows = fCells.GetCellsAround(aPoint.y);
     for (std::int64_t column = columns.fFirst; column <= columns.fLast; ++column) {
       for (std::int64_t row = rows.fFirst; row <= rows.fLast; ++row) {
-        first = EarlierOf(first, FindFirstInChain(GetHash(column, row), aPoint, first));
+        first = EarlierOf(first, FindFirstInChain(GetHash(column, row), aPoint, first, aAccepts));
       }
     }
     return first;
@@ -70,10 +76,12 @@ class TPointIndex {
     return fCells.CanMatch(aPoint.x) && fCells.CanMatch(aPoint.y);
   }
 
-  TIndex FindFirstInChain(std::uint64_t aHash, const TEntityCoordinate& aPoint, TIndex aBefore) const {
+  template <class TAccepts>
+  TIndex FindFirstInChain(std::uint64_t aHash, const TEntityCoordinate& aPoint, TIndex aBefore,
+                          const TAccepts& aAccepts) const {
     for (TIndex i = fChains.First(aHash); i != kNotFound; i = fChains.Next(i)) {
       if (aBefore != kNotFound && i >= aBefore) return kNotFound;
-      if (Point(i) == aPoint) return i;
+      if (Point(i) == aPoint && aAccepts(i)) return i;
     }
     return kNotFound;
   }
