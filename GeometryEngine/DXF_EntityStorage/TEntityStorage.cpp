@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "GeometryEngine/GeometryEngine_Arrays/EntityArrays.h"
+#include "GeometryEngine/GeometryEngine_Arrays/detail/EntityRemovals.h"
 #include "GeometryEngine/GeometryEngine_Arrays/detail/RingOrder.h"
 
 namespace GeometryEngine {
@@ -90,7 +91,9 @@ void TEntityStorage::RemoveEntityFromArray(const TDXFEntity& aDXFEntity) {
 
 void TEntityStorage::RemoveEntities(const TEntityArray& aEntityArray) {
   const TEntityArray removed = aEntityArray;  // aEntityArray may be this storage's own array
-  for (const TDXFEntity& entity : removed) RemoveEntityFromArray(entity);
+  detail::TEntityRemovals removals(fEntityArray);
+  for (const TDXFEntity& entity : removed) removals.RemoveFirst(entity);
+  removals.Finish();
 }
 
 bool TEntityStorage::CheckEntityExists(const TDXFEntity& aEntity) const {

@@ -216,7 +216,7 @@ class GEOMETRYENGINE_API TEntityStorage {
   void DuplicateAroundAxis(std::int32_t aDuplications, std::int32_t aDuplications_Full, double aAngle, bool aSingular);
   /// Makes the chain a row of copies, copy k moved by k times the distance along x. An entity that falls on an equal
   /// one of the copy before is dropped together with that one, so neighbours that share an edge merge into one outline.
-  /// DEGENERATE: fewer than 2 copies change nothing. COST: copies times the square of the entities.
+  /// DEGENERATE: fewer than 2 copies change nothing. COST: as many entities as copies times entities.
   void DuplicateAlongAxis(std::int32_t aDuplications, double aDuplicationDistance);
   /// Replaces the closed chain by the parallel chain at the distance: to the right of the direction of travel, that is
   /// outwards for an anticlockwise chain, when it is positive, to the left when it is negative. Corners are mitred.

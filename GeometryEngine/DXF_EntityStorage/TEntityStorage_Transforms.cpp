@@ -1,10 +1,12 @@
 // Transforms of a storage's chain as a whole, and its duplication around and along an axis.
 
+#include <algorithm>
+#include <cstddef>
 #include <utility>
 
 #include "GeometryEngine/DXF_EntityStorage/AngularDuplication.h"
 #include "GeometryEngine/DXF_EntityStorage/TEntityStorage.h"
-#include "GeometryEngine/GeometryEngine_Arrays/EntityArrays.h"
+#include "GeometryEngine/GeometryEngine_Arrays/detail/EntityRemovals.h"
 #include "GeometryEngine/GeometryEngine_Entity_Operations/EntityTransforms.h"
 #include "GeometryEngine/GeometryFuncts/Rotation.h"
 
@@ -15,6 +17,11 @@ namespace {
 template <typename TTransform>
 void ReplaceEach(TEntityArray& aEntities, const TTransform& aTransform) {
   for (TDXFEntity& entity : aEntities) entity = aTransform(entity);
+}
+
+/// As many entities as that many copies have at most; asked for before any is made, so that too many fail at once.
+std::size_t GetCopiedCount(const TEntityArray& aEntities, std::int32_t aCopies) {
+  return aEntities.size() * static_cast<std::size_t>(std::max(aCopies, 1));
 }
 
 }  // namespace
@@ -50,37 +57,44 @@ void TEntityStorage::Mirror(const TDXFEntity& aMirrorLine) {
 
 void TEntityStorage::DuplicateAroundAxis(std::int32_t aDuplications, std::int32_t aDuplications_Full, double aAngle,
                                          bool aSingular) {
-  const TEntityArray original = std::exchange(fEntityArray, {});
-  if (original.empty()) return;
-  for (std::int32_t k = 0; k < aDuplications; ++k) {
+  TEntityArray ring;
+  ring.reserve(GetCopiedCount(fEntityArray, aDuplications));
+  for (std::int32_t k = 0; k < aDuplications && !fEntityArray.empty(); ++k) {
     const double copy_angle = aAngle * k;
     const TRotationMatrix matrix = GetRotationMatrix(copy_angle);
-    for (const TDXFEntity& entity : original) {
-      const TDXFEntity copy = RotateEntity_AroundAxis(entity, matrix);
+    for (const TDXFEntity& entity : fEntityArray) {
+      TDXFEntity copy = RotateEntity_AroundAxis(entity, matrix);
       const bool included =
           aSingular || IncludeDuplicatedEntity(aDuplications, aDuplications_Full, k, copy_angle, aAngle, copy);
-      if (included) AddEntity(copy);
+      if (included) ring.push_back(std::move(copy));
     }
   }
+  fEntityArray = std::move(ring);
 }
 
 void TEntityStorage::DuplicateAlongAxis(std::int32_t aDuplications, double aDuplicationDistance) {
-  const TEntityArray original = fEntityArray;
-  if (original.empty()) return;
-  TEntityArray previous = original;
+  if (fEntityArray.empty() || aDuplications < 2) return;
+  TEntityArray row = fEntityArray;
+  row.reserve(GetCopiedCount(fEntityArray, aDuplications));
+  detail::TEntityRemovals removals(row);
+  std::size_t previous = 0;  // where the entities of the copy before begin; seams may have been marked removed there
   for (std::int32_t k = 1; k < aDuplications; ++k) {
-    TEntityArray current;
-    for (const TDXFEntity& entity : original) {
-      const TDXFEntity copy = TranslateEntity(entity, k * aDuplicationDistance, 0);
-      if (ContainsEntity(previous, copy)) {
-        RemoveEntityFromArray(copy);
+    const std::size_t current = row.size();
+    const detail::TEntityRange before{ToIndex(previous), ToIndex(current)};
+    TEntityArray added;
+    for (const TDXFEntity& entity : fEntityArray) {
+      TDXFEntity copy = TranslateEntity(entity, k * aDuplicationDistance, 0);
+      if (removals.HoldsWithin(before, copy)) {
+        removals.RemoveFirst(copy);
       } else {
-        TEntityArray_Helper::AddEntity(current, copy);
+        added.push_back(std::move(copy));
       }
     }
-    AddEntities(current);
-    previous = std::move(current);
+    removals.Append(std::move(added));
+    previous = current;
   }
+  removals.Finish();
+  fEntityArray = std::move(row);
 }
 
 }  // namespace GeometryEngine

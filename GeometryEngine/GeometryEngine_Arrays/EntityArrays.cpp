@@ -1,5 +1,6 @@
 #include "GeometryEngine/GeometryEngine_Arrays/EntityArrays.h"
 
+#include "GeometryEngine/GeometryEngine_Arrays/detail/DistinctEntities.h"
 #include "GeometryEngine/GeometryEngine_Arrays/detail/RingOrder.h"
 
 namespace GeometryEngine {
@@ -34,9 +35,7 @@ void RemoveEntity(TEntityArray& aEntities, const TDXFEntity& aEntity) {
 void AddEntities_CheckDuplicate(TEntityArray& aEntities, std::span<const TDXFEntity> aArray) {
   // Copied first: aArray may be a view of aEntities itself.
   const TEntityArray candidates(aArray.begin(), aArray.end());
-  for (const TDXFEntity& candidate : candidates) {
-    if (!ContainsEntity(aEntities, candidate)) AddEntity(aEntities, candidate);
-  }
+  detail::TDistinctEntities(aEntities).Add(candidates);
 }
 
 TDXFEntity GetEntity_Next(std::span<const TDXFEntity> aEntities, TIndex aIndex) {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "GeometryEngine/GeometryEngine_Arrays/EntityArrays.h"
+#include "GeometryEngine/GeometryEngine_Arrays/detail/DistinctEntities.h"
 
 namespace GeometryEngine {
 
@@ -17,9 +17,9 @@ std::unique_ptr<TTreeNode_Base> NewNode(TTree_Base& aTree) {
   return std::make_unique<TTreeNode_Geometry>(&aTree);
 }
 
-void AddChains(TEntityArray& aEntities, const TTreeNode_Geometry& aRegion) {
-  AddEntities_CheckDuplicate(aEntities, aRegion.Entities().EntityArray());
-  AddEntities_CheckDuplicate(aEntities, aRegion.Entities_Internal().EntityArray());
+void AddChains(detail::TDistinctEntities& aEntities, const TTreeNode_Geometry& aRegion) {
+  aEntities.Add(aRegion.Entities().EntityArray());
+  aEntities.Add(aRegion.Entities_Internal().EntityArray());
 }
 
 // A selected region of this kind ends the walk at itself: nothing below it is looked at.
@@ -152,12 +152,14 @@ void TTree_Geometry::Mirror(const TDXFEntity& aMirrorLine) {
 
 TEntityArray TTree_Geometry::GetEntities_NoDuplicates() const {
   TEntityArray entities;
-  for (const TTreeNode_Geometry* region : RegionsFrom(kFirstBelowRoot)) AddChains(entities, *region);
+  detail::TDistinctEntities distinct(entities);
+  for (const TTreeNode_Geometry* region : RegionsFrom(kFirstBelowRoot)) AddChains(distinct, *region);
   return entities;
 }
 
 TEntityArray TTree_Geometry::GetEntities_NoDuplicates(const TGeometryRegionTypesSet& aRegionTypes) const {
   TEntityArray entities;
+  detail::TDistinctEntities distinct(entities);
   TTreeNodeArray_Geometry pending;
   if (const TTreeNode_Geometry* root = GetRootNode()) PushChildren(pending, *root);
   while (!pending.empty()) {
@@ -165,7 +167,7 @@ TEntityArray TTree_Geometry::GetEntities_NoDuplicates(const TGeometryRegionTypes
     pending.pop_back();
     if (region.IsOfType_WithinSet(aRegionTypes)) {
       if (IsPassedOver(region)) continue;
-      AddChains(entities, region);
+      AddChains(distinct, region);
     }
     PushChildren(pending, region);
   }

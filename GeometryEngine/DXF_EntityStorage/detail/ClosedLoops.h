@@ -8,7 +8,7 @@ namespace GeometryEngine::detail {
 
 /// Puts pieces that make closed loops in order, loop by loop: each loop starts with the first piece that is left,
 /// walked from its start, and goes on with the first piece that touches. Empty when some piece belongs to no closed
-/// loop. COST: the square of the pieces.
+/// loop. COST: in proportion to the pieces, as long as few meet in one place.
 std::vector<TEntityArray> OrderIntoClosedLoops(TEntityArray aPieces);
 
 }  // namespace GeometryEngine::detail
