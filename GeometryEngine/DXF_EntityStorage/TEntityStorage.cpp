@@ -58,7 +58,10 @@ const TEntityArray& TEntityStorage::EntityArray() const {
 }
 
 void TEntityStorage::SetEntityFromIndex(TIndex aIndex, const TDXFEntity& aEntity) {
-  if (const PtrDXFEntity entity = GetEntityFromIndex_Pointer(aIndex)) *entity = aEntity;
+  const PtrDXFEntity entity = GetEntityFromIndex_Pointer(aIndex);
+  if (entity == nullptr) return;
+  TDXFEntity copy = aEntity;  // made first: a copy that fails leaves the entity whole
+  *entity = std::move(copy);
 }
 
 TIndex TEntityStorage::AddEntity(const TDXFEntity& aEntity) {

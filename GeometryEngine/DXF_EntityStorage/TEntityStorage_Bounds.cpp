@@ -38,9 +38,10 @@ void TEntityStorage::CalculateMinMaxValues() {
 }
 
 void TEntityStorage::CalculateMinMaxValues_RT() {
+  const TCoordinateArray polyline = GetVertices_Surf(true);
   fMin_R = fMin_T = kInfinity;
   fMax_R = fMax_T = -kInfinity;
-  for (const TEntityCoordinate& vertex : GetVertices_Surf(true)) {
+  for (const TEntityCoordinate& vertex : polyline) {
     const auto [r, angle] = XY_To_RT(vertex.x, vertex.y);
     fMax_R = std::max(fMax_R, r);
     fMax_T = std::max(fMax_T, angle);

@@ -14,9 +14,14 @@ namespace GeometryEngine {
 
 namespace {
 
+// Every image is made before the first record is overwritten, so that memory that runs out leaves all as it was; the
+// records stay in their places.
 template <typename TTransform>
 void ReplaceEach(TEntityArray& aEntities, const TTransform& aTransform) {
-  for (TDXFEntity& entity : aEntities) entity = aTransform(entity);
+  TEntityArray images;
+  images.reserve(aEntities.size());
+  for (const TDXFEntity& entity : aEntities) images.push_back(aTransform(entity));
+  std::ranges::move(images, aEntities.begin());
 }
 
 /// As many entities as that many copies have at most; asked for before any is made, so that too many fail at once.

@@ -19,6 +19,19 @@ std::ptrdiff_t ClampedPosition(TIndex aIndex, std::size_t aCount) {
   return std::clamp<std::ptrdiff_t>(aIndex, 0, static_cast<std::ptrdiff_t>(aCount));
 }
 
+// So that the next element cannot fail: it grows as the vector would by itself.
+template <typename T>
+void MakeRoomForOne(std::vector<T>& aElements) {
+  if (aElements.size() == aElements.capacity()) aElements.reserve(2 * aElements.size() + 1);
+}
+
+// The node that a walk to the leaves takes next; it leaves its parent's list.
+TTreeNode* TakeLast(std::vector<TTreeNode*>& aChildren) {
+  TTreeNode* last = aChildren.back();
+  aChildren.pop_back();
+  return last;
+}
+
 }  // namespace
 
 TEntityTree::TEntityTree(std::string_view aName) : fTreeName(aName) {
@@ -40,8 +53,12 @@ TTreeNode* TEntityTree::AddTreeNode(TTreeNode* aParentNode) {
 
 TTreeNode* TEntityTree::AddTreeNode_AtIndex(TTreeNode* aParentNode, TIndex aIndex) {
   if (aParentNode == nullptr || aParentNode->ftree != this) return nullptr;
-  TTreeNode* node = fOwnedNodes.emplace_back(std::make_unique<TTreeNode>(this)).get();
+  auto owned = std::make_unique<TTreeNode>(this);
+  TTreeNode* node = owned.get();
+  MakeRoomForOne(fOwnedNodes);
+  MakeRoomForOne(fTreeNodes);
   AttachChild(*aParentNode, *node, aIndex);
+  fOwnedNodes.push_back(std::move(owned));
   fTreeNodes.push_back(node);
   return node;
 }
@@ -66,6 +83,7 @@ void TEntityTree::RemoveTreeNode(TTreeNode* aNode, bool aRemoveChildren) {
   const auto entry = std::find(fTreeNodes.begin(), fTreeNodes.end(), aNode);
   if (entry == fTreeNodes.end() || aNode == fRootNode.get()) return;
   TTreeNode& parent = *aNode->fParent;
+  if (!aRemoveChildren) parent.fChildren.reserve(parent.fChildren.size() + aNode->fChildren.size());
   std::erase(parent.fChildren, aNode);
   parent.fNumChildNodes = ToIndex(parent.fChildren.size());
   if (!aRemoveChildren) HandChildrenTo(parent, *aNode);
@@ -81,15 +99,20 @@ void TEntityTree::HandChildrenTo(TTreeNode& aParentNode, TTreeNode& aNode) {
 
 void TEntityTree::ReleaseSubtree(TTreeNode& aNode) {
   if (fRemoveAll) return;
-  std::vector<TTreeNode*> released{&aNode};
-  for (std::size_t i = 0; i < released.size(); ++i) {
-    const std::vector<TTreeNode*>& children = released[i]->fChildren;
-    released.insert(released.end(), children.begin(), children.end());
+  // Leaf by leaf and without memory of its own, since a destructor gets here when memory has run out.
+  TIndex released = 0;
+  for (TTreeNode* node = &aNode; node != nullptr;) {
+    if (!node->fChildren.empty()) {
+      node = TakeLast(node->fChildren);
+      continue;
+    }
+    ++released;
+    node->ftree = nullptr;
+    node = node == &aNode ? nullptr : node->fParent;
   }
   // KEPT: every node below the released one is counted off twice, once for itself and once by its parent, so that
   // absolute indexes given out afterwards may repeat earlier ones; index arrays don't survive a removal anyway.
-  findex -= ToIndex(2 * released.size() - 1);
-  for (TTreeNode* node : released) node->ftree = nullptr;
+  findex -= 2 * released - 1;
   std::erase_if(fTreeNodes, [](const TTreeNode* node) { return node->ftree == nullptr; });
   std::erase_if(fOwnedNodes, [](const std::unique_ptr<TTreeNode>& node) { return node->ftree == nullptr; });
 }

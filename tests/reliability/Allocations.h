@@ -1,0 +1,31 @@
+#pragma once
+
+// The memory of this test program is counted, and can be made to run out: Allocations.cpp replaces operator new, for
+// the library too.
+
+#include <cstdint>
+
+namespace GeometryEngine::support {
+
+/// How many allocations of the process are not freed yet.
+std::int64_t LiveAllocations();
+
+/// How many allocations the calling thread has made.
+std::int64_t AllocationsOfThread();
+
+enum class TFailure { Once, ForGood };
+
+/// While it lives, the calling thread's allocation number `aNumber` (from 1) throws std::bad_alloc, alone or with all
+/// that come after it.
+class TFailingAllocation {
+ public:
+  TFailingAllocation(std::int64_t aNumber, TFailure aFailure);
+  ~TFailingAllocation();
+  TFailingAllocation(const TFailingAllocation&) = delete;
+  TFailingAllocation& operator=(const TFailingAllocation&) = delete;
+
+  /// Whether that many allocations have been asked for.
+  bool HasFailed() const;
+};
+
+}  // namespace GeometryEngine::support
