@@ -35,7 +35,13 @@ void RemoveEntity(TEntityArray& aEntities, const TDXFEntity& aEntity) {
 void AddEntities_CheckDuplicate(TEntityArray& aEntities, std::span<const TDXFEntity> aArray) {
   // Copied first: aArray may be a view of aEntities itself.
   const TEntityArray candidates(aArray.begin(), aArray.end());
-  detail::TDistinctEntities(aEntities).Add(candidates);
+  const std::size_t before = aEntities.size();
+  try {
+    detail::TDistinctEntities(aEntities).Add(candidates);
+  } catch (...) {
+    aEntities.resize(before);  // memory ran out: none of them is added
+    throw;
+  }
 }
 
 TDXFEntity GetEntity_Next(std::span<const TDXFEntity> aEntities, TIndex aIndex) {

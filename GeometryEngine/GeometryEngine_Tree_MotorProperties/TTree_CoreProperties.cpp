@@ -25,10 +25,12 @@ TTreeNode_CoreProperties* TTree_CoreProperties::GetNodeFromIndex(TIndex aIndex) 
 
 void TTree_CoreProperties::GetRegionsFromTypeSet(const TGeometryRegionTypesSet& aTypes,
                                                  TTreeNodeArray_CoreProperties& aRegions) const {
+  TTreeNodeArray_CoreProperties found;  // of its own: memory that runs out leaves the host's array as it was
   for (TIndex index = 0; index < GetCount(); ++index) {
     TTreeNode_CoreProperties* node = GetNodeFromIndex(index);
-    if (node != nullptr && node->IsOfType_WithinSet(aTypes)) aRegions.push_back(node);
+    if (node != nullptr && node->IsOfType_WithinSet(aTypes)) found.push_back(node);
   }
+  aRegions.insert(aRegions.end(), found.begin(), found.end());
 }
 
 TTreeNode_CoreProperties* TTree_CoreProperties::GetConductorRegionFromName(std::string_view aConductorName) const {

@@ -100,8 +100,8 @@ TTreeNode_Base* TTree_Base::AddNewTreeNode_AtIndex(std::unique_ptr<TTreeNode_Bas
 
 void TTree_Base::RemoveFreeTreeNode(TTreeNode_Base* aNode, bool aRemoveDescendants) {
   if (!IsMovable(aNode)) return;
+  const TTreeNodeArray_Base doomed = aRemoveDescendants ? CollectSubtree(aNode) : TTreeNodeArray_Base{aNode};
   if (!aRemoveDescendants) HandChildrenToParent(*aNode);
-  const TTreeNodeArray_Base doomed = CollectSubtree(aNode);
   Detach(aNode);
   TIndex first = GetCount();
   for (TTreeNode_Base* node : doomed) first = std::min(first, std::exchange(node->fTreeIndex, kNotFound));
@@ -113,6 +113,10 @@ void TTree_Base::RemoveFreeTreeNode(TTreeNode_Base* aNode, bool aRemoveDescendan
 
 void TTree_Base::MoveTreeNode(TTreeNode_Base* aNode, TTreeNode_Base* aNewParent) {
   if (!IsMovableTo(aNode, aNewParent)) return;
+  // Room for all that may come below the new parent, so that nothing fails once the children have been handed over.
+  MakeRoomForChild(*aNewParent);
+  aNewParent->fChildren.reserve(aNewParent->fChildren.size() + 1 +
+                                (aNewParent == aNode->fParent ? aNode->fChildren.size() : 0));
   HandChildrenToParent(*aNode);
   MoveTreeNode_Recursive(aNode, aNewParent);
 }

@@ -75,9 +75,9 @@ std::vector<TScenario> TreeScenarios() {
                      s.tree.AddNewTreeNode_AtIndex(node, 1);
                    }),
       On<TRegions>("RemoveFreeTreeNode", Unchanged, [](TRegions& s) { s.tree.RemoveFreeTreeNode(s.outer, true); }),
-      On<TRegions>("RemoveFreeTreeNode_KeepChildren", Usable,
+      On<TRegions>("RemoveFreeTreeNode_KeepChildren", Unchanged,
                    [](TRegions& s) { s.tree.RemoveFreeTreeNode(s.outer, false); }),
-      On<TRegions>("MoveTreeNode", Usable, [](TRegions& s) { s.tree.MoveTreeNode(s.outer, s.beside); }),
+      On<TRegions>("MoveTreeNode", Unchanged, [](TRegions& s) { s.tree.MoveTreeNode(s.outer, s.beside); }),
       On<TRegions>("MoveTreeNode_Recursive", Unchanged,
                    [](TRegions& s) { s.tree.MoveTreeNode_Recursive(s.outer, s.beside); }),
       On<TRegions>("SetRootNode", Unchanged,
@@ -86,7 +86,7 @@ std::vector<TScenario> TreeScenarios() {
                      s.tree.SetRootNode(node);
                    }),
       On<TRegions>("ClearTree", Usable, [](TRegions& s) { s.tree.Clear(); }),
-      On<TRegions>("GetRegionsFromTypeSet", Usable,
+      On<TRegions>("GetRegionsFromTypeSet", Unchanged,
                    [](TRegions& s) { s.tree.GetRegionsFromTypeSet(TGeometryRegionTypesSet::All(), s.found); }),
       On<TRegions>("GetEntities_NoDuplicates", Unchanged,
                    [](TRegions& s) { s.answer = s.tree.GetEntities_NoDuplicates(TGeometryRegionTypesSet::All()); }),
