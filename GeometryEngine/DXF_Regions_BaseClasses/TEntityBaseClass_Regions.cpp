@@ -1,7 +1,9 @@
 #include <algorithm>
 
+#include "GeometryEngine/DXF_Entity_Types/detail/TEntityIndex.h"
 #include "GeometryEngine/DXF_Regions_BaseClasses/TEntityBaseClass.h"
-#include "GeometryEngine/DXF_Regions_Detection/RegionTracing.h"
+#include "GeometryEngine/DXF_Regions_Detection/detail/TGraphWalk.h"
+#include "GeometryEngine/DXF_Regions_Detection/detail/TVertexGraph.h"
 
 namespace GeometryEngine {
 
@@ -10,14 +12,6 @@ namespace {
 constexpr std::int32_t kRegionType_All = 0;
 constexpr std::int32_t kRegionType_AntiClockwise = 1;
 constexpr std::int32_t kRegionType_Clockwise = 2;
-
-TRegionWalk Trace(TEntityTree& aTree, TTreeNode* aVertex, TTreeNode* aEntityEnd, bool aBacktracking) {
-  TRegionWalk walk;
-  walk.fStart = aVertex->Coordinates();
-  walk.fBacktracking = aBacktracking;
-  FindNextRegionEntity(aTree, aVertex, aEntityEnd, walk);
-  return walk;
-}
 
 bool IsWanted(double aArea, std::int32_t aRegionType) {
   if (aArea < 0) return aRegionType == kRegionType_All || aRegionType == kRegionType_Clockwise;
@@ -30,62 +24,95 @@ TIndex GetWalkedEntityIndex(const TEntityTree& aCoordinateTree, std::int32_t aNo
   return node == nullptr ? kNotFound : node->EntityIndex();
 }
 
-// True when the region is the same open chain, walked from its other end.
-bool IsReverseOf(const TEntityTree& aRegionTree, const TTreeNode& aRegion, const TEntityArray& aChain) {
-  const std::vector<TTreeNode*>& children = aRegion.Children();
-  return std::equal(
-      children.rbegin(), children.rend(), aChain.begin(), aChain.end(),
-      [&](const TTreeNode* child, const TDXFEntity& entity) { return aRegionTree.GetNodeEntity(*child) == entity; });
+// The region tree's node of a loop or chain, without its entities.
+TTreeNode* AddRegion(TEntityTree& aRegionTree, const TEntityCoordinate& aStart, const detail::TWalkSums& aSums) {
+  TTreeNode* region = aRegionTree.AddTreeNode_ToRoot();
+  region->Coordinates(aStart);
+  region->ResetRegionIdentifier();
+  region->GaussArea(aSums.fArea);
+  region->RegionCentroid(aSums.fCentroid);
+  region->TravelDirection(aSums.fArea >= 0 ? Travel_AntiClockwise : Travel_Clockwise);
+  return region;
 }
 
-bool IsChainKnown(const TEntityTree& aRegionTree, const TEntityTree& aCoordinateTree,
-                  std::span<const std::int32_t> aNodeIndexes) {
-  TEntityArray chain;
-  for (const std::int32_t index : aNodeIndexes) {
-    const TTreeNode* node = aCoordinateTree.GetNodeFromIndex(index);
-    chain.push_back(node == nullptr ? TDXFEntity{} : aCoordinateTree.GetNodeEntity(*node));
-  }
-  return std::ranges::any_of(aRegionTree.RootNode()->Children(),
-                             [&](const TTreeNode* region) { return IsReverseOf(aRegionTree, *region, chain); });
+void AddWalkedRegion(TEntityTree& aRegionTree, const detail::TVertexGraph& aGraph, const detail::TGraphWalk& aWalk,
+                     const detail::TWalkSums& aSums) {
+  const TEntityCoordinate& start = aGraph.From(aGraph.HalfEdge(aWalk.Path().front()));
+  TTreeNode* region = AddRegion(aRegionTree, start, aSums);
+  for (const TIndex h : aWalk.Path()) aRegionTree.AddTreeNode(region)->EntityIndex(aGraph.HalfEdge(h).fEntityIndex);
 }
+
+// The open chains found so far, to recognise one that is walked from its other end.
+class TKnownChains {
+ public:
+  TKnownChains(const TEntityTree& aRegionTree, const detail::TVertexGraph& aGraph)
+      : fRegionTree(aRegionTree), fGraph(aGraph) {}
+
+  bool HoldReverseOf(std::span<const TIndex> aPath) const {
+    bool isKnown = false;
+    fLastEntities.ForEachNear(EntityAt(aPath.front()), [&](TIndex region) {
+      isKnown = isKnown || IsReverse(*fRegionTree.RootNode()->GetNode(region), aPath);
+    });
+    return isKnown;
+  }
+
+  /// Takes in the chain that becomes the region tree's next region.
+  void Add(std::span<const TIndex> aPath) { fLastEntities.Add(EntityAt(aPath.back())); }
+
+ private:
+  const TDXFEntity& EntityAt(TIndex aHalfEdge) const { return fGraph.Entity(fGraph.HalfEdge(aHalfEdge)); }
+
+  bool IsReverse(const TTreeNode& aRegion, std::span<const TIndex> aPath) const {
+    const std::vector<TTreeNode*>& children = aRegion.Children();
+    return std::equal(children.rbegin(), children.rend(), aPath.begin(), aPath.end(),
+                      [this](const TTreeNode* child, TIndex halfEdge) {
+                        return fRegionTree.GetNodeEntity(*child) == EntityAt(halfEdge);
+                      });
+  }
+
+  const TEntityTree& fRegionTree;
+  const detail::TVertexGraph& fGraph;
+  detail::TEntityIndex fLastEntities;  // of the regions, in their order
+};
 
 }  // namespace
 
 void TEntityBaseClass::DetermineRegions(TEntityTree& aTree, std::int32_t aRegionType) {
   fRegionTree.Clear();
   fRegionTree.pEntityStorage(aTree.pEntityStorage());
-  for (TTreeNode* vertex : aTree.RootNode()->Children()) {
-    if (vertex->Count() < 2) continue;  // a dangling end starts no closed loop
-    for (TTreeNode* entityEnd : vertex->Children()) {
-      if (entityEnd->Travelled()) continue;
-      const TRegionWalk walk = Trace(aTree, vertex, entityEnd, true);
-      if (!IsWanted(walk.fArea, aRegionType)) continue;
-      AddRegionCoordinates(aTree, walk.fPath, vertex->Coordinates(), walk.fCentroid, walk.fArea);
-    }
+  const detail::TVertexGraph graph(aTree);
+  detail::TGraphWalk walk(graph);
+  for (TIndex h = 0; h < graph.HalfEdgeCount(); ++h) {
+    if (walk.IsTravelled(h) || graph.IsDangling(graph.HalfEdge(h).fVertex)) continue;
+    walk.Walk(h, true);
+    if (!walk.HasClosed()) continue;
+    const detail::TWalkSums sums = walk.GetSums();
+    if (IsWanted(sums.fArea, aRegionType)) AddWalkedRegion(fRegionTree, graph, walk, sums);
   }
+  walk.WriteMarks();
 }
 
 void TEntityBaseClass::DetectOrphanEntities(TEntityTree& aTree) {
   fRegionTree.Clear();
   fRegionTree.pEntityStorage(aTree.pEntityStorage());
-  for (TTreeNode* vertex : aTree.RootNode()->Children()) {
-    if (vertex->Count() != 1) continue;
-    const TRegionWalk walk = Trace(aTree, vertex, vertex->GetNode(0), false);
-    if (IsChainKnown(fRegionTree, aTree, walk.fPath)) continue;
-    AddRegionCoordinates(aTree, walk.fPath, vertex->Coordinates(), walk.fCentroid, walk.fArea);
+  const detail::TVertexGraph graph(aTree);
+  detail::TGraphWalk walk(graph);
+  TKnownChains known(fRegionTree, graph);
+  for (TIndex h = 0; h < graph.HalfEdgeCount(); ++h) {
+    if (!graph.IsDangling(graph.HalfEdge(h).fVertex)) continue;
+    walk.Walk(h, false);
+    if (known.HoldReverseOf(walk.Path())) continue;
+    known.Add(walk.Path());
+    AddWalkedRegion(fRegionTree, graph, walk, walk.GetSums());
   }
+  walk.WriteMarks();
 }
 
 void TEntityBaseClass::AddRegionCoordinates(const TEntityTree& aCoordinateTree,
                                             std::span<const std::int32_t> aNodeIndexes, const TEntityCoordinate& aStart,
                                             const TEntityCoordinate& aCentroid, double aArea) {
   if (aNodeIndexes.empty()) return;
-  TTreeNode* region = fRegionTree.AddTreeNode_ToRoot();
-  region->Coordinates(aStart);
-  region->ResetRegionIdentifier();
-  region->GaussArea(aArea);
-  region->RegionCentroid(aCentroid);
-  region->TravelDirection(aArea >= 0 ? Travel_AntiClockwise : Travel_Clockwise);
+  TTreeNode* region = AddRegion(fRegionTree, aStart, {aCentroid, aArea});
   for (const std::int32_t index : aNodeIndexes) {
     fRegionTree.AddTreeNode(region)->EntityIndex(GetWalkedEntityIndex(aCoordinateTree, index));
   }

@@ -1,22 +1,17 @@
 #include "GeometryEngine/DXF_Regions_Detection/RegionTracing.h"
 
 #include "GeometryEngine/DXF_EntityStorage/EntityEnds.h"
-#include "GeometryEngine/DXF_Regions_Utilities/EntityTerms.h"
-#include "GeometryEngine/GeometryEngine_Entity_Operations/PointTests.h"
-#include "GeometryEngine/host/Numerics.h"
+#include "GeometryEngine/DXF_Regions_Detection/detail/WalkRule.h"
 
 namespace GeometryEngine {
 
 namespace {
 
-constexpr double kBelowEveryTurn = -1e12;  // degrees; the first candidate at a vertex beats it
-constexpr std::int32_t kVector_Arriving = 0;
-constexpr std::int32_t kVector_Leaving = 1;
-
-// The half-edge that a walk takes next and the vertex that it leaves; without a half-edge the walk is over.
-struct TWalkStep {
+// A half-edge and the vertex that it leaves.
+struct TStep {
   TTreeNode* fVertex = nullptr;
   TTreeNode* fEntityEnd = nullptr;
+  bool operator==(const TStep&) const = default;
 };
 
 // The entity just walked, from the vertex that was left to its far end.
@@ -26,13 +21,6 @@ struct TWalkedEntity {
   TEntityCoordinate fFarEnd;
 };
 
-// A half-edge that leaves the vertex just reached.
-struct TTurn {
-  TTreeNode* fEntityEnd = nullptr;
-  TEntityCoordinate fFarEnd;
-  double fAngle = kBelowEveryTurn;
-};
-
 // A sign of -1 takes back what a sign of +1 has added.
 void AddTerms(const TWalkedEntity& aWalked, double aSign, TRegionWalk& aWalk) {
   const auto& [entity, from, farEnd] = aWalked;
@@ -40,116 +28,112 @@ void AddTerms(const TWalkedEntity& aWalked, double aSign, TRegionWalk& aWalk) {
   aWalk.fArea = aWalk.fArea + aSign * GetSignedArea_Entity(from, farEnd, entity);
 }
 
-TTurn GetTurn(const TEntityTree& aTree, TTreeNode* aCandidate, const TEntityCoordinate& aVertex,
-              const TVector_Single& aArriving) {
-  const TDXFEntity& entity = aTree.GetNodeEntity(*aCandidate);
-  const TEntityCoordinate farEnd = GetEntityEndCoordinate(aVertex, entity);
-  const TVector_Single leaving = GetEntityVector(aVertex, farEnd, entity, kVector_Leaving);
-  return {aCandidate, farEnd, GetAngleBetweenVectors(aArriving, leaving) * kDegreesPerRadian};
-}
+// A walk from node to node of a tree, on behalf of a host, who keeps its state.
+class TTreeWalk {
+ public:
+  static constexpr TStep kNone{};
 
-bool IsSharper(const TTurn& aTurn, const TTurn& aBest, const TEntityCoordinate& aVertex) {
-  if (aTurn.fAngle > aBest.fAngle) return true;
-  return aTurn.fAngle == aBest.fAngle && IsPointLeft_Line(aTurn.fFarEnd, aVertex, aBest.fFarEnd) > 0;
-}
+  TTreeWalk(TEntityTree& aTree, TRegionWalk& aWalk) : fTree(aTree), fWalk(aWalk) {}
 
-// Among the half-edges free to take, the one with the sharpest left turn; none at a vertex without one.
-TTurn FindSharpestTurn(const TEntityTree& aTree, const TTreeNode* aVertex, const TWalkedEntity& aWalked) {
-  TTurn best;
-  if (aVertex == nullptr) return best;
-  const auto& [entity, from, farEnd] = aWalked;
-  const TVector_Single arriving = GetEntityVector(from, farEnd, entity, kVector_Arriving);
-  for (TTreeNode* candidate : aVertex->Children()) {
-    if (aTree.GetNodeEntity(*candidate) == entity || candidate->Travelled()) continue;
-    const TTurn turn = GetTurn(aTree, candidate, farEnd, arriving);
-    if (IsSharper(turn, best, farEnd)) best = turn;
+  void Enter(const TStep& aStep) {
+    fLast = aStep;
+    Mark(*aStep.fEntityEnd);
+    fReached = fTree.Search_L1_Coords(Walked(aStep).fFarEnd);
+    AddTerms(Walked(aStep), 1, fWalk);
   }
-  return best;
-}
 
-void MarkWalked(TTreeNode& aEntityEnd, TRegionWalk& aWalk) {
-  aEntityEnd.Travelled(true);
-  aWalk.fPath.push_back(aEntityEnd.AbsoluteIndex());
-}
-
-void FreeBlocked(TEntityTree& aTree, const TRegionWalk& aWalk) {
-  for (const std::int32_t index : aWalk.fBlocked) aTree.ResetTravelledFlag(index);
-}
-
-void CloseLoop(TEntityTree& aTree, const TTurn& aLast, const TEntityCoordinate& aVertex, TRegionWalk& aWalk) {
-  if (aWalk.fBacktracking) FreeBlocked(aTree, aWalk);
-  MarkWalked(*aLast.fEntityEnd, aWalk);
-  AddTerms({aTree.GetNodeEntity(*aLast.fEntityEnd), aVertex, aLast.fFarEnd}, 1, aWalk);
-  aWalk.fCentroid = (1 / (aWalk.fArea * 6)) * aWalk.fCentroid;
-}
-
-// The half-edge walked before the last one, or none when the walk stands at its start.
-TWalkStep GetPreviousStep(const TEntityTree& aTree, const TRegionWalk& aWalk) {
-  if (aWalk.fPath.size() < 2) return {};
-  TTreeNode* previous = aTree.GetNodeFromIndex(aWalk.fPath[aWalk.fPath.size() - 2]);
-  if (previous == nullptr || previous->Parent() == nullptr) return {};
-  return {previous->Parent(), previous};
-}
-
-TWalkStep StepBack(TEntityTree& aTree, const TWalkedEntity& aWalked, TRegionWalk& aWalk) {
-  if (aWalk.fPath.empty()) return {};
-  aWalk.fBacktracking = true;
-  aWalk.fBlocked.push_back(aWalk.fPath.back());
-  const TWalkStep previous = GetPreviousStep(aTree, aWalk);
-  if (previous.fEntityEnd == nullptr) {
-    FreeBlocked(aTree, aWalk);
-    aWalk.fPath.clear();
-    return {};
+  detail::TTurn<TStep> FindSharpestTurn() const {
+    detail::TTurn<TStep> best;
+    if (fReached == nullptr) return best;
+    const auto& [entity, from, vertex] = Walked(fLast);
+    const TVector_Single arriving = GetEntityVector(from, vertex, entity, detail::kVector_Arriving);
+    for (TTreeNode* candidate : fReached->Children()) {
+      const TDXFEntity& next = fTree.GetNodeEntity(*candidate);
+      if (next == entity || candidate->Travelled()) continue;
+      const TEntityCoordinate farEnd = GetEntityEndCoordinate(vertex, next);
+      const double angle = detail::GetTurnAngle(arriving, vertex, farEnd, next);
+      const detail::TTurn<TStep> turn{{fReached, candidate}, farEnd, angle};
+      if (IsSharper(turn, best, vertex)) best = turn;
+    }
+    return best;
   }
-  const TDXFEntity& entity = aTree.GetNodeEntity(*previous.fEntityEnd);
-  const TEntityCoordinate from = previous.fVertex->Coordinates();
-  AddTerms(aWalked, -1, aWalk);
-  AddTerms({entity, from, GetEntityEndCoordinate(from, entity)}, -1, aWalk);
-  aWalk.fPath.resize(aWalk.fPath.size() - 2);
-  return previous;
-}
 
-TWalkStep WalkOn(TEntityTree& aTree, const TWalkStep& aStep, TRegionWalk& aWalk) {
-  const TDXFEntity& entity = aTree.GetNodeEntity(*aStep.fEntityEnd);
-  const TEntityCoordinate from = aStep.fVertex->Coordinates();
-  const TWalkedEntity walked{entity, from, GetEntityEndCoordinate(from, entity)};
-  MarkWalked(*aStep.fEntityEnd, aWalk);
-  TTreeNode* vertex = aTree.Search_L1_Coords(walked.fFarEnd);
-  AddTerms(walked, 1, aWalk);
-
-  const TTurn best = FindSharpestTurn(aTree, vertex, walked);
-  const bool deadEnd = best.fEntityEnd == nullptr;
-  if (deadEnd && !aWalk.fBacktracking) return {};
-  if (deadEnd) return StepBack(aTree, walked, aWalk);
-  if (aWalk.fBacktracking && IsEntityInRegionPath(aTree, aWalk.fPath, best.fEntityEnd->EntityIndex())) {
-    return StepBack(aTree, walked, aWalk);
+  bool Backtracks() const { return fWalk.fBacktracking; }
+  bool IsStart(const TEntityCoordinate& aPoint) const { return aPoint == fWalk.fStart; }
+  bool IsOnPath(const TStep& aStep) const {
+    return IsEntityInRegionPath(fTree, fWalk.fPath, aStep.fEntityEnd->EntityIndex());
   }
-  // KEPT: a loop closes where it first comes back to its start. One that passes a vertex twice is traced as a whole
-  // from every other vertex, but falls apart at that one; hosts index regions by what this rule yields.
-  if (best.fFarEnd == aWalk.fStart) {
-    CloseLoop(aTree, best, walked.fFarEnd, aWalk);
-    return {};
-  }
-  return {vertex, best.fEntityEnd};
-}
 
-// Ends for every input. A step forwards marks a half-edge that was free, and no mark is taken back before the walk
-// is over, so there are at most as many of them as half-edges. A step back shortens the path by one, so there are at
-// most as many of those as steps forwards. Neither argument rests on a comparison of coordinates.
-void WalkToEnd(TEntityTree& aTree, TWalkStep aStep, TRegionWalk& aWalk) {
-  while (aStep.fEntityEnd != nullptr) aStep = WalkOn(aTree, aStep, aWalk);
-}
+  void Close(const detail::TTurn<TStep>& aTurn) {
+    if (fWalk.fBacktracking) FreeBlocked();
+    const TStep& last = aTurn.fHalfEdge;
+    Mark(*last.fEntityEnd);
+    AddTerms({fTree.GetNodeEntity(*last.fEntityEnd), Walked(fLast).fFarEnd, aTurn.fFarEnd}, 1, fWalk);
+    fWalk.fCentroid = (1 / (fWalk.fArea * 6)) * fWalk.fCentroid;
+  }
+
+  TStep StepBack() { return StepBackFrom(Walked(fLast)); }
+
+  TStep StepBackFrom(const TWalkedEntity& aWalked) {
+    if (fWalk.fPath.empty()) return kNone;
+    fWalk.fBacktracking = true;
+    fWalk.fBlocked.push_back(fWalk.fPath.back());
+    const TStep previous = GetPrevious();
+    if (previous == kNone) {
+      FreeBlocked();
+      fWalk.fPath.clear();
+      return kNone;
+    }
+    AddTerms(aWalked, -1, fWalk);
+    AddTerms(Walked(previous), -1, fWalk);
+    fWalk.fPath.resize(fWalk.fPath.size() - 2);
+    return previous;
+  }
+
+ private:
+  TWalkedEntity Walked(const TStep& aStep) const {
+    const TDXFEntity& entity = fTree.GetNodeEntity(*aStep.fEntityEnd);
+    const TEntityCoordinate from = aStep.fVertex->Coordinates();
+    return {entity, from, GetEntityEndCoordinate(from, entity)};
+  }
+
+  void Mark(TTreeNode& aEntityEnd) {
+    aEntityEnd.Travelled(true);
+    fWalk.fPath.push_back(aEntityEnd.AbsoluteIndex());
+  }
+
+  void FreeBlocked() {
+    for (const std::int32_t index : fWalk.fBlocked) fTree.ResetTravelledFlag(index);
+  }
+
+  // The half-edge walked before the last one, or none when the walk stands at its start.
+  TStep GetPrevious() const {
+    if (fWalk.fPath.size() < 2) return kNone;
+    TTreeNode* previous = fTree.GetNodeFromIndex(fWalk.fPath[fWalk.fPath.size() - 2]);
+    if (previous == nullptr || previous->Parent() == nullptr) return kNone;
+    return {previous->Parent(), previous};
+  }
+
+  TEntityTree& fTree;
+  TRegionWalk& fWalk;
+  TStep fLast;                    // the half-edge entered last
+  TTreeNode* fReached = nullptr;  // the vertex at its far end
+};
 
 }  // namespace
 
 void FindNextRegionEntity(TEntityTree& aTree, TTreeNode* aVertex, TTreeNode* aEntityEnd, TRegionWalk& aWalk) {
-  if (aVertex != nullptr) WalkToEnd(aTree, {aVertex, aEntityEnd}, aWalk);
+  if (aVertex == nullptr || aEntityEnd == nullptr) return;
+  TTreeWalk walk(aTree, aWalk);
+  detail::WalkToEnd(walk, TStep{aVertex, aEntityEnd});
 }
 
 void StepBackRegionEntity(TEntityTree& aTree, TTreeNode* aVertex, const TEntityCoordinate& aFarEnd,
                           const TDXFEntity& aEntity, TRegionWalk& aWalk) {
   if (aVertex == nullptr) return;
-  WalkToEnd(aTree, StepBack(aTree, {aEntity, aVertex->Coordinates(), aFarEnd}, aWalk), aWalk);
+  TTreeWalk walk(aTree, aWalk);
+  const TStep previous = walk.StepBackFrom({aEntity, aVertex->Coordinates(), aFarEnd});
+  detail::WalkToEnd(walk, previous);
 }
 
 bool IsEntityInRegionPath(const TEntityTree& aTree, std::span<const std::int32_t> aPath, TIndex aEntityIndex) {

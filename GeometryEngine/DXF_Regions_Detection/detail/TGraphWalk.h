@@ -1,0 +1,85 @@
+#pragma once
+
+// A walk through a vertex graph that was read into arrays, for passes of many walks. Private; FindNextRegionEntity is
+// the same walk through the tree itself.
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "GeometryEngine/DXF_Regions_Detection/detail/TVertexGraph.h"
+#include "GeometryEngine/DXF_Regions_Detection/detail/WalkRule.h"
+
+namespace GeometryEngine::detail {
+
+/// What the entities along a walk add up to.
+struct TWalkSums {
+  TEntityCoordinate fCentroid;  ///< the bare sum until it is divided by six times the area
+  double fArea = 0;
+};
+
+/// Walks one after the other through one graph. Marks of travel are kept here from walk to walk, and taken over from
+/// the tree at first; they are the walk's own until `WriteMarks` puts them into the tree.
+///
+/// REQUIRES: a graph that outlives the walk.
+class TGraphWalk {
+ public:
+  static constexpr TIndex kNone = kNotFound;
+
+  explicit TGraphWalk(const TVertexGraph& aGraph);
+
+  /// Walks from a half-edge on, by the rules of FindNextRegionEntity.
+  void Walk(TIndex aHalfEdge, bool aBacktracking);
+
+  /// The half-edges of the last walk, in order; none when it was stepped back to its start.
+  std::span<const TIndex> Path() const { return fPath; }
+  /// True when the last walk closed a loop.
+  bool HasClosed() const { return fHasClosed; }
+  /// The sums of the last walk, in the order of its steps to and fro, as the bits depend on it. Of a loop that has
+  /// closed the centroid is divided.
+  TWalkSums GetSums() const;
+
+  bool IsTravelled(TIndex aHalfEdge) const { return fIsTravelled[At(aHalfEdge)] != 0; }
+  void WriteMarks() const;
+
+  // The rules' view of the walk (WalkRule.h) --------------------------------------------------------------------------
+
+  void Enter(TIndex aHalfEdge);
+  TTurn<TIndex> FindSharpestTurn();
+  bool IsOnPath(TIndex aHalfEdge) const;
+  bool IsStart(const TEntityCoordinate& aPoint) const;
+  void Close(const TTurn<TIndex>& aLast);
+  TIndex StepBack();
+  bool Backtracks() const { return fBacktracks; }
+
+ private:
+  static std::size_t At(TIndex aIndex) { return static_cast<std::size_t>(aIndex); }
+  void PutOnPath(TIndex aHalfEdge);
+  void TakeOffPath(TIndex aHalfEdge);
+  void FreeBlocked();
+  bool MayTake(TIndex aCandidate, TIndex aLast) const;
+  bool IsSameEntity(TIndex aCandidate, TIndex aLast) const;
+  TIndex FindClearlySharpest(TIndex aLast);
+  TTurn<TIndex> FindByAngle(TIndex aLast) const;
+  double GetClearTurn(TIndex aLast, TIndex aCandidate);
+  double DirectionLeaving(TIndex aHalfEdge);
+  double DirectionArriving(TIndex aHalfEdge);
+  double GetDirection(TIndex aHalfEdge, std::int32_t aMode) const;
+
+  const TVertexGraph& fGraph;
+  std::vector<std::uint8_t> fIsTravelled;   // by half-edge
+  std::vector<std::uint32_t> fTimesOnPath;  // by entity
+  std::vector<double> fLeaving;             // by half-edge, unknown until it is asked for
+  std::vector<double> fArriving_Arcs;       // the same
+
+  TEntityCoordinate fStart;
+  bool fBacktracks = false;
+  bool fHasClosed = false;
+  std::vector<TIndex> fPath;
+  std::vector<TIndex> fBlocked;
+  std::vector<TIndex> fSteps;     // half-edges whose terms were added, and the complements of those taken out again
+  TEntityCoordinate fLastVertex;  // where the loop's last half-edge begins,
+  TEntityCoordinate fLastFarEnd;  // and where it ends
+};
+
+}  // namespace GeometryEngine::detail

@@ -1,0 +1,163 @@
+#include "GeometryEngine/DXF_Regions_Detection/detail/TVertexGraph.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "GeometryEngine/DXF_EntityStorage/detail/OtherEnd.h"
+#include "GeometryEngine/DXF_Entity_Types/detail/TPointIndex.h"
+
+namespace GeometryEngine::detail {
+
+namespace {
+
+constexpr double kLargestTame = 1e150;  // products of two such numbers stay finite
+
+bool IsTame(double aValue) {
+  return std::abs(aValue) < kLargestTame;
+}
+
+bool IsTame(const TEntityCoordinate& aPoint) {
+  return IsTame(aPoint.x) && IsTame(aPoint.y);
+}
+
+bool IsTameArc(const TDXFEntity& aArc) {
+  return IsTame(aArc.CentreCoords) && IsTame(aArc.radius) && IsTame(aArc.startAngle) && IsTame(aArc.endAngle);
+}
+
+bool HasSameBits(const TEntityCoordinate& aPoint_A, const TEntityCoordinate& aPoint_B) {
+  return aPoint_A.x == aPoint_B.x && aPoint_A.y == aPoint_B.y && std::signbit(aPoint_A.x) == std::signbit(aPoint_B.x) &&
+         std::signbit(aPoint_A.y) == std::signbit(aPoint_B.y);
+}
+
+std::span<const TDXFEntity> EntitiesOf(const TEntityTree& aTree) {
+  const TEntityStorage* storage = aTree.pEntityStorage();
+  return storage == nullptr ? std::span<const TDXFEntity>{} : std::span<const TDXFEntity>(storage->EntityArray());
+}
+
+// The vertices of a graph, searched for the first one that is the same as a point.
+class TVertexSearch {
+ public:
+  explicit TVertexSearch(std::span<const TEntityCoordinate> aPoints) {
+    fIndex.Reserve(aPoints.size());
+    for (const TEntityCoordinate& point : aPoints) fIndex.Add(point);
+    fFirstSame.reserve(aPoints.size());
+    for (const TEntityCoordinate& point : aPoints) fFirstSame.push_back(fIndex.FindFirst(point));
+  }
+
+  /// The first vertex that is the same as this one.
+  TIndex FindFirst(TIndex aVertex) const { return fFirstSame[static_cast<std::size_t>(aVertex)]; }
+  TIndex FindFirst(const TEntityCoordinate& aPoint) const { return fIndex.FindFirst(aPoint); }
+  /// True when each vertex is the same as itself and no other.
+  bool AreAllApart() const {
+    for (TIndex v = 0; v < fIndex.Count(); ++v) {
+      if (FindFirst(v) != v) return false;
+    }
+    return true;
+  }
+
+ private:
+  TPointIndex fIndex;
+  std::vector<TIndex> fFirstSame;
+};
+
+// The two half-edges of each entity.
+class TTwins {
+ public:
+  TTwins(std::span<const THalfEdge> aHalfEdges, std::size_t aEntities)
+      : fSums(aEntities, 0), fCounts(aEntities, std::uint8_t{0}) {
+    for (std::size_t h = 0; h < aHalfEdges.size(); ++h) {
+      const TIndex entity = aHalfEdges[h].fEntityIndex;
+      if (IsIndexWithin(entity, aEntities)) Add(static_cast<std::size_t>(entity), static_cast<std::uint32_t>(h));
+    }
+  }
+
+  /// The other half-edge of the entity; kNotFound unless it has exactly two.
+  TIndex Of(TIndex aHalfEdge, TIndex aEntityIndex) const {
+    if (!IsIndexWithin(aEntityIndex, fCounts.size())) return kNotFound;
+    const auto entity = static_cast<std::size_t>(aEntityIndex);
+    return fCounts[entity] == 2 ? static_cast<TIndex>(fSums[entity] - static_cast<std::uint32_t>(aHalfEdge))
+                                : kNotFound;
+  }
+
+ private:
+  void Add(std::size_t aEntity, std::uint32_t aHalfEdge) {
+    fSums[aEntity] += aHalfEdge;
+    fCounts[aEntity] = static_cast<std::uint8_t>(std::min(fCounts[aEntity] + 1, 3));
+  }
+
+  std::vector<std::uint32_t> fSums;   // of the numbers of an entity's half-edges
+  std::vector<std::uint8_t> fCounts;  // of them, three standing for more
+};
+
+}  // namespace
+
+TVertexGraph::TVertexGraph(const TEntityTree& aTree) : fEntities(EntitiesOf(aTree)), fTolerance(ReadLinearTolerance()) {
+  ReadTree(aTree);
+  FindFarVertices();
+}
+
+void TVertexGraph::ReadTree(const TEntityTree& aTree) {
+  const std::vector<TTreeNode*>& vertices = aTree.RootNode()->Children();
+  fPoints.reserve(vertices.size());
+  fFirst.reserve(vertices.size() + 1);
+  fHalfEdges.reserve(2 * fEntities.size());
+  fNodes.reserve(2 * fEntities.size());
+  for (TTreeNode* vertex : vertices) {
+    fFirst.push_back(HalfEdgeCount());
+    for (TTreeNode* node : vertex->Children()) {
+      THalfEdge& halfEdge = fHalfEdges.emplace_back();
+      halfEdge.fVertex = ToIndex(fPoints.size());
+      halfEdge.fEntityIndex = node->EntityIndex();
+      fNodes.push_back(node);
+    }
+    fPoints.push_back(vertex->Coordinates());
+  }
+  fFirst.push_back(HalfEdgeCount());
+}
+
+void TVertexGraph::FindFarVertices() {
+  const TVertexSearch search(fPoints);
+  const TTwins twins(fHalfEdges, fEntities.size());
+  fIsRegular = search.AreAllApart();
+  for (TIndex h = 0; h < HalfEdgeCount(); ++h) {
+    THalfEdge& halfEdge = fHalfEdges[At(h)];
+    const TEntityCoordinate farEnd = FarEndFrom(From(halfEdge), halfEdge);
+    const TIndex twin = twins.Of(h, halfEdge.fEntityIndex);
+    const bool leadsToTwin = twin != kNotFound && HasSameBits(From(HalfEdge(twin)), farEnd);
+    halfEdge.fFarVertex = leadsToTwin ? search.FindFirst(HalfEdge(twin).fVertex) : search.FindFirst(farEnd);
+    halfEdge.fIsLine = Entity(halfEdge).EntityType == DXFLine;
+    halfEdge.fIsExact = IsExact(halfEdge, farEnd);
+    fIsRegular = fIsRegular && leadsToTwin && halfEdge.fIsExact && JoinsVertices(halfEdge);
+  }
+}
+
+bool TVertexGraph::IsExact(const THalfEdge& aHalfEdge, const TEntityCoordinate& aFarEnd) const {
+  if (aHalfEdge.fFarVertex == kNotFound || !HasSameBits(Point(aHalfEdge.fFarVertex), aFarEnd)) return false;
+  const TDXFEntity& entity = Entity(aHalfEdge);
+  if (!IsTame(entity.StartCoords) || !IsTame(entity.EndCoords)) return false;
+  return aHalfEdge.fIsLine || (entity.EntityType == DXFArc && IsTameArc(entity));
+}
+
+// Whether the piece's own ends are the half-edge's two vertices. REQUIRES: an exact half-edge.
+bool TVertexGraph::JoinsVertices(const THalfEdge& aHalfEdge) const {
+  const TDXFEntity& entity = Entity(aHalfEdge);
+  const TEntityCoordinate& from = From(aHalfEdge);
+  const TEntityCoordinate& farEnd = Point(aHalfEdge.fFarVertex);
+  return (HasSameBits(entity.StartCoords, from) && HasSameBits(entity.EndCoords, farEnd)) ||
+         (HasSameBits(entity.EndCoords, from) && HasSameBits(entity.StartCoords, farEnd));
+}
+
+const TDXFEntity& TVertexGraph::Entity(const THalfEdge& aHalfEdge) const {
+  static const TDXFEntity empty;
+  return IsIndexWithin(aHalfEdge.fEntityIndex, fEntities.size()) ? fEntities[At(aHalfEdge.fEntityIndex)] : empty;
+}
+
+TEntityCoordinate TVertexGraph::FarEnd(const THalfEdge& aHalfEdge) const {
+  return aHalfEdge.fIsExact ? Point(aHalfEdge.fFarVertex) : FarEndFrom(From(aHalfEdge), aHalfEdge);
+}
+
+TEntityCoordinate TVertexGraph::FarEndFrom(const TEntityCoordinate& aPoint, const THalfEdge& aHalfEdge) const {
+  return GetOtherEnd(aPoint, Entity(aHalfEdge), fTolerance);
+}
+
+}  // namespace GeometryEngine::detail

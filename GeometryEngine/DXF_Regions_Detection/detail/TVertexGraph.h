@@ -1,0 +1,76 @@
+#pragma once
+
+// A coordinate tree, read once into arrays for a pass that walks through all of it. Private.
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
+#include "GeometryEngine/DXF_Regions_TreeClasses/TEntityTree.h"
+#include "GeometryEngine/host/TIndex.h"
+
+namespace GeometryEngine::detail {
+
+/// One end of a piece: what leaves a vertex.
+struct THalfEdge {
+  TIndex fVertex = kNotFound;     ///< the vertex that it leaves
+  TIndex fFarVertex = kNotFound;  ///< the first vertex that is the same as its far end; kNotFound without one
+  TIndex fEntityIndex = kNotFound;
+  bool fIsLine = false;
+  /// The far end is the far vertex's point to the bit, and all numbers of the piece are finite and below 1e150, so that
+  /// its directions are numbers and the piece equals itself.
+  bool fIsExact = false;
+};
+
+/// The vertices of a coordinate tree and their half-edges, both in the order of the tree, with the vertex at each far
+/// end. Vertices and half-edges are known by their number in that order.
+///
+/// REQUIRES: tree, storage and settings stay as they are while the graph is used; marks of travel may change.
+/// COST: a few searches in constant time for each vertex and half-edge.
+class TVertexGraph {
+ public:
+  explicit TVertexGraph(const TEntityTree& aTree);
+
+  TIndex VertexCount() const { return ToIndex(fPoints.size()); }
+  TIndex HalfEdgeCount() const { return ToIndex(fHalfEdges.size()); }
+  TIndex EntityCount() const { return ToIndex(fEntities.size()); }
+  const TEntityCoordinate& Point(TIndex aVertex) const { return fPoints[At(aVertex)]; }
+  /// The half-edges that leave a vertex are those from its first one up to the first one of the next vertex.
+  TIndex FirstHalfEdge(TIndex aVertex) const { return fFirst[At(aVertex)]; }
+  TIndex EndOfHalfEdges(TIndex aVertex) const { return fFirst[At(aVertex) + 1]; }
+  /// True for a vertex that a single half-edge leaves.
+  bool IsDangling(TIndex aVertex) const { return EndOfHalfEdges(aVertex) - FirstHalfEdge(aVertex) == 1; }
+
+  const THalfEdge& HalfEdge(TIndex aHalfEdge) const { return fHalfEdges[At(aHalfEdge)]; }
+  TTreeNode& Node(TIndex aHalfEdge) const { return *fNodes[At(aHalfEdge)]; }
+  const TDXFEntity& Entity(const THalfEdge& aHalfEdge) const;
+  const TEntityCoordinate& From(const THalfEdge& aHalfEdge) const { return Point(aHalfEdge.fVertex); }
+  TEntityCoordinate FarEnd(const THalfEdge& aHalfEdge) const;
+  /// The far end of a half-edge of this vertex, were it entered at this point.
+  TEntityCoordinate FarEndFrom(const TEntityCoordinate& aPoint, const THalfEdge& aHalfEdge) const;
+
+  /// The linear tolerance that the graph was read under.
+  double Tolerance() const { return fTolerance; }
+  /// True when no two vertices are the same, every piece has its two ends on vertices to the bit, and at each of the
+  /// two one half-edge, all of them exact.
+  bool IsRegular() const { return fIsRegular; }
+
+ private:
+  static std::size_t At(TIndex aIndex) { return static_cast<std::size_t>(aIndex); }
+  void ReadTree(const TEntityTree& aTree);
+  void FindFarVertices();
+  bool IsExact(const THalfEdge& aHalfEdge, const TEntityCoordinate& aFarEnd) const;
+  bool JoinsVertices(const THalfEdge& aHalfEdge) const;
+
+  std::span<const TDXFEntity> fEntities;
+  double fTolerance;
+  std::vector<TEntityCoordinate> fPoints;
+  std::vector<TIndex> fFirst;  // one more than vertices
+  std::vector<THalfEdge> fHalfEdges;
+  std::vector<TTreeNode*> fNodes;
+  bool fIsRegular = true;
+};
+
+}  // namespace GeometryEngine::detail
