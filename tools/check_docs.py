@@ -21,7 +21,7 @@ def pages():
 
 def headers():
     library = [path for path in (ROOT / "GeometryEngine").glob("*/**/*.h")]
-    return sorted(path.stem for path in [*library, *(ROOT / "xsec").glob("*.h")])
+    return sorted(path.stem for path in [*library, *(ROOT / "xsec").rglob("*.h")])
 
 
 def main():

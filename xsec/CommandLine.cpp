@@ -26,6 +26,7 @@ Action ParseCommandLine(int aCount, const char* const* aArguments) {
   app.footer(kExamples);
   app.require_subcommand(1);
   AddRegionsCommand(app, action);
+  AddSchemaCommand(app, action);
   try {
     app.parse(aCount, aArguments);
   } catch (const CLI::Success& success) {

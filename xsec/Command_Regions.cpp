@@ -5,10 +5,10 @@
 
 #include "xsec/Commands.h"
 #include "xsec/DrawingOptions.h"
-#include "xsec/OutputFiles.h"
 #include "xsec/RegionDetection.h"
 #include "xsec/Report.h"
 #include "xsec/Terminal.h"
+#include "xsec/output/OutputFiles.h"
 
 namespace xsec {
 
@@ -58,7 +58,8 @@ void AddRegionsCommand(CLI::App& aApp, Action& aAction) {
   command
       .add_option_function<std::vector<std::string>>(
           "-o,--output", [options](const std::vector<std::string>& paths) { options->outputs = FindOutputs(paths); },
-          "Write the regions to a file; its suffix says how: .svg a picture, .json everything. May be repeated")
+          "Write the regions to a file; its suffix says how: .svg a picture, .json everything, .csv a table, .dxf "
+          "closed polylines, .geo for gmsh, .fem for FEMM. May be repeated")
       ->type_name("FILE")
       ->allow_extra_args(false);
   command.footer(kExamples);

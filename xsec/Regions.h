@@ -16,6 +16,8 @@ struct Region {
   std::string name;        ///< the layer that most of its outline comes from
   std::string uniqueName;  ///< the name that no other region bears
   GeometryEngine::TGeometryRegionType type = GeometryEngine::rtUndefined;
+  std::string material;  ///< empty unless a rule gives one
+  std::string colour;    ///< "#rrggbb", empty unless a rule gives one
   std::size_t parent = kNone;
   std::vector<std::size_t> children;
   std::size_t depth = 0;    ///< number of regions round it

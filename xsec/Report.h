@@ -14,6 +14,7 @@ struct Report {
   const Drawing& drawing;
   const Settings& settings;
   const Detection& detection;
+  std::size_t copies = 1;  ///< how often the machine holds what is drawn
 };
 
 /// The net area of all regions together, which no piece of surface enters twice. UNITS: mm2
@@ -33,5 +34,14 @@ std::vector<std::string> DiagnosticLines(const Report& aReport);
 
 std::string JsonText(const Report& aReport);
 std::string SvgText(const Report& aReport);
+/// A row for each region, numbers in full.
+std::string CsvText(const Report& aReport);
+/// The outline of each region as a closed polyline on the layer of its name. Holes are the outlines of other regions.
+std::string DxfOutputText(const Report& aReport);
+/// The geometry that gmsh meshes: shared curves, a surface for each region, a physical group for each name.
+std::string GeoText(const Report& aReport);
+/// The geometry that FEMM reads: shared curves, a label with material and group in each region.
+/// Throws OutputError when a region has no point inside that could be its label.
+std::string FemText(const Report& aReport);
 
 }  // namespace xsec

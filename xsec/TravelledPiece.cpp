@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 #include <numbers>
+#include <utility>
 
 #include "GeometryEngine/host/Numerics.h"
 
@@ -113,9 +114,27 @@ TravelledPiece Travel(const GeometryEngine::TDXFEntity& aEntity, bool aForward) 
   return piece;
 }
 
+TravelledPiece Reversed(const TravelledPiece& aPiece) {
+  TravelledPiece reversed = aPiece;
+  std::swap(reversed.from, reversed.to);
+  std::swap(reversed.startAngle, reversed.endAngle);
+  reversed.sweep = -aPiece.sweep;
+  return reversed;
+}
+
 Point PointAlong(const TravelledPiece& aPiece, double aPart) {
   if (aPiece.isArc) return OnCircle(aPiece, aPiece.startAngle + aPart * aPiece.sweep);
   return {aPiece.from.x + aPart * (aPiece.to.x - aPiece.from.x), aPiece.from.y + aPart * (aPiece.to.y - aPiece.from.y)};
+}
+
+TravelledPiece PartOf(const TravelledPiece& aPiece, double aFrom, double aTo) {
+  TravelledPiece part = aPiece;
+  if (aFrom > 0) part.from = PointAlong(aPiece, aFrom);
+  if (aTo < 1) part.to = PointAlong(aPiece, aTo);
+  part.startAngle = aPiece.startAngle + aFrom * aPiece.sweep;
+  part.endAngle = aPiece.startAngle + aTo * aPiece.sweep;
+  part.sweep = (aTo - aFrom) * aPiece.sweep;
+  return part;
 }
 
 Point MidPoint(const TravelledPiece& aPiece) {
@@ -198,6 +217,10 @@ void Widen(Extents& aBox, const Extents& aOther) {
   aBox.minY = std::min(aBox.minY, aOther.minY);
   aBox.maxX = std::max(aBox.maxX, aOther.maxX);
   aBox.maxY = std::max(aBox.maxY, aOther.maxY);
+}
+
+Extents Widened(const Extents& aBox, double aMargin) {
+  return {aBox.minX - aMargin, aBox.minY - aMargin, aBox.maxX + aMargin, aBox.maxY + aMargin};
 }
 
 Extents EmptyExtents() {

@@ -35,9 +35,14 @@ using Loop = std::vector<TravelledPiece>;
 /// The entity travelled from its start to its end, or the other way.
 TravelledPiece Travel(const GeometryEngine::TDXFEntity& aEntity, bool aForward);
 
+/// The same piece, travelled the other way.
+TravelledPiece Reversed(const TravelledPiece& aPiece);
+
 Point MidPoint(const TravelledPiece& aPiece);
 /// The point at this part, 0 to 1, of the way along the piece.
 Point PointAlong(const TravelledPiece& aPiece, double aPart);
+/// The piece from one part of its way to another, 0 to 1.
+TravelledPiece PartOf(const TravelledPiece& aPiece, double aFrom, double aTo);
 double Length(const TravelledPiece& aPiece);
 double Distance(const TravelledPiece& aPiece, const Point& aPoint);
 Extents Bounds(const TravelledPiece& aPiece);
@@ -55,6 +60,8 @@ bool IsInside(const Loop& aLoop, const Point& aPoint);
 
 bool Contains(const Extents& aBox, const Point& aPoint);
 void Widen(Extents& aBox, const Extents& aOther);
+/// The box with so much more on every side.
+Extents Widened(const Extents& aBox, double aMargin);
 /// A box that holds nothing: infinite the wrong way round.
 Extents EmptyExtents();
 double Diagonal(const Extents& aBox);

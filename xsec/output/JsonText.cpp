@@ -4,6 +4,7 @@
 
 #include "xsec/Report.h"
 #include "xsec/Utf8.h"
+#include "xsec/output/RegionGroups.h"
 
 namespace xsec {
 
@@ -44,13 +45,24 @@ Json OfLoop(const Loop& loop, const Drawing& drawing) {
   return json;
 }
 
-Json OfRegion(const Region& region, std::size_t index, const Drawing& drawing) {
+double OfCopies(double area, const Report& report) {
+  return area * static_cast<double>(report.copies);
+}
+
+/// A text that may be missing.
+Json OfText(const std::string& text) {
+  return text.empty() ? Json(nullptr) : Json(text);
+}
+
+Json OfRegion(const Region& region, std::size_t index, const Report& report) {
   Json json;
   json["id"] = RegionId(index);
   json["name"] = region.name;
   json["uniqueName"] = region.uniqueName;
   json["type"] = {{"ordinal", static_cast<int>(region.type)},
                   {"name", GeometryEngine::GetRegionTypeString(region.type)}};
+  json["material"] = OfText(region.material);
+  json["colour"] = OfText(region.colour);
   json["parent"] = OfId(region.parent);
   json["children"] = Json::array();
   for (const std::size_t child : region.children) json["children"].push_back(OfId(child));
@@ -58,13 +70,34 @@ Json OfRegion(const Region& region, std::size_t index, const Drawing& drawing) {
   json["baseArea"] = region.baseArea;
   json["holeArea"] = region.holeArea;
   json["netArea"] = region.netArea;
+  json["netAreaOfCopies"] = OfCopies(region.netArea, report);
   json["centroid"] = OfPoint(region.centroid);
   json["label"] = OfPoint(region.label);
   json["clearance"] = region.clearance;
   json["sliver"] = region.sliver;
-  json["outline"] = OfLoop(region.outline, drawing);
+  json["outline"] = OfLoop(region.outline, report.drawing);
   json["holes"] = Json::array();
-  for (const Loop& hole : region.holes) json["holes"].push_back(OfLoop(hole, drawing));
+  for (const Loop& hole : region.holes) json["holes"].push_back(OfLoop(hole, report.drawing));
+  return json;
+}
+
+Json OfGroups(const std::vector<RegionGroup>& groups, const Report& report) {
+  Json json = Json::array();
+  for (const RegionGroup& group : groups) {
+    json.push_back({{"name", group.name},
+                    {"regions", group.regions.size()},
+                    {"netArea", group.netArea},
+                    {"netAreaOfCopies", OfCopies(group.netArea, report)}});
+  }
+  return json;
+}
+
+Json OfAreas(const Report& report) {
+  const std::vector<Region>& regions = report.detection.regions;
+  Json json;
+  json["byName"] = OfGroups(GroupByName(regions), report);
+  json["byType"] = OfGroups(GroupByType(regions), report);
+  json["byMaterial"] = OfGroups(GroupByMaterial(regions), report);
   return json;
 }
 
@@ -97,7 +130,11 @@ Json OfOpenPiece(const OpenPiece& open, const Drawing& drawing) {
   json["endLoose"] = open.toDangles;
   if (open.piece.source == kNone) return json;
   const DrawingEntity& source = drawing.entities[open.piece.source];
-  json["source"] = {{"type", source.type}, {"block", source.block}, {"handle", source.handle}, {"line", source.line}};
+  json["source"] = {{"type", source.type},
+                    {"layer", source.layer},
+                    {"block", source.block},
+                    {"handle", source.handle},
+                    {"line", source.line}};
   return json;
 }
 
@@ -136,10 +173,13 @@ std::string JsonText(const Report& aReport) {
   json["xsec"] = {{"format", kFormatVersion}, {"version", XSEC_VERSION}, {"lengths", "mm"}, {"angles", "degrees"}};
   json["drawing"] = OfDrawing(aReport.drawing);
   json["settings"] = OfSettings(aReport.settings);
+  json["copies"] = aReport.copies;
   json["totalArea"] = TotalArea(aReport.detection);
+  json["totalAreaOfCopies"] = OfCopies(TotalArea(aReport.detection), aReport);
+  json["areas"] = OfAreas(aReport);
   json["regions"] = Json::array();
   const auto& regions = aReport.detection.regions;
-  for (std::size_t i = 0; i < regions.size(); ++i) json["regions"].push_back(OfRegion(regions[i], i, aReport.drawing));
+  for (std::size_t i = 0; i < regions.size(); ++i) json["regions"].push_back(OfRegion(regions[i], i, aReport));
   json["diagnostics"] = OfDiagnostics(aReport);
   return json.dump(1, ' ', false, Json::error_handler_t::replace) + "\n";
 }

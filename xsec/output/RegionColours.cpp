@@ -1,4 +1,4 @@
-#include "xsec/RegionColours.h"
+#include "xsec/output/RegionColours.h"
 
 #include <fmt/format.h>
 

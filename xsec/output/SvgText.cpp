@@ -5,10 +5,10 @@
 #include <filesystem>
 #include <iterator>
 
-#include "xsec/LabelFit.h"
-#include "xsec/RegionColours.h"
 #include "xsec/Report.h"
 #include "xsec/Utf8.h"
+#include "xsec/output/LabelFit.h"
+#include "xsec/output/RegionColours.h"
 
 namespace xsec {
 

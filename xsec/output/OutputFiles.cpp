@@ -1,4 +1,4 @@
-#include "xsec/OutputFiles.h"
+#include "xsec/output/OutputFiles.h"
 
 #include <fmt/format.h>
 #include <signal.h>
@@ -25,7 +25,12 @@ struct Format {
   std::string (*render)(const Report&);
 };
 
-constexpr std::array<Format, 2> kFormats = {{{".svg", &SvgText}, {".json", &JsonText}}};
+constexpr std::array<Format, 6> kFormats = {{{".svg", &SvgText},
+                                             {".json", &JsonText},
+                                             {".csv", &CsvText},
+                                             {".dxf", &DxfOutputText},
+                                             {".geo", &GeoText},
+                                             {".fem", &FemText}}};
 constexpr int kTemporaryNames = 100;
 
 std::string LowerCase(std::string text) {

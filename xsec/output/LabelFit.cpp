@@ -1,4 +1,4 @@
-#include "xsec/LabelFit.h"
+#include "xsec/output/LabelFit.h"
 
 #include <algorithm>
 #include <cmath>

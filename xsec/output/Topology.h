@@ -1,0 +1,45 @@
+#pragma once
+
+// The regions as points, curves and loops that share them: what a mesher wants. Each curve stands once, however many
+// regions lie beside it, and ends where another curve meets it.
+
+#include <cstddef>
+#include <vector>
+
+#include "xsec/Regions.h"
+
+namespace xsec {
+
+/// A line or arc between two points, by their indexes; an arc runs anticlockwise.
+struct Curve {
+  std::size_t from = 0;
+  std::size_t to = 0;
+  TravelledPiece piece;  ///< travelled from the one point to the other
+};
+
+/// A curve on the way round a region.
+struct CurveUse {
+  std::size_t curve = 0;
+  bool forward = true;
+};
+
+using CurveLoop = std::vector<CurveUse>;
+
+struct RegionLoops {
+  CurveLoop outline;             ///< anticlockwise
+  std::vector<CurveLoop> holes;  ///< clockwise
+};
+
+struct Topology {
+  std::vector<Point> points;
+  std::vector<Curve> curves;
+  std::vector<RegionLoops> regions;  ///< one for each region, in their order
+};
+
+/// Curves with the same region on both sides are left out: they bound nothing. A loop that comes back to one of its own
+/// points before its end is parted there, so that every loop is simple; what is no part of the outline then is a hole.
+/// Arcs longer than aLongestArc (degrees) are cut into equal parts. Points along a curve closer to it than aTolerance
+/// cut it.
+Topology BuildTopology(const std::vector<Region>& aRegions, double aTolerance, double aLongestArc);
+
+}  // namespace xsec
