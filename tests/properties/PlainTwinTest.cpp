@@ -11,6 +11,7 @@
 #include <iostream>
 #include <string>
 
+#include "tests/properties/TwinChain.h"
 #include "tests/properties/TwinDetection.h"
 #include "tests/support/Settings.h"
 
@@ -18,6 +19,7 @@ namespace GeometryEngine::properties {
 namespace {
 
 constexpr unsigned long kDrawings = 10'000;
+constexpr unsigned long kChains = 300;
 constexpr std::size_t kShownCounts = 16;  // the last one stands for all that are larger
 
 unsigned long FromEnvironment(const char* aName, unsigned long aOtherwise) {
@@ -65,6 +67,20 @@ TEST(PlainTwin, AgreesOnRandomDrawings) {
   counts.Print();
   std::cout << drawings << " drawings from seed " << first << ", " << answers << " answers compared\n";
   EXPECT_GE(2 * counts.WithAtLeast(3), drawings);
+}
+
+TEST(PlainTwin, AgreesOnRandomChains) {
+  const support::TSettingsGuard settings;
+  const unsigned long first = FromEnvironment("TWIN_FIRST_SEED", 1);
+  const unsigned long chains = FromEnvironment("TWIN_CHAINS", kChains);
+  std::size_t answers = 0;
+  for (unsigned long seed = first; seed < first + chains; ++seed) {
+    const TwinDrawing chain = MakeTwinChain(static_cast<std::uint32_t>(seed));
+    const TwinRecord answer = TwinChain<TLibrary>(chain).Run();
+    ASSERT_EQ(answer.FirstDifference(TwinChain<TPlain>(chain).Run()), "") << ToText(chain);
+    answers += answer.Size();
+  }
+  std::cout << chains << " chains from seed " << first << ", " << answers << " answers compared\n";
 }
 
 }  // namespace GeometryEngine::properties

@@ -125,7 +125,7 @@ class TwinDetection {
       Record("handed over", i, *nodes.back());
     }
     AttachChildren(tree, nodes);
-    const bool areLabelled = fRandom.Chance(0.35);
+    const bool areLabelled = fRandom.Chance(0.15);
     for (std::size_t i = 0; i < nodes.size() && areLabelled; ++i) {
       nodes[i]->UpdateGeometry_Outputs();
       Record("with outputs", ToIndex(i), *nodes[i]);

@@ -201,6 +201,56 @@ constexpr Kind kTwinKinds[] = {
     {"uprights", Uprights},
 };
 
+// Chains -------------------------------------------------------------------------------------------------------------
+
+/// Vertices at ascending angles about a centre, joined by lines and by arcs that bulge either way.
+TEntityArray StarChain(Random& aRandom) {
+  const TEntityCoordinate centre = aRandom.Chance(0.5) ? TEntityCoordinate{} : AnyPoint(aRandom);
+  const int corners = Whole(aRandom, 2, aRandom.Chance(0.2) ? 20 : 7);
+  const bool isRegular = aRandom.Chance(0.3);
+  TCoordinateArray vertices;
+  for (int i = 0; i < corners; ++i) {
+    const double angle = (i + (isRegular ? 0 : aRandom.Between(0, 0.6))) * 360 / corners;
+    vertices.push_back(OnCircle(centre, isRegular ? 40 : aRandom.Between(20, 50), angle));
+  }
+  TEntityArray chain;
+  for (std::size_t i = 0; i < vertices.size(); ++i) {
+    const TEntityCoordinate from = vertices[i];
+    const TEntityCoordinate to = vertices[(i + 1) % vertices.size()];
+    const double bulge = OneOf(aRandom, {0.0, 0.0, 200.0, -200.0, 60.0, -60.0});
+    chain.push_back(CreateEntity_Arc_StartEnd_Radius(from, to, bulge));
+    if (bulge == 0 && aRandom.Chance(0.5)) std::swap(chain.back().StartCoords, chain.back().EndCoords);
+  }
+  if (aRandom.Chance(0.3)) std::reverse(chain.begin(), chain.end());
+  return chain;
+}
+
+/// The outline of a sector, as it occurs so many times round the origin.
+TEntityArray SectorChain(Random& aRandom) {
+  const double sweep = OneOf(aRandom, {10.0, 30.0, 45.0, 60.0, 90.0, 180.0});
+  const double from = sweep * Whole(aRandom, 0, 3);
+  const double inner = aRandom.Chance(0.3) ? 0 : 20;
+  const auto corner = [&](double r, double angle) { return OnCircle({}, r, angle); };
+  TEntityArray chain{CreateEntity_Line(corner(inner, from), corner(50, from)), Arc({}, 50, from, from + sweep),
+                     CreateEntity_Line(corner(50, from + sweep), corner(inner, from + sweep))};
+  if (inner > 0) chain.push_back(Arc({}, inner, from, from + sweep));
+  return chain;
+}
+
+TEntityArray RectangleChain(Random& aRandom) {
+  const TEntityCoordinate low = AnyPoint(aRandom);
+  const TEntityCoordinate high = low + TEntityCoordinate{aRandom.Between(0.001, 60), aRandom.Between(0.001, 60)};
+  return {CreateEntity_Line(low, {high.x, low.y}), CreateEntity_Line({high.x, low.y}, high),
+          CreateEntity_Line(high, {low.x, high.y}), CreateEntity_Line({low.x, high.y}, low)};
+}
+
+constexpr Kind kTwinChains[] = {{"star", StarChain},
+                                {"star", StarChain},
+                                {"sector chain", SectorChain},
+                                {"rectangle", RectangleChain},
+                                {"lines on a grid", GridLines},
+                                {"arcs on a grid", GridArcs}};
+
 // What spoils a drawing ----------------------------------------------------------------------------------------------
 
 TDXFEntity& AnyEntity(TEntityArray& aEntities, Random& aRandom) {
@@ -324,6 +374,15 @@ TwinDrawing MakeTwinDrawing(std::uint32_t aSeed) {
   Shuffle(drawing.entities, random);
   if (drawing.entities.size() >= kMost) drawing.entities.resize(kMost - 1);
   if (random.Chance(0.7)) drawing.entities.push_back(CreateEntity_Line(3 * kSize, 0, 3 * kSize + 1, 0));
+  return drawing;
+}
+
+TwinDrawing MakeTwinChain(std::uint32_t aSeed) {
+  Random random(aSeed);
+  const Kind kind = OneOf(random, kTwinChains);
+  TwinDrawing drawing{aSeed, kind.name, AnySettings(random), kind.draw(random)};
+  const double tolerance = drawing.settings.linearTolerance;
+  if (random.Chance(0.3)) Spoil(drawing.entities, random, std::abs(tolerance) <= 5 ? tolerance : 0.001);
   return drawing;
 }
 

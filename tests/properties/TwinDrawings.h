@@ -30,6 +30,9 @@ struct TwinDrawing {
 /// The drawing of a seed: 5 to 60 entities.
 TwinDrawing MakeTwinDrawing(std::uint32_t aSeed);
 
+/// A chain: closed and sound, or spoilt, or no chain at all; the sector of a machine among them.
+TwinDrawing MakeTwinChain(std::uint32_t aSeed);
+
 /// All that it takes to make the drawing again, as text.
 std::string ToText(const TwinDrawing& aDrawing);
 

@@ -37,6 +37,9 @@ struct TLibrary {
   static TDXFEntity GetEntity_Previous(const Storage& aStorage, const TEntityCoordinate& aVertex) {
     return aStorage.GetEntity_Previous(aVertex).aEntity;
   }
+  static void AddWithoutDuplicates(TEntityArray& aEntities, const TEntityArray& aAdded) {
+    AddEntities_CheckDuplicate(aEntities, aAdded);
+  }
 };
 
 struct TPlain {
@@ -59,6 +62,9 @@ struct TPlain {
   }
   static TDXFEntity GetEntity_Previous(const Storage& aStorage, const TEntityCoordinate& aVertex) {
     return aStorage.GetEntity_Previous(aVertex);
+  }
+  static void AddWithoutDuplicates(TEntityArray& aEntities, const TEntityArray& aAdded) {
+    Plain::AddEntities_CheckDuplicate(aEntities, aAdded);
   }
 };
 

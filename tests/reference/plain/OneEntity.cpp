@@ -60,7 +60,9 @@ bool IsBetween(double aValue, double aBound_A, double aBound_B) {
 }
 
 double Distance(const TEntityCoordinate& aPoint_A, const TEntityCoordinate& aPoint_B) {
-  return GetDistanceBetweenCoords(aPoint_A.x, aPoint_A.y, aPoint_B.x, aPoint_B.y);
+  const double dx = aPoint_B.x - aPoint_A.x;
+  const double dy = aPoint_B.y - aPoint_A.y;
+  return std::sqrt(dx * dx + dy * dy);
 }
 
 bool IsWithinSweep(const TDXFEntity& aArc, const TEntityCoordinate& aPoint) {
@@ -139,12 +141,12 @@ bool PointTouchingArc(const TDXFEntity& aArc, const TEntityCoordinate& aPoint) {
 
 double PointToSegmentDistance(const TEntityCoordinate& aPoint, const TEntityCoordinate& aSegStart,
                               const TEntityCoordinate& aSegEnd) {
-  const TEntityCoordinate segment = aSegEnd - aSegStart;
-  const TEntityCoordinate offset = aPoint - aSegStart;
+  const TEntityCoordinate segment{aSegEnd.x - aSegStart.x, aSegEnd.y - aSegStart.y};
+  const TEntityCoordinate offset{aPoint.x - aSegStart.x, aPoint.y - aSegStart.y};
   const double lengthSquared = segment.x * segment.x + segment.y * segment.y;
   if (lengthSquared == 0) return Distance(aPoint, aSegStart);
   const double t = std::clamp((offset.x * segment.x + offset.y * segment.y) / lengthSquared, 0.0, 1.0);
-  return Distance(aPoint, aSegStart + t * segment);
+  return Distance(aPoint, {aSegStart.x + t * segment.x, aSegStart.y + t * segment.y});
 }
 
 }  // namespace GeometryEngine::Plain

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <set>
 #include <vector>
 
@@ -12,23 +13,42 @@ namespace {
 constexpr std::size_t kLargestGrid = 1000000;
 constexpr std::int32_t kLargestSplitCount = 1000;
 
-double SignedDistance(const TTreeNode_Geometry& aRegion, const TEntityCoordinate& aPoint) {
-  double distance = std::min(aRegion.fEntities.MinPointToEntitiesDistance(aPoint),
-                             aRegion.fEntities_Internal.MinPointToEntitiesDistance(aPoint));
-  bool isInside = aRegion.fEntities.PointInsideEntities(aPoint, false) &&
-                  !aRegion.fEntities_Internal.PointInsideEntities(aPoint, true);
-  for (const TTreeNode_Geometry* child : aRegion.fChildren) {
-    distance = std::min(distance, child->fEntities.MinPointToEntitiesDistance(aPoint));
-    if (child->fEntities.PointInsideEntities(aPoint, true)) isInside = false;
+/// A region, and the surfaces of its chains and of its children's outlines as polylines.
+struct TSurfaces {
+  explicit TSurfaces(const TTreeNode_Geometry& aRegion)
+      : fRegion(aRegion),
+        fPolylines{aRegion.fEntities.GetVertices_Surf(false), aRegion.fEntities_Internal.GetVertices_Surf(false)} {
+    for (const TTreeNode_Geometry* child : aRegion.fChildren) {
+      fPolylines.push_back(child->fEntities.GetVertices_Surf(false));
+    }
   }
-  return isInside ? distance : -distance;
-}
+
+  bool IsInside(const TEntityCoordinate& aPoint) const {
+    const auto isInChild = [&](const TTreeNode_Geometry* child) {
+      return child->fEntities.PointInsideEntities(aPoint, true);
+    };
+    return fRegion.fEntities.PointInsideEntities(aPoint, false) &&
+           !fRegion.fEntities_Internal.PointInsideEntities(aPoint, true) &&
+           std::ranges::none_of(fRegion.fChildren, isInChild);
+  }
+
+  double SignedDistance(const TEntityCoordinate& aPoint) const {
+    double distance = std::numeric_limits<double>::infinity();
+    for (const TCoordinateArray& polyline : fPolylines) {
+      distance = std::min(distance, Plain::DistanceToPolyline(polyline, aPoint));
+    }
+    return IsInside(aPoint) ? distance : -distance;
+  }
+
+  const TTreeNode_Geometry& fRegion;
+  std::vector<TCoordinateArray> fPolylines;
+};
 
 struct TCell {
-  TCell(const TTreeNode_Geometry& aRegion, const TEntityCoordinate& aCentre, double aHalfWidth)
+  TCell(const TSurfaces& aSurfaces, const TEntityCoordinate& aCentre, double aHalfWidth)
       : fCentre(aCentre),
         fHalfWidth(aHalfWidth),
-        fDistance(SignedDistance(aRegion, aCentre)),
+        fDistance(aSurfaces.SignedDistance(aCentre)),
         fBound(fDistance + aHalfWidth * 1.4142135623730951) {}
 
   TEntityCoordinate fCentre;
@@ -57,15 +77,15 @@ std::vector<double> GridSteps(double aLow, double aHigh, double aStep) {
   return steps;
 }
 
-TPendingCells Cover(const TTreeNode_Geometry& aRegion) {
-  const TEntityStorage& box = aRegion.fEntities;
+TPendingCells Cover(const TSurfaces& aSurfaces) {
+  const TEntityStorage& box = aSurfaces.fRegion.fEntities;
   const double size = std::min(box.Max_X() - box.Min_X(), box.Max_Y() - box.Min_Y());
   const std::vector<double> columns = GridSteps(box.Min_X(), box.Max_X(), size);
   const std::vector<double> rows = GridSteps(box.Min_Y(), box.Max_Y(), size);
   TPendingCells cells;
   if (columns.size() * rows.size() > kLargestGrid) return cells;
   for (const double x : columns) {
-    for (const double y : rows) cells.emplace(aRegion, TEntityCoordinate{x + size / 2, y + size / 2}, size / 2);
+    for (const double y : rows) cells.emplace(aSurfaces, TEntityCoordinate{x + size / 2, y + size / 2}, size / 2);
   }
   return cells;
 }
@@ -78,8 +98,9 @@ TEntityCoordinate FindPoleInaccessibility(TTreeNode_Geometry& aRegion, bool aSea
   if (!aSearchable) return aRegion.fCentroid;
   outline.CalculateMinMaxValues();
   if (!(outline.Min_X() < outline.Max_X() && outline.Min_Y() < outline.Max_Y())) return aRegion.fCentroid;
-  TCell best(aRegion, aRegion.fCentroid, 0);
-  TPendingCells pending = Cover(aRegion);
+  const TSurfaces surfaces(aRegion);
+  TCell best(surfaces, aRegion.fCentroid, 0);
+  TPendingCells pending = Cover(surfaces);
   std::int32_t splits = 0;
   while (!pending.empty()) {
     if (splits > kLargestSplitCount) return aRegion.fCentroid;
@@ -91,7 +112,7 @@ TEntityCoordinate FindPoleInaccessibility(TTreeNode_Geometry& aRegion, bool aSea
     const auto [x, y] = cell.fCentre;
     for (const TEntityCoordinate& centre :
          TCoordinateArray{{x - half, y - half}, {x + half, y - half}, {x - half, y + half}, {x + half, y + half}}) {
-      pending.emplace(aRegion, centre, half);
+      pending.emplace(surfaces, centre, half);
     }
     ++splits;
   }

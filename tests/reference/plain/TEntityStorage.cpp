@@ -53,6 +53,16 @@ double Squared(const TEntityCoordinate& aPoint) {
 
 }  // namespace
 
+double DistanceToPolyline(const TCoordinateArray& aPolyline, const TEntityCoordinate& aPoint) {
+  double distance = kInfinity;
+  if (aPolyline.size() < 2) return distance;
+  for (std::size_t i = 0; i < aPolyline.size(); ++i) {
+    const TEntityCoordinate& next = aPolyline[i + 1 == aPolyline.size() ? 0 : i + 1];
+    distance = std::min(distance, Plain::PointToSegmentDistance(aPoint, aPolyline[i], next));
+  }
+  return distance;
+}
+
 TIndex IndexOf(const TCoordinateArray& aCoordinates, const TEntityCoordinate& aCoordinate) {
   for (std::size_t i = 0; i < aCoordinates.size(); ++i) {
     if (Same(aCoordinates[i], aCoordinate)) return ToIndex(i);
@@ -238,14 +248,7 @@ TEntityCoordinate TEntityStorage::GetCentroid() const {
 }
 
 double TEntityStorage::MinPointToEntitiesDistance(const TEntityCoordinate& aPoint) const {
-  double distance = kInfinity;
-  const TCoordinateArray points = GetVertices_Surf(false);
-  if (points.size() < 2) return distance;
-  for (std::size_t i = 0; i < points.size(); ++i) {
-    const TEntityCoordinate& next = points[(i + 1) % points.size()];
-    distance = std::min(distance, Plain::PointToSegmentDistance(aPoint, points[i], next));
-  }
-  return distance;
+  return Plain::DistanceToPolyline(GetVertices_Surf(false), aPoint);
 }
 
 }  // namespace GeometryEngine::Plain

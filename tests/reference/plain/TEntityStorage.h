@@ -76,6 +76,8 @@ class TEntityStorage {
   TEntityCoordinate fMax_RT;
 };
 
+/// To the closed polyline; infinite when it has fewer than two points.
+double DistanceToPolyline(const TCoordinateArray& aPolyline, const TEntityCoordinate& aPoint);
 TIndex IndexOf(const TCoordinateArray& aCoordinates, const TEntityCoordinate& aCoordinate);
 TIndex IndexOf(const TEntityArray& aEntities, const TDXFEntity& aEntity);
 /// Appends each entity that the array doesn't hold by then.
