@@ -1,8 +1,8 @@
 // The library against its plain twin (tests/reference/plain): the same answers, to the last bit, on random drawings of
 // every kind under every setting.
 //
-// TWIN_DRAWINGS and TWIN_FIRST_SEED in the environment ask for other drawings than those of every run; tools/plain_twin
-// uses them for long runs.
+// TWIN_DRAWINGS, TWIN_CHAINS and TWIN_FIRST_SEED in the environment ask for other drawings than those of every run;
+// tools/plain_twin uses them for long runs.
 
 #include <gtest/gtest.h>
 

@@ -23,16 +23,19 @@ class TwinDetection {
   TIndex Regions() const { return fRegions; }
 
   TwinRecord Run() {
+    Tree& graph = fDriver.CoordinateTree();
     Detect();
     ApplyForTracing(fDrawing.settings);
-    if (fRandom.Chance(0.2)) Orphans();
-    Regions(fRandom.Chance(0.6) ? 1 : Whole(0, 3));
-    if (fRandom.Chance(0.1)) Orphans();  // among the marks that the loops have left
-    Detect();                            // the storage is sorted by now, the trees hold nodes
+    if (fRandom.Chance(0.08)) Meddle(graph);
+    if (fRandom.Chance(0.2)) Orphans(graph);
+    Regions(graph, fRandom.Chance(0.6) ? 1 : Whole(0, 3));
+    if (fRandom.Chance(0.1)) Orphans(graph);  // among the marks that the loops have left
+    Detect();                                 // the storage is sorted by now, the trees hold nodes
+    if (fRandom.Chance(0.1)) FillByHand();
     if (fRandom.Chance(0.5)) {
-      Orphans();
+      Orphans(graph);
     } else {
-      Regions(Whole(0, 2));
+      Regions(graph, Whole(0, 2));
     }
     return std::move(fRecord);
   }
@@ -56,25 +59,80 @@ class TwinDetection {
     fRecord.Add("entity", fDriver.CoordinateTree().pEntityStorage()->EntityArray());
   }
 
-  void Orphans() {
-    fDriver.DetectOrphanEntities(fDriver.CoordinateTree());
-    Record("coordinate tree after open chains", fDriver.CoordinateTree());
+  /// What a host may do to a graph that it has been handed, before it is traced.
+  void Meddle(Tree& aTree) {
+    TEntityArray& pieces = aTree.pEntityStorage()->EntityArray();
+    const std::vector<Node*>& vertices = aTree.RootNode()->Children();
+    if (vertices.empty()) return;
+    Node* vertex = vertices[static_cast<std::size_t>(Whole(0, static_cast<int>(vertices.size()) - 1))];
+    TDXFEntity& piece = pieces[static_cast<std::size_t>(Whole(0, static_cast<int>(pieces.size()) - 1))];
+    const double step = Whole(-2, 2) * 0.9 * fDrawing.settings.linearTolerance;
+    switch (Whole(0, 6)) {
+      case 0:
+        vertex->Coordinates(vertex->Coordinates() + TEntityCoordinate{step, 0});
+        break;
+      case 1:
+        piece.EndCoords = piece.EndCoords + TEntityCoordinate{0, step};
+        break;
+      case 2:
+        piece.EndCoords = vertex->Coordinates();
+        break;
+      case 3:
+        std::swap(piece, pieces.front());
+        break;
+      case 4:
+        vertex->GetNode(0)->Travelled(true);
+        break;
+      case 5:
+        aTree.AddTreeNode(vertex)->EntityIndex(Whole(-1, static_cast<int>(pieces.size())));
+        break;
+      default:
+        fDriver.CoordinateTree().Clear();
+        fDriver.CreateCoordinateTreeFromIntercepts();
+    }
+    fDriver.AddEntityToCoordinateTree(aTree, TDXFEntity::Line(AnyPoint(), AnyPoint()));
+    Record("coordinate tree after a host's changes", aTree);
+  }
+
+  /// The second graph, filled by the host with pieces of the first and lines across them.
+  void FillByHand() {
+    Tree& tree = fDriver.CoordinateTree_Duplicated();
+    typename TEngine::Storage storage;
+    tree.pEntityStorage(&storage);
+    const TEntityArray pieces = fDriver.CoordinateTree().pEntityStorage()->EntityArray();
+    for (const TDXFEntity& piece : pieces) {
+      if (fRandom.Chance(0.02)) ApplyForTracing(fDrawing.settings);
+      fDriver.AddEntityToCoordinateTree(tree, piece);
+      if (fRandom.Chance(0.1)) fDriver.AddEntityToCoordinateTree(tree, TDXFEntity::Line(piece.StartCoords, AnyPoint()));
+    }
+    Record("coordinate tree filled by hand", tree);
+    Regions(tree, Whole(0, 2));
+    tree.Clear();
+    tree.pEntityStorage(nullptr);
+    fDriver.RegionTree().Clear();
+    fDriver.RegionTree().pEntityStorage(nullptr);
+  }
+
+  void Orphans(Tree& aTree) {
+    fDriver.DetectOrphanEntities(aTree);
+    Record("coordinate tree after open chains", aTree);
     Record("open chains", fDriver.RegionTree());
   }
 
-  void Regions(int aType) {
-    fDriver.DetermineRegions(fDriver.CoordinateTree(), aType);
-    Record("coordinate tree after regions", fDriver.CoordinateTree());
+  void Regions(Tree& aTree, int aType) {
+    fDriver.DetermineRegions(aTree, aType);
+    Record("coordinate tree after regions", aTree);
     Record("regions", fDriver.RegionTree());
     fRegions = std::max(fRegions, fDriver.RegionTree().RootNode()->Count());
-    Nest();
-    AskForPoints();
+    Nest(aTree);
+    AskForPoints(aTree);
+    SearchTrees();
     HandOver();
     if (fRandom.Chance(0.3)) MergeEntities();
   }
 
-  void Nest() {
-    fDriver.IdentifySubRegions(fDriver.CoordinateTree());
+  void Nest(const Tree& aTree) {
+    fDriver.IdentifySubRegions(aTree);
     RecordSubRegions("sub-regions");
     fDriver.RemoveDuplicatedSubRegions();
     RecordSubRegions("closest containers");
@@ -93,16 +151,15 @@ class TwinDetection {
     return fRandom.Chance(0.7) ? point : point + TEntityCoordinate{fRandom.Between(-1, 1), fRandom.Between(-1, 1)};
   }
 
-  void AskForPoints() {
+  void AskForPoints(const Tree& aTree) {
     fRecord.Section("points");
-    const Tree& coordinates = fDriver.CoordinateTree();
     for (int i = 0; i < 4; ++i) {
       const TEntityCoordinate point = AnyPoint();
       for (const Node* region : TracedRegions()) {
-        fRecord.Add("winding number", CalculateWindingNumber(coordinates, region, point));
+        fRecord.Add("winding number", CalculateWindingNumber(aTree, region, point));
       }
       TIndex index = -7;
-      const Node* region = IdentifyRegionFromCoordinate(fDriver.RegionTree(), coordinates, point, index);
+      const Node* region = IdentifyRegionFromCoordinate(fDriver.RegionTree(), aTree, point, index);
       fRecord.Add("found region", region == nullptr ? kNotFound : region->RelativeIndex());
       fRecord.Add("index of found region", index);
     }
@@ -111,9 +168,25 @@ class TwinDetection {
     const TIndex other = Whole(0, static_cast<int>(TracedRegions().size()) - 1);
     const Node* region = fDriver.RegionTree().RootNode()->GetNode(one);
     const Node* tested = fDriver.RegionTree().RootNode()->GetNode(other);
-    fRecord.Add("generated point", GenerateRegionPoint(coordinates, region, tested, 0, 1e9, 0, 90));
-    DetermineClockwiseSubRegions(fDriver.RegionTree(), coordinates, region, one);
+    fRecord.Add("generated point", GenerateRegionPoint(aTree, region, tested, 0, 1e9, 0, 90));
+    DetermineClockwiseSubRegions(fDriver.RegionTree(), aTree, region, one);
     RecordSubRegions("clockwise sub-regions");
+  }
+
+  static TIndex PlaceOf(const Node* aNode) { return aNode == nullptr ? kNotFound : aNode->AbsoluteIndex(); }
+
+  void SearchTrees() {
+    fRecord.Section("searches in trees");
+    const Tree& graph = fDriver.CoordinateTree();
+    const Tree& intercepts = fDriver.InterceptTree();
+    for (int i = 0; i < 4; ++i) {
+      const TEntityCoordinate point = AnyPoint();
+      const TDXFEntity& entity = fDrawing.entities[static_cast<std::size_t>(i)];
+      const Node* drawn = intercepts.Search_L1_Entities(entity);
+      fRecord.Add("vertex", PlaceOf(graph.Search_L1_Coords(point)));
+      fRecord.Add("drawn entity", PlaceOf(drawn));
+      if (drawn != nullptr) fRecord.Add("point of entity", PlaceOf(intercepts.Search_L2_Coordinates(point, drawn)));
+    }
   }
 
   void HandOver() {

@@ -17,6 +17,7 @@ class TEntityBaseClass {
   TEntityTree& RegionTree() { return fRegionTree; }
 
   void DetermineInterceptions(TEntityStorage* apEntityStorage);
+  void CreateCoordinateTreeFromIntercepts();
   void AddEntityToCoordinateTree(TEntityTree& aTree, const TDXFEntity& aEntity);
   void DetermineRegions(TEntityTree& aTree, std::int32_t aRegionType);
   void DetectOrphanEntities(TEntityTree& aTree);
@@ -28,7 +29,6 @@ class TEntityBaseClass {
  private:
   TEntityCoordinate AddCoordinateNode(TEntityTree& aTree, const TEntityCoordinate& aCoordinate, TIndex aEntityIndex);
   void Sweep(const TEntityArray& aEntities);
-  void CreateCoordinateTreeFromIntercepts();
   void AddRegionCoordinates(const TEntityTree& aTree, const TTreeNode& aVertex, const TRegionWalk& aWalk);
   bool IsChainKnown(const TEntityArray& aChain) const;
 

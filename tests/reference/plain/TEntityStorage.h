@@ -14,6 +14,7 @@ class TEntityStorage {
   // Container
   TIndex Count() const { return ToIndex(fEntities.size()); }
   const TEntityArray& EntityArray() const { return fEntities; }
+  TEntityArray& EntityArray() { return fEntities; }
   void AddEntity(const TDXFEntity& aEntity) { fEntities.push_back(aEntity); }
   void AddEntities(const TEntityArray& aEntities);
   TIndex IndexOf(const TDXFEntity& aEntity) const;

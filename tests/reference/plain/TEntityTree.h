@@ -31,6 +31,9 @@ class TTreeNode {
   const TIntegerArray& SubRegions() const { return fSubRegions; }
   bool CheckSubRegionIdentified(std::int32_t aRegionIndex) const;
   void RemoveSubRegion(std::int32_t aRegionIndex);
+  void EntityIndex(TIndex aEntityIndex) { fEntityIndex = aEntityIndex; }
+  void Coordinates(const TEntityCoordinate& aCoordinates) { fCoordinates = aCoordinates; }
+  void Travelled(bool aTravelled) { fTravelled = aTravelled; }
 
   TTreeNode* fParent = nullptr;
   TIndex fIndex = 0;
