@@ -15,6 +15,7 @@ using drawings::Point;
 namespace {
 
 constexpr double kEnd = 1e-9;  // share of an entity that counts as its end
+constexpr double kNoArea = 1e-9;  // square millimetres: what rounding leaves of a walk there and back
 constexpr std::uint32_t kNone = ~0U;
 
 double Cross(const Point& a, const Point& b) {
@@ -265,7 +266,7 @@ std::size_t TBarePipeline::TraceLoops() {
       seen[edge] = 1;
       doubleArea += fHalfEdges[edge].term;
     }
-    if (doubleArea > 0) {
+    if (doubleArea > kNoArea) {
       ++faces;
       fTotalArea += doubleArea / 2;
     }
