@@ -6,23 +6,23 @@
 #include <memory>
 
 #include "benchmarks/support/HostRun.h"
+#include "benchmarks/support/PlainRun.h"
 #include "benchmarks/support/Sizes.h"
 
 namespace {
 
 using benchmarks::THostRun;
 using drawings::Drawing;
-using TPass = void (THostRun::*)();
 using TMake = Drawing (*)(std::size_t);
 
 // Runs a pass on a fresh driver each time; the passes that come before it are not measured.
-template <typename... TPasses>
-void Run(benchmark::State& aState, TMake aMake, TPass aPass, TPasses... aBefore) {
+template <typename TRun, typename... TPasses>
+void Run(benchmark::State& aState, TMake aMake, void (TRun::*aPass)(), TPasses... aBefore) {
   const Drawing drawing = aMake(benchmarks::SizeOf(aState));
   std::size_t faces = 0;
   for ([[maybe_unused]] const auto unused : aState) {
     aState.PauseTiming();
-    auto run = std::make_unique<THostRun>(drawing);
+    auto run = std::make_unique<TRun>(drawing);
     ((*run.*aBefore)(), ...);
     aState.ResumeTiming();
     (*run.*aPass)();
@@ -40,6 +40,11 @@ void Run(benchmark::State& aState, TMake aMake, TPass aPass, TPasses... aBefore)
 
 void Detection(benchmark::State& aState, TMake aMake) {
   Run(aState, aMake, &THostRun::All);
+}
+
+// The same by searches over everything and all pairs.
+void Detection_Plain(benchmark::State& aState, TMake aMake) {
+  Run(aState, aMake, &benchmarks::TPlainRun::All);
 }
 
 void DetermineInterceptions(benchmark::State& aState, TMake aMake) {
@@ -89,6 +94,10 @@ void OneSize(benchmark::internal::Benchmark* aBenchmark) {
   aBenchmark->Arg(1000)->Unit(benchmark::kMillisecond);
 }
 
+void PlainSizes(benchmark::internal::Benchmark* aBenchmark) {
+  aBenchmark->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+}
+
 void PathologicalSize(benchmark::internal::Benchmark* aBenchmark) {
   aBenchmark->Arg(1000)->Arg(20000)->Arg(100000)->Unit(benchmark::kMillisecond);
 }
@@ -107,6 +116,11 @@ GROWING_DRAWINGS(DetermineRegions);
 GROWING_DRAWINGS(IdentifySubRegions);
 GROWING_DRAWINGS(RemoveDuplicatedSubRegions);
 GROWING_DRAWINGS(HandOver);
+
+BENCHMARK_CAPTURE(Detection_Plain, machine, drawings::Machines)->Apply(PlainSizes);
+BENCHMARK_CAPTURE(Detection_Plain, one_machine, drawings::OneMachine)->Apply(PlainSizes);
+BENCHMARK_CAPTURE(Detection_Plain, nested, drawings::Nested)->Apply(PlainSizes);
+BENCHMARK_CAPTURE(Detection_Plain, random, drawings::Random)->Apply(OneSize);
 
 BENCHMARK_CAPTURE(Detection, open_polyline, drawings::OpenPolyline)->Apply(PathologicalSize);
 BENCHMARK_CAPTURE(Detection, comb, drawings::Comb)->Apply(PathologicalSize);
