@@ -14,7 +14,7 @@ using drawings::Point;
 
 namespace {
 
-constexpr double kEnd = 1e-9;  // share of an entity that counts as its end
+constexpr double kEnd = 1e-9;     // share of an entity that counts as its end
 constexpr double kNoArea = 1e-9;  // square millimetres: what rounding leaves of a walk there and back
 constexpr std::uint32_t kNone = ~0U;
 

@@ -33,8 +33,8 @@ std::vector<drawings::Point> ChordsOf(const drawings::Entity& aEntity) {
     const double count = std::ceil(sweep / step);
     for (double k = 1; k < count; ++k) {
       const double angle = aEntity.startAngle * std::numbers::pi / 180 + sweep * k / count;
-      points.push_back({aEntity.centre.x + aEntity.radius * std::cos(angle),
-                        aEntity.centre.y + aEntity.radius * std::sin(angle)});
+      points.push_back(
+          {aEntity.centre.x + aEntity.radius * std::cos(angle), aEntity.centre.y + aEntity.radius * std::sin(angle)});
     }
   }
   points.push_back(aEntity.end);
