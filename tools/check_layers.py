@@ -35,6 +35,7 @@ LAYERS = [
         "DXF_EntityStorage/EntityEnds",
         "DXF_EntityStorage/detail/IsEntityEnd",
         "DXF_EntityStorage/detail/OtherEnd",
+        "DXF_EntityStorage/detail/PointOnEntity",
         "DXF_Regions_Utilities/DuplicationNumber",
         "DXF_Regions_Utilities/EntityTerms",
         "DXF_Regions_Utilities/RegionPoints",

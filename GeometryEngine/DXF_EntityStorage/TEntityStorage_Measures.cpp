@@ -6,21 +6,13 @@
 
 #include "GeometryEngine/DXF_EntityStorage/TEntityStorage.h"
 #include "GeometryEngine/DXF_EntityStorage/detail/ChainSums.h"
+#include "GeometryEngine/DXF_EntityStorage/detail/PointOnEntity.h"
 #include "GeometryEngine/DXF_EntityStorage/detail/VertexWalk.h"
 #include "GeometryEngine/GeometryEngine_Arrays/CoordinateArrays.h"
 #include "GeometryEngine/GeometryEngine_Entity_Operations/PointTests.h"
 #include "GeometryEngine/GeometryEngine_PointInPolygon/WindingContributions.h"
 
 namespace GeometryEngine {
-
-namespace {
-
-bool PointOnEntity(const TDXFEntity& aEntity, const TEntityCoordinate& aPoint) {
-  if (aEntity.EntityType == DXFLine) return PointOnLine(aEntity, aPoint);
-  return aEntity.EntityType == DXFArc && PointTouchingArc(aEntity, aPoint);
-}
-
-}  // namespace
 
 bool TEntityStorage::PointInsideEntities(const TEntityCoordinate& aCoord, bool aIncludePointOnEntity) const {
   if (PointOnEntities(aCoord)) return aIncludePointOnEntity;
@@ -37,7 +29,7 @@ bool TEntityStorage::PointInsideEntities(const TEntityCoordinate& aCoord, bool a
 
 bool TEntityStorage::PointOnEntities(const TEntityCoordinate& aCoordinate) const {
   return std::any_of(fEntityArray.begin(), fEntityArray.end(),
-                     [&](const TDXFEntity& aEntity) { return PointOnEntity(aEntity, aCoordinate); });
+                     [&](const TDXFEntity& aEntity) { return detail::PointOnEntity(aEntity, aCoordinate); });
 }
 
 double TEntityStorage::GetClosedArea() const {

@@ -4,8 +4,10 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <limits>
-#include <set>
+#include <vector>
+
+#include "GeometryEngine/Pole_Inaccessibility/detail/PoleOutlines.h"
+#include "GeometryEngine/Pole_Inaccessibility/detail/PoleSegments.h"
 
 namespace GeometryEngine {
 
@@ -15,26 +17,83 @@ constexpr double kSquareRootOf2 = 1.4142135623730951;  // half a square's diagon
 constexpr std::int32_t kLargestSplitCount = 1000;      // splits after which one more ends the search
 constexpr std::size_t kLargestGrid = 1000000;          // cells
 
-struct TGreatestBoundFirst {
-  bool operator()(const TCell& aLeft, const TCell& aRight) const { return CellComparer(aLeft, aRight) < 0; }
+double GetCellSize(const TEntityStorage& aBox) {
+  return std::min(aBox.Max_X() - aBox.Min_X(), aBox.Max_Y() - aBox.Min_Y());
+}
+
+/// The chains of a region, prepared for many measurements: outline, internal chain, children.
+class TMeasuredRegion {
+ public:
+  explicit TMeasuredRegion(const TPoleRegion& aRegion) : TMeasuredRegion(GetChains(aRegion), aRegion) {}
+
+  double GetSignedDistance(const TEntityCoordinate& aPoint) {
+    const double distance = fSegments.GetDistance(aPoint);
+    return fOutlines.Hold(aPoint) ? distance : -distance;
+  }
+
+  /// True when no square over the box, and no part of one, has its centre farther inside than this.
+  bool IsThinnerThan(double aDistance, const TEntityStorage& aBox) const {
+    const double size = GetCellSize(aBox);  // by which squares may overhang
+    return fSegments.GetGreatestDistance({aBox.Min_X(), aBox.Max_X() + size, aBox.Min_Y(), aBox.Max_Y() + size}) <=
+           aDistance;
+  }
+
+  TCell MakeCell(double aCenter_X, double aCenter_Y, double aHalfWidth) {
+    return {aCenter_X, aCenter_Y, aHalfWidth, GetSignedDistance({aCenter_X, aCenter_Y})};
+  }
+
+ private:
+  using TChains = std::vector<const TEntityStorage*>;
+
+  TMeasuredRegion(const TChains& aChains, const TPoleRegion& aRegion)
+      : fSegments(aChains), fOutlines(aRegion.fOutline != nullptr ? aChains : TChains()) {}
+
+  static TChains GetChains(const TPoleRegion& aRegion) {
+    TChains chains{aRegion.fOutline, aRegion.fInternal};
+    chains.insert(chains.end(), aRegion.fChildOutlines.begin(), aRegion.fChildOutlines.end());
+    std::erase(chains, nullptr);
+    return chains;
+  }
+
+  detail::TPoleSegments fSegments;
+  detail::TPoleOutlines fOutlines;
 };
 
-// Cells of equal bound keep the order in which they came.
-using TPendingCells = std::multiset<TCell, TGreatestBoundFirst>;
+/// The cells that wait to be looked at, the one of the greatest bound first; cells of equal bound in the order in which
+/// they came.
+class TPendingCells {
+ public:
+  void Reserve(std::size_t aCount) { fCells.reserve(aCount + kMostCellsAddedBySplits); }
+  bool AreThere() const { return !fCells.empty(); }
 
-double DistanceToChain(const TEntityStorage* aChain, const TEntityCoordinate& aPoint) {
-  return aChain != nullptr ? aChain->MinPointToEntitiesDistance(aPoint) : std::numeric_limits<double>::infinity();
-}
+  void Add(const TCell& aCell) {
+    fCells.push_back({aCell, fAdded++});
+    std::push_heap(fCells.begin(), fCells.end(), ComesLater);
+  }
 
-bool IsInsideChain(const TEntityStorage* aChain, const TEntityCoordinate& aPoint, bool aIncludePointOnEntity) {
-  return aChain != nullptr && aChain->PointInsideEntities(aPoint, aIncludePointOnEntity);
-}
+  TCell TakeFirst() {
+    std::pop_heap(fCells.begin(), fCells.end(), ComesLater);
+    const TCell first = fCells.back().fCell;
+    fCells.pop_back();
+    return first;
+  }
 
-bool IsInsideMaterial(const TPoleRegion& aRegion, const TEntityCoordinate& aPoint) {
-  const auto isInsideChild = [&](const TEntityStorage* child) { return IsInsideChain(child, aPoint, true); };
-  return IsInsideChain(aRegion.fOutline, aPoint, false) && !IsInsideChain(aRegion.fInternal, aPoint, true) &&
-         std::none_of(aRegion.fChildOutlines.begin(), aRegion.fChildOutlines.end(), isInsideChild);
-}
+ private:
+  struct TNumberedCell {
+    TCell fCell;
+    std::uint32_t fNumber;
+  };
+
+  static constexpr std::size_t kMostCellsAddedBySplits = 4 * (kLargestSplitCount + 1);
+
+  static bool ComesLater(const TNumberedCell& aLeft, const TNumberedCell& aRight) {
+    const int order = CellComparer(aLeft.fCell, aRight.fCell);
+    return order != 0 ? order > 0 : aLeft.fNumber > aRight.fNumber;
+  }
+
+  std::vector<TNumberedCell> fCells;  // a heap
+  std::uint32_t fAdded = 0;
+};
 
 // The low sides of a row of cells from `aLow` up to `aHigh`; none when the row is endless or too long for a grid.
 std::vector<double> GetGridSteps(double aLow, double aHigh, double aStep) {
@@ -51,26 +110,25 @@ std::vector<double> GetGridSteps(double aLow, double aHigh, double aStep) {
 
 // Empty when the box would need more than the largest grid.
 // KEPT: more than 1000 columns or rows alone are no reason to give up: such a grid is completed and searched.
-TPendingCells CoverWithCells(const TPoleRegion& aRegion) {
-  const TEntityStorage& box = *aRegion.fOutline;
-  const double size = std::min(box.Max_X() - box.Min_X(), box.Max_Y() - box.Min_Y());
+TPendingCells CoverWithCells(const TEntityStorage& aBox, TMeasuredRegion& aRegion) {
+  const double size = GetCellSize(aBox);
   const double half = size / 2;
-  const std::vector<double> columns = GetGridSteps(box.Min_X(), box.Max_X(), size);
-  const std::vector<double> rows = GetGridSteps(box.Min_Y(), box.Max_Y(), size);
+  const std::vector<double> columns = GetGridSteps(aBox.Min_X(), aBox.Max_X(), size);
+  const std::vector<double> rows = GetGridSteps(aBox.Min_Y(), aBox.Max_Y(), size);
   TPendingCells cells;
   if (columns.size() * rows.size() > kLargestGrid) return cells;
+  cells.Reserve(columns.size() * rows.size());
   for (const double x : columns) {
-    for (const double y : rows) cells.emplace(x + half, y + half, half, aRegion);
+    for (const double y : rows) cells.Add(aRegion.MakeCell(x + half, y + half, half));
   }
   return cells;
 }
 
-void AddQuarters(TPendingCells& aCells, const TCell& aCell, const TPoleRegion& aRegion) {
+void AddQuarters(TPendingCells& aCells, const TCell& aCell, TMeasuredRegion& aRegion) {
   const double half = aCell.fHalfWidth / 2;
-  aCells.emplace(aCell.fCenter_X - half, aCell.fCenter_Y - half, half, aRegion);
-  aCells.emplace(aCell.fCenter_X + half, aCell.fCenter_Y - half, half, aRegion);
-  aCells.emplace(aCell.fCenter_X - half, aCell.fCenter_Y + half, half, aRegion);
-  aCells.emplace(aCell.fCenter_X + half, aCell.fCenter_Y + half, half, aRegion);
+  for (const double y : {aCell.fCenter_Y - half, aCell.fCenter_Y + half}) {
+    for (const double x : {aCell.fCenter_X - half, aCell.fCenter_X + half}) aCells.Add(aRegion.MakeCell(x, y, half));
+  }
 }
 
 bool HasInsideBox(TEntityStorage& aOutline) {
@@ -88,11 +146,14 @@ bool IsWorthSplitting(const TCell& aCell, const TCell& aBest, double aPrecision,
 }  // namespace
 
 TCell::TCell(double aCenter_X, double aCenter_Y, double aHalfWidth, const TPoleRegion& aRegion)
+    : TCell(aCenter_X, aCenter_Y, aHalfWidth, GetSignedDistance(aRegion, {aCenter_X, aCenter_Y})) {}
+
+TCell::TCell(double aCenter_X, double aCenter_Y, double aHalfWidth, double aDistance)
     : fCenter_X(aCenter_X),
       fCenter_Y(aCenter_Y),
       fHalfWidth(aHalfWidth),
-      fDistance(GetSignedDistance(aRegion, {aCenter_X, aCenter_Y})),
-      fMaxDistance(fDistance + fHalfWidth * kSquareRootOf2) {}
+      fDistance(aDistance),
+      fMaxDistance(aDistance + aHalfWidth * kSquareRootOf2) {}
 
 int CellComparer(const TCell& aLeft, const TCell& aRight) {
   const bool leftHasBound = !std::isnan(aLeft.fMaxDistance);
@@ -103,27 +164,27 @@ int CellComparer(const TCell& aLeft, const TCell& aRight) {
 }
 
 double GetSignedDistance(const TPoleRegion& aRegion, const TEntityCoordinate& aPoint) {
-  double distance = std::min(DistanceToChain(aRegion.fOutline, aPoint), DistanceToChain(aRegion.fInternal, aPoint));
-  for (const TEntityStorage* child : aRegion.fChildOutlines) {
-    distance = std::min(distance, DistanceToChain(child, aPoint));
-  }
-  return IsInsideMaterial(aRegion, aPoint) ? distance : -distance;
+  return TMeasuredRegion(aRegion).GetSignedDistance(aPoint);
 }
 
 TEntityCoordinate FindPoleInaccessibility(const TPoleRegion& aRegion, double aPrecision, double aMinimumDistance) {
   const bool searchable = aRegion.fSearchable && aRegion.fOutline != nullptr;
   if (!searchable || !HasInsideBox(*aRegion.fOutline)) return aRegion.fCentroid;
-  TCell best(aRegion.fCentroid.x, aRegion.fCentroid.y, 0, aRegion);
-  TPendingCells pending = CoverWithCells(aRegion);
+  TMeasuredRegion region(aRegion);
+  TCell best = region.MakeCell(aRegion.fCentroid.x, aRegion.fCentroid.y, 0);
+  // Nothing would be found that ends the splitting before it is given up.
+  const bool isHopeless =
+      !(best.fDistance > aMinimumDistance) && region.IsThinnerThan(aMinimumDistance, *aRegion.fOutline);
+  if (isHopeless) return aRegion.fCentroid;
+  TPendingCells pending = CoverWithCells(*aRegion.fOutline, region);
   std::int32_t splits = 0;
-  while (!pending.empty()) {
+  while (pending.AreThere()) {
     // KEPT: a search that has used up its splits answers the centroid, not the best cell it has found.
     if (splits > kLargestSplitCount) return aRegion.fCentroid;
-    const TCell cell = *pending.begin();
-    pending.erase(pending.begin());
+    const TCell cell = pending.TakeFirst();
     if (cell.fDistance > best.fDistance) best = cell;
     if (!IsWorthSplitting(cell, best, aPrecision, aMinimumDistance)) continue;
-    AddQuarters(pending, cell, aRegion);
+    AddQuarters(pending, cell, region);
     ++splits;
   }
   return {best.fCenter_X, best.fCenter_Y};

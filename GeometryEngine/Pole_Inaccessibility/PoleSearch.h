@@ -34,6 +34,8 @@ struct GEOMETRYENGINE_API TCell {
 
   /// COST: one distance to every boundary of the region.
   TCell(double aCenter_X, double aCenter_Y, double aHalfWidth, const TPoleRegion& aRegion);
+  /// A cell whose distance is known.
+  TCell(double aCenter_X, double aCenter_Y, double aHalfWidth, double aDistance);
 };
 
 /// Negative when `aLeft` comes before `aRight` (greater bound), positive when after, 0 when equal.
@@ -60,7 +62,8 @@ GEOMETRYENGINE_API double GetSignedDistance(const TPoleRegion& aRegion, const TE
 /// need more than 1,000,000 squares to cover (or squares too small to tell their positions apart), and when 1001
 /// splits have not settled the search.
 /// COST: one distance evaluation a square: the cover has as many as the box's longer side holds its shorter one, and
-/// every split adds four.
+/// every split adds four. An evaluation looks at the segments near by and the entities at its height, not at all; those
+/// are prepared once.
 GEOMETRYENGINE_API TEntityCoordinate FindPoleInaccessibility(const TPoleRegion& aRegion, double aPrecision,
                                                              double aMinimumDistance);
 

@@ -1,5 +1,6 @@
 #include "GeometryEngine/Pole_Inaccessibility/PoleSearch.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <memory>
@@ -248,6 +249,29 @@ TEST_F(FindPole, OfABoxThatNeedsMoreThanAMillionCellsIsTheCentroid) {
   EXPECT_THAT(Find(), IsBits(kCentroid));
   Outline(RectangleText(0, 0, 1, 1e300));
   EXPECT_THAT(Find(), IsBits(kCentroid));
+}
+
+// Up to a million cells each; more of them, and boxes too thin for a label, are answered at once.
+TEST_F(FindPole, OfBoxesOfEverySizeIsInsideOrTheCentroid) {
+  for (int w = -12; w <= 3; ++w) {
+    for (int h = -3; h <= 9; h += 3) {
+      const double width = std::pow(10, w);
+      const double height = std::pow(10, h);
+      Outline(RectangleText(0, 0, width, height));
+      const TEntityCoordinate found = Find();
+      const bool isInside = found.x > 0 && found.x < width && found.y > 0 && found.y < height;
+      EXPECT_TRUE(isInside || (found.x == kCentroid.x && found.y == kCentroid.y)) << width << " by " << height;
+      EXPECT_TRUE(isInside || std::min(width, height) < 0.01 || std::max(width, height) > 1e6 * std::min(width, height))
+          << width << " by " << height;
+    }
+  }
+}
+
+TEST_F(FindPole, OfAThinBoxIsTheCentroidLevelUprightAndSlanting) {
+  for (const char* vertices : {"0,0 50,0 50,0.0001 0,0.0001", "7,0 7.0002,0 7.0002,80 7,80", "0,0 30,40 30,40.0001"}) {
+    Outline(support::PolygonText(vertices));
+    EXPECT_THAT(Find(), IsBits(kCentroid)) << vertices;
+  }
 }
 
 TEST_F(FindPole, StepsThatGetLostInLargeCoordinatesEndTheSearch) {

@@ -1,0 +1,119 @@
+#include "GeometryEngine/Pole_Inaccessibility/detail/PoleSegments.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "GeometryEngine/GeometryEngine_Entity_Operations/PointTests.h"
+
+namespace GeometryEngine::detail {
+
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+bool IsFinite(const TEntityCoordinate& aPoint) {
+  return std::isfinite(aPoint.x) && std::isfinite(aPoint.y);
+}
+
+double GetLargest(const TEntityCoordinate& aPoint) {
+  return std::max(std::abs(aPoint.x), std::abs(aPoint.y));
+}
+
+/// How far a value lies outside a range.
+double GetExcess(double aValue, double aLow, double aHigh) {
+  return std::max({aLow - aValue, aValue - aHigh, 0.0});
+}
+
+}  // namespace
+
+TPlaneBox TPlaneBox::Around(const TEntityCoordinate& aPoint_A, const TEntityCoordinate& aPoint_B) {
+  return {std::min(aPoint_A.x, aPoint_B.x), std::max(aPoint_A.x, aPoint_B.x), std::min(aPoint_A.y, aPoint_B.y),
+          std::max(aPoint_A.y, aPoint_B.y)};
+}
+
+void TPlaneBox::Unite(const TPlaneBox& aOther) {
+  fMin_X = std::min(fMin_X, aOther.fMin_X);
+  fMax_X = std::max(fMax_X, aOther.fMax_X);
+  fMin_Y = std::min(fMin_Y, aOther.fMin_Y);
+  fMax_Y = std::max(fMax_Y, aOther.fMax_Y);
+}
+
+TPoleSegments::TPoleSegments(std::span<const TEntityStorage* const> aChains) {
+  for (const TEntityStorage* chain : aChains) {
+    const bool isFirst = chain == aChains.front();
+    if (!AddChain(*chain) || !isFirst) continue;
+    const std::vector<TPlaneBox> boxes = GetBoxes();
+    fFirstChain = boxes.front();
+    for (const TPlaneBox& box : boxes) fFirstChain->Unite(box);
+  }
+  fTree = TBlockTree<TPlaneBox>(GetBoxes());
+}
+
+/// False when the chain has no polyline, or not a whole one: a segment with an end that is not finite is left out. Its
+/// distance from any point is infinite or not a number, which makes no other distance smaller.
+bool TPoleSegments::AddChain(const TEntityStorage& aChain) {
+  const TCoordinateArray vertices = aChain.GetVertices_Surf(false);
+  if (vertices.size() < 2) return false;
+  const std::size_t before = fSegments.size();
+  for (std::size_t i = 0; i < vertices.size(); ++i) {
+    const TSegment segment{vertices[i], i + 1 < vertices.size() ? vertices[i + 1] : vertices.front()};
+    if (!IsFinite(segment.fStart) || !IsFinite(segment.fEnd)) continue;
+    fLargest = std::max({fLargest, GetLargest(segment.fStart), GetLargest(segment.fEnd)});
+    fSegments.push_back(segment);
+  }
+  return fSegments.size() - before == vertices.size();
+}
+
+std::vector<TPlaneBox> TPoleSegments::GetBoxes() const {
+  std::vector<TPlaneBox> boxes;
+  boxes.reserve(fSegments.size());
+  for (const TSegment& segment : fSegments) boxes.push_back(TPlaneBox::Around(segment.fStart, segment.fEnd));
+  return boxes;
+}
+
+double TPoleSegments::GetDistance(const TEntityCoordinate& aPoint, std::size_t aPlace) const {
+  return PointToSegmentDistance(aPoint, fSegments[aPlace].fStart, fSegments[aPlace].fEnd);
+}
+
+/// More than what rounding can change in a distance: some last places of the largest coordinate, since the closest
+/// point of a segment is one between its ends, whatever is rounded on the way.
+double TPoleSegments::GetRounding(double aLargest) const {
+  constexpr double kLastPlaces = 64 * std::numeric_limits<double>::epsilon();
+  constexpr double kLeast = 1e-150;  // drawing length units: squares of less may vanish
+  return std::max(kLastPlaces * std::max(fLargest, aLargest), kLeast);
+}
+
+double TPoleSegments::GetGreatestDistance(const TPlaneBox& aBox) const {
+  if (!fFirstChain) return kInfinity;
+  const TPlaneBox& chain = *fFirstChain;
+  const double besides = std::max({chain.fMin_X - aBox.fMin_X, aBox.fMax_X - chain.fMax_X, 0.0});
+  const double beyond = std::max({chain.fMin_Y - aBox.fMin_Y, aBox.fMax_Y - chain.fMax_Y, 0.0});
+  const double across = std::max(aBox.fMax_X - chain.fMin_X, chain.fMax_X - aBox.fMin_X);
+  const double along = std::max(aBox.fMax_Y - chain.fMin_Y, chain.fMax_Y - aBox.fMin_Y);
+  const double largest = std::max(GetLargest({aBox.fMin_X, aBox.fMin_Y}), GetLargest({aBox.fMax_X, aBox.fMax_Y}));
+  return std::min(besides + along, beyond + across) + GetRounding(largest);
+}
+
+double TPoleSegments::GetDistance(const TEntityCoordinate& aPoint) {
+  if (fSegments.empty() || !IsFinite(aPoint)) return kInfinity;
+  const double rounding = GetRounding(GetLargest(aPoint));
+  // Of two distances the smaller one is kept; one that is not a number is passed over.
+  double distance = std::min(kInfinity, GetDistance(aPoint, fClosest));
+  const auto mayBeCloser = [&](const TPlaneBox& aBox) {
+    const double dx = GetExcess(aPoint.x, aBox.fMin_X, aBox.fMax_X);
+    const double dy = GetExcess(aPoint.y, aBox.fMin_Y, aBox.fMax_Y);
+    const double reach = distance + rounding;
+    return !(dx * dx + dy * dy > reach * reach);
+  };
+  fTree.ForEach(mayBeCloser, [&](std::size_t aPlace) {
+    const double next = GetDistance(aPoint, aPlace);
+    if (next < distance) {
+      distance = next;
+      fClosest = aPlace;
+    }
+  });
+  return distance;
+}
+
+}  // namespace GeometryEngine::detail
