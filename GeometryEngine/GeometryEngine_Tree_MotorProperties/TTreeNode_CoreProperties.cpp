@@ -51,10 +51,7 @@ bool TTreeNode_CoreProperties::IsOfType(const TTreeNode_CoreProperties* aNode, T
 }
 
 bool TTreeNode_CoreProperties::IsOfType_WithinSet(const TGeometryRegionTypesSet& aTypes) const {
-  for (const TGeometryRegionType type : aTypes) {
-    if (IsOfType(type)) return true;
-  }
-  return false;
+  return aTypes.Contains(fRegionType) || aTypes.Contains(GetStandardRegionType());
 }
 
 TGeometryRegionType TTreeNode_CoreProperties::GetStandardRegionType() const {

@@ -8,6 +8,7 @@
 #include "GeometryEngine/DXF_EntityStorage/detail/PointOnEntity.h"
 #include "GeometryEngine/DXF_EntityStorage/detail/VertexWalk.h"
 #include "GeometryEngine/GeometryEngine_PointInPolygon/WindingContributions.h"
+#include "GeometryEngine/GetFunctions_GeometryOperations/ArcWalking.h"
 
 namespace GeometryEngine::detail {
 
@@ -16,6 +17,8 @@ namespace {
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kLastPlaces = 64 * std::numeric_limits<double>::epsilon();  // more than rounding takes or adds
 constexpr std::size_t kOutline = 0;                                          // number of the chain
+constexpr double kWindingChordTolerance = 0.01;                              // drawing length units from chord to arc
+constexpr std::int32_t kMostChordsListed = 10'000;                           // of one arc
 
 /// From the lowest to the highest of four heights, and as far again beyond them as asked for; all heights when that is
 /// no number.
@@ -37,17 +40,21 @@ double GetRounding_Line(const TDXFEntity& aLine, double aTolerance) {
   return kLastPlaces * (slope * reach + std::max(std::abs(start.y), std::abs(end.y)));
 }
 
-/// Outside these heights the entity holds no point and turns round none.
-THeightRange GetHeightRange(const TDXFEntity& aEntity, const TEntityCoordinate& aFrom, const TEntityCoordinate& aTo,
-                            double aTolerance) {
-  const double margin = std::max(aTolerance, 0.0);
-  if (aEntity.EntityType == DXFLine)
-    return GetWidened(aEntity.StartCoords.y, aEntity.EndCoords.y, aFrom.y, aTo.y,
-                      margin + GetRounding_Line(aEntity, aTolerance));
-  const double low = aEntity.CentreCoords.y - std::abs(aEntity.radius);
-  const double high = aEntity.CentreCoords.y + std::abs(aEntity.radius);
-  return GetWidened(low, high, low, high,
-                    margin + kLastPlaces * (std::abs(aEntity.CentreCoords.y) + std::abs(aEntity.radius)));
+THeightRange GetHeightRange_Chord(const TEntityCoordinate& aFrom, const TEntityCoordinate& aTo, double aTolerance) {
+  return GetWidened(aFrom.y, aTo.y, aFrom.y, aTo.y, std::max(aTolerance, 0.0));
+}
+
+THeightRange GetHeightRange_Line(const TDXFEntity& aLine, const TEntityCoordinate& aFrom, const TEntityCoordinate& aTo,
+                                 double aTolerance) {
+  return GetWidened(aLine.StartCoords.y, aLine.EndCoords.y, aFrom.y, aTo.y,
+                    std::max(aTolerance, 0.0) + GetRounding_Line(aLine, aTolerance));
+}
+
+THeightRange GetHeightRange_Arc(const TDXFEntity& aArc, double aTolerance) {
+  const double centre = aArc.CentreCoords.y;
+  const double radius = std::abs(aArc.radius);
+  return GetWidened(centre - radius, centre + radius, centre - radius, centre + radius,
+                    std::max(aTolerance, 0.0) + kLastPlaces * (std::abs(centre) + radius));
 }
 
 /// What a walk along one chain has learnt about a point.
@@ -66,27 +73,57 @@ void THeightRange::Unite(const THeightRange& aOther) {
 }
 
 TPoleOutlines::TPoleOutlines(std::span<const TEntityStorage* const> aChains)
-    : fPassed(GetPassed(aChains)), fTree(GetHeights(fPassed)) {}
+    : fParts(GetParts(aChains)), fTree(GetHeights(fParts)) {}
 
-std::vector<TPoleOutlines::TPassed> TPoleOutlines::GetPassed(std::span<const TEntityStorage* const> aChains) {
-  std::vector<TPassed> passed;
+std::vector<TPoleOutlines::TPart> TPoleOutlines::GetParts(std::span<const TEntityStorage* const> aChains) {
+  std::vector<TPart> parts;
   for (std::size_t number = 0; number < aChains.size(); ++number) {
     const TEntityStorage& chain = *aChains[number];
     for (TVertexWalk walk(chain.EntityArray(), chain.StartCoordinate()); walk.Next();) {
-      passed.push_back({&walk.Entity(), walk.From(), walk.To(), number});
+      const TPart part{&walk.Entity(), true, walk.From(), walk.To(), number};
+      if (walk.Entity().EntityType == DXFLine) parts.push_back(part);
+      if (walk.Entity().EntityType == DXFArc) AddChords(parts, part);
     }
   }
-  return passed;
+  return parts;
 }
 
-std::vector<THeightRange> TPoleOutlines::GetHeights(std::span<const TPassed> aPassed) {
+/// The arc, and behind it the chords by which it turns round points, unless there are very many.
+void TPoleOutlines::AddChords(std::vector<TPart>& aParts, TPart aArc) {
+  const TDXFEntity& arc = *aArc.fEntity;
+  const auto [count, step] = GetArcSegmentPoints_Surf(arc, kWindingChordTolerance);
+  aArc.fTurnsRound = count > kMostChordsListed;
+  aParts.push_back(aArc);
+  if (aArc.fTurnsRound) return;
+  const double startAngle = GetEntityStartAngle_Arc(aArc.fFrom, arc);
+  const TTravelDirection direction = GetArcTravelDirection(startAngle, arc);
+  TEntityCoordinate from = GetArc_LineSegmentCoord(arc, 0, direction, startAngle, step);
+  for (std::int32_t k = 1; k <= count; ++k) {
+    const TEntityCoordinate to = GetArc_LineSegmentCoord(arc, k, direction, startAngle, step);
+    aParts.push_back({nullptr, true, from, to, aArc.fChain});
+    from = to;
+  }
+}
+
+/// Outside its heights a part holds no point and turns round none.
+THeightRange TPoleOutlines::GetHeightRange(const TPart& aPart, double aTolerance) {
+  if (aPart.fEntity == nullptr) return GetHeightRange_Chord(aPart.fFrom, aPart.fTo, aTolerance);
+  if (aPart.fEntity->EntityType == DXFArc) return GetHeightRange_Arc(*aPart.fEntity, aTolerance);
+  return GetHeightRange_Line(*aPart.fEntity, aPart.fFrom, aPart.fTo, aTolerance);
+}
+
+std::vector<THeightRange> TPoleOutlines::GetHeights(std::span<const TPart> aParts) {
   const double tolerance = ReadLinearTolerance();
   std::vector<THeightRange> heights;
-  heights.reserve(aPassed.size());
-  for (const TPassed& passed : aPassed) {
-    heights.push_back(GetHeightRange(*passed.fEntity, passed.fFrom, passed.fTo, tolerance));
-  }
+  heights.reserve(aParts.size());
+  for (const TPart& part : aParts) heights.push_back(GetHeightRange(part, tolerance));
   return heights;
+}
+
+std::int32_t TPoleOutlines::GetWinding(const TPart& aPart, const TEntityCoordinate& aPoint) {
+  if (!aPart.fTurnsRound) return 0;
+  if (aPart.fEntity == nullptr) return DetermineInterceptResult(aPart.fFrom, aPart.fTo, aPoint);
+  return GetWindingNumber_Entity_Addition(*aPart.fEntity, aPart.fFrom, aPart.fTo, aPoint);
 }
 
 bool TPoleOutlines::Hold(const TEntityCoordinate& aPoint) const {
@@ -99,15 +136,14 @@ bool TPoleOutlines::Hold(const TEntityCoordinate& aPoint) const {
   };
   const auto isLevelWith = [&](const THeightRange& aHeights) { return aHeights.Holds(aPoint.y); };
   fTree.ForEach(isLevelWith, [&](std::size_t aPlace) {
-    const TPassed& passed = fPassed[aPlace];
-    if (passed.fChain != number) {
+    const TPart& part = fParts[aPlace];
+    if (part.fChain != number) {
       finishChain();
       test = {};
-      number = passed.fChain;
+      number = part.fChain;
     }
-    test.fIsOn = test.fIsOn || PointOnEntity(*passed.fEntity, aPoint);
-    if (!test.fIsOn)
-      test.fWinding += GetWindingNumber_Entity_Addition(*passed.fEntity, passed.fFrom, passed.fTo, aPoint);
+    test.fIsOn = test.fIsOn || (part.fEntity != nullptr && PointOnEntity(*part.fEntity, aPoint));
+    if (!test.fIsOn) test.fWinding += GetWinding(part, aPoint);
   });
   finishChain();
   return isWithinOutline && !isWithinHole;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <vector>
 
@@ -30,18 +31,22 @@ class TPoleOutlines {
   bool Hold(const TEntityCoordinate& aPoint) const;
 
  private:
-  /// An entity as the walk along its chain passes it.
-  struct TPassed {
-    const TDXFEntity* fEntity;
+  /// A part of a chain: an entity with the ends between which the walk passes it, or one chord of an arc.
+  struct TPart {
+    const TDXFEntity* fEntity;  ///< whose points are on the chain; nil for a chord
+    bool fTurnsRound;           ///< false for an arc whose chords follow: they do instead
     TEntityCoordinate fFrom;
     TEntityCoordinate fTo;
     std::size_t fChain;
   };
 
-  static std::vector<TPassed> GetPassed(std::span<const TEntityStorage* const> aChains);
-  static std::vector<THeightRange> GetHeights(std::span<const TPassed> aPassed);
+  static std::vector<TPart> GetParts(std::span<const TEntityStorage* const> aChains);
+  static void AddChords(std::vector<TPart>& aParts, TPart aArc);
+  static THeightRange GetHeightRange(const TPart& aPart, double aTolerance);
+  static std::vector<THeightRange> GetHeights(std::span<const TPart> aParts);
+  static std::int32_t GetWinding(const TPart& aPart, const TEntityCoordinate& aPoint);
 
-  std::vector<TPassed> fPassed;
+  std::vector<TPart> fParts;
   TBlockTree<THeightRange> fTree;
 };
 
