@@ -253,8 +253,46 @@ TEntityArray RectangleChain(Random& aRandom) {
           CreateEntity_Line(high, {low.x, high.y}), CreateEntity_Line({low.x, high.y}, low)};
 }
 
+TEntityArray PolygonChain(const TCoordinateArray& aVertices) {
+  TEntityArray chain;
+  for (std::size_t i = 0; i < aVertices.size(); ++i) {
+    chain.push_back(CreateEntity_Line(aVertices[i], aVertices[(i + 1) % aVertices.size()]));
+  }
+  return chain;
+}
+
+/// Teeth of many depths below a bar: the label lies in one of many narrow places.
+TEntityArray TeethChain(Random& aRandom) {
+  const int teeth = Whole(aRandom, 1, 10);
+  TCoordinateArray vertices;
+  for (int i = 0; i < teeth; ++i) {
+    vertices.push_back({i * 1.0, 0});
+    vertices.push_back({i + 0.5, aRandom.Between(-5, 0)});
+  }
+  vertices.push_back({teeth * 1.0, aRandom.Between(0.01, 3)});
+  vertices.push_back({0, aRandom.Between(0.01, 3)});
+  return PolygonChain(vertices);
+}
+
+/// About as thin as what still gets a label.
+TEntityArray SliverChain(Random& aRandom) {
+  const int corners = Whole(aRandom, 3, 12);
+  const double height = OneOf(aRandom, {1e-9, 1e-4, 3e-4, 1e-3, 1.5e-3, 2e-3, 4e-3});
+  const double angle = OneOf(aRandom, {0.0, 0.0, 0.01, 0.8});
+  TCoordinateArray vertices;
+  for (int i = 0; i < corners; ++i) {
+    const bool isBelow = i < corners / 2;
+    const double x = 0.1 * (isBelow ? i : corners - i) / corners;
+    const double y = aRandom.Chance(0.5) ? (isBelow ? 0 : height) : aRandom.Between(0, height);
+    vertices.push_back({x * std::cos(angle) - y * std::sin(angle), x * std::sin(angle) + y * std::cos(angle)});
+  }
+  return PolygonChain(vertices);
+}
+
 constexpr Kind kTwinChains[] = {{"star", StarChain},
                                 {"star", StarChain},
+                                {"teeth", TeethChain},
+                                {"sliver", SliverChain},
                                 {"sector chain", SectorChain},
                                 {"rectangle", RectangleChain},
                                 {"lines on a grid", GridLines},
