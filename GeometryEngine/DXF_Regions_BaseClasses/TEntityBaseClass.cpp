@@ -13,6 +13,7 @@ constexpr const char* kTreeName_Regions = "Regions";
 
 TEntityArray GetRegionEntities(const TEntityTree& aRegionTree, const TTreeNode& aRegion) {
   TEntityArray entities;
+  entities.reserve(static_cast<std::size_t>(aRegion.Count()));
   for (const TTreeNode* child : aRegion.Children()) entities.push_back(aRegionTree.GetNodeEntity(*child));
   return entities;
 }
@@ -69,9 +70,7 @@ void TEntityBaseClass::AddRegionEntities(TTreeNode_Geometry* aRegion, TIndex aRe
     aRegion->Centroid(region->RegionCentroid());
     aRegion->RegionArea_Base(std::abs(region->GaussArea()));
   }
-  const TEntityArray chain = GetRegionEntities(fRegionTree, *region);
-  entities.FreeEntities();
-  entities.AddEntities(chain);
+  entities.EntityArray() = GetRegionEntities(fRegionTree, *region);
   if (closed && region->GaussArea() < 0) entities.ReverseEntities();
 }
 

@@ -63,7 +63,7 @@ class TKnownChains {
   const TDXFEntity& EntityAt(TIndex aHalfEdge) const { return fGraph.Entity(fGraph.HalfEdge(aHalfEdge)); }
 
   bool IsReverse(const TTreeNode& aRegion, std::span<const TIndex> aPath) const {
-    const std::vector<TTreeNode*>& children = aRegion.Children();
+    const std::span<TTreeNode* const> children = aRegion.Children();
     return std::equal(children.rbegin(), children.rend(), aPath.begin(), aPath.end(),
                       [this](const TTreeNode* child, TIndex halfEdge) {
                         return fRegionTree.GetNodeEntity(*child) == EntityAt(halfEdge);

@@ -1,8 +1,10 @@
 #include <algorithm>
+#include <span>
 #include <utility>
+#include <vector>
 
 #include "GeometryEngine/DXF_Regions_BaseClasses/TEntityBaseClass.h"
-#include "GeometryEngine/DXF_Regions_Detection/Containment.h"
+#include "GeometryEngine/DXF_Regions_Detection/detail/RegionNesting.h"
 
 namespace GeometryEngine {
 
@@ -11,37 +13,72 @@ namespace {
 // KEPT: a container of this signed area or more is never the closest one; drawings in millimetres stay far below it.
 constexpr double kLargestContainer = 1e12;  // drawing units squared
 
-// KEPT: the signed area is compared, so that a clockwise container counts as smaller than every anticlockwise one.
-void KeepClosestContainer(const std::vector<TTreeNode*>& aRegions, std::int32_t aRegionIndex) {
-  double bestArea = kLargestContainer;
-  TTreeNode* best = nullptr;
-  bool listedBefore = false;
-  for (TTreeNode* region : aRegions) {
-    if (!region->CheckSubRegionIdentified(aRegionIndex)) continue;
-    TTreeNode* farther = region;
-    if (bestArea > region->GaussArea()) {
-      bestArea = region->GaussArea();
-      farther = std::exchange(best, region);
+// The container that a region stays in, as far as the containers have been looked through.
+struct TClosestContainer {
+  double fArea = kLargestContainer;
+  TIndex fClosest = kNotFound;
+  TIndex fFirst = kNotFound;     // the first container of all,
+  bool fFirstIsClosest = false;  // and whether it was the closest one then
+  TIndex fLast = kNotFound;      // the last one looked at
+
+  // KEPT: the signed area is compared, so that a clockwise container counts as smaller than every anticlockwise one.
+  void LookAt(TIndex aContainer, double aArea) {
+    const bool isCloser = fArea > aArea;
+    if (fFirst == kNotFound) {
+      fFirst = aContainer;
+      fFirstIsClosest = isCloser;
     }
-    if (listedBefore && farther != nullptr) farther->RemoveSubRegion(aRegionIndex);
-    listedBefore = true;
+    fLast = aContainer;
+    if (!isCloser) return;
+    fArea = aArea;
+    fClosest = aContainer;
   }
+  /// A first container that is too large to be the closest one is never left behind either: only a closest one is, and
+  /// those that come after a first.
+  bool StaysIn(TIndex aContainer) const { return aContainer == fClosest || (aContainer == fFirst && !fFirstIsClosest); }
+};
+
+// For each region its closest container among the regions that list it.
+std::vector<TClosestContainer> FindClosestContainers(std::span<TTreeNode* const> aRegions) {
+  std::vector<TClosestContainer> closest(aRegions.size());
+  for (std::size_t j = 0; j < aRegions.size(); ++j) {
+    for (const std::int32_t region : aRegions[j]->SubRegions()) {
+      if (!IsIndexWithin(region, closest.size())) continue;
+      TClosestContainer& container = closest[static_cast<std::size_t>(region)];
+      if (container.fLast != ToIndex(j)) container.LookAt(ToIndex(j), aRegions[j]->GaussArea());
+    }
+  }
+  return closest;
 }
 
 }  // namespace
 
 void TEntityBaseClass::IdentifySubRegions(const TEntityTree& aTree) {
-  const std::vector<TTreeNode*>& regions = fRegionTree.RootNode()->Children();
-  for (std::size_t i = 0; i < regions.size(); ++i) {
-    for (std::size_t j = 0; j < regions.size(); ++j) {
-      if (i != j && RegionContains_SubRegion(aTree, regions[i], regions[j])) regions[j]->AddSubRegion(ToIndex(i));
-    }
+  const std::span<TTreeNode* const> regions = fRegionTree.RootNode()->Children();
+  const std::vector<TIntegerArray> nested = detail::FindNestedRegions(fRegionTree, aTree);
+  for (std::size_t j = 0; j < regions.size(); ++j) {
+    for (const std::int32_t region : nested[j]) regions[j]->AddSubRegion(region);
   }
 }
 
 void TEntityBaseClass::RemoveDuplicatedSubRegions() {
-  const std::vector<TTreeNode*>& regions = fRegionTree.RootNode()->Children();
-  for (std::size_t r = 0; r < regions.size(); ++r) KeepClosestContainer(regions, ToIndex(r));
+  const std::span<TTreeNode* const> regions = fRegionTree.RootNode()->Children();
+  std::vector<TClosestContainer> closest = FindClosestContainers(regions);
+  for (TClosestContainer& container : closest) container.fLast = kNotFound;
+  for (std::size_t j = 0; j < regions.size(); ++j) {
+    TIntegerArray kept;
+    kept.reserve(regions[j]->SubRegions().size());
+    for (const std::int32_t region : regions[j]->SubRegions()) {
+      // Of an index that is listed twice only the first entry goes.
+      if (IsIndexWithin(region, closest.size()) &&
+          std::exchange(closest[static_cast<std::size_t>(region)].fLast, ToIndex(j)) != ToIndex(j) &&
+          !closest[static_cast<std::size_t>(region)].StaysIn(ToIndex(j))) {
+        continue;
+      }
+      kept.push_back(region);
+    }
+    regions[j]->SubRegions(std::move(kept));
+  }
 }
 
 bool TEntityBaseClass::GetIsRegionSubRegion(std::int32_t aRegionIndex) const {

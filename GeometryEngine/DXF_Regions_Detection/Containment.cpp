@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "GeometryEngine/DXF_EntityStorage/EntityEnds.h"
+#include "GeometryEngine/DXF_EntityStorage/detail/OtherEnd.h"
 #include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
 #include "GeometryEngine/DXF_Regions_Utilities/EntityTerms.h"
 #include "GeometryEngine/DXF_Regions_Utilities/RegionPoints.h"
@@ -80,11 +81,12 @@ bool StartsInside(const TEntityTree& aCoordinateTree, const TTreeNode& aRegion, 
 std::int32_t CalculateWindingNumber(const TEntityTree& aTree, const TTreeNode* aRegion,
                                     const TEntityCoordinate& aPoint) {
   if (aRegion == nullptr) return 0;
+  const double tolerance = detail::ReadLinearTolerance();
   TEntityCoordinate from = aRegion->Coordinates();
   std::uint32_t total = 0;  // unsigned: wraps round instead of overflowing
   for (const TTreeNode* child : aRegion->Children()) {
     const TDXFEntity& entity = aTree.GetNodeEntity(*child);
-    const TEntityCoordinate farEnd = GetEntityEndCoordinate(from, entity);
+    const TEntityCoordinate farEnd = detail::GetOtherEnd(from, entity, tolerance);
     total += static_cast<std::uint32_t>(GetWindingNumber_Entity_Addition(entity, from, farEnd, aPoint));
     from = farEnd;
   }

@@ -1,5 +1,7 @@
 #include "GeometryEngine/DXF_Regions_TreeClasses/TTreeNode.h"
 
+#include <utility>
+
 namespace GeometryEngine {
 
 namespace {
@@ -118,6 +120,10 @@ void TTreeNode::TravelDirection(TTravelDirection aTravelDirection) {
 
 const TIntegerArray& TTreeNode::SubRegions() const {
   return fSubRegionsArray;
+}
+
+void TTreeNode::SubRegions(TIntegerArray aSubRegions) {
+  fSubRegionsArray = std::move(aSubRegions);
 }
 
 TIndex TTreeNode::NumberSubRegions() const {

@@ -82,6 +82,7 @@ class GEOMETRYENGINE_API TTreeNode {
   // --------------------------------------------------------
 
   const TIntegerArray& SubRegions() const;
+  void SubRegions(TIntegerArray aSubRegions);
   TIndex NumberSubRegions() const;
   TIndex NumSubRegions() const;
   /// kNotFound outside the list.

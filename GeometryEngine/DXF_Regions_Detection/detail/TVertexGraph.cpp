@@ -97,7 +97,7 @@ TVertexGraph::TVertexGraph(const TEntityTree& aTree) : fEntities(EntitiesOf(aTre
 }
 
 void TVertexGraph::ReadTree(const TEntityTree& aTree) {
-  const std::vector<TTreeNode*>& vertices = aTree.RootNode()->Children();
+  const std::span<TTreeNode* const> vertices = aTree.RootNode()->Children();
   fPoints.reserve(vertices.size());
   fFirst.reserve(vertices.size() + 1);
   fHalfEdges.reserve(2 * fEntities.size());
