@@ -46,7 +46,11 @@ class TwinDetection {
   using Region = typename TEngine::Region;
 
   int Whole(int aLow, int aHigh) { return static_cast<int>(std::floor(fRandom.Between(aLow, aHigh + 1))); }
-  const std::vector<Node*>& TracedRegions() { return fDriver.RegionTree().RootNode()->Children(); }
+  static std::vector<Node*> ChildrenOf(const Node& aNode) {
+    const auto& children = aNode.Children();
+    return {children.begin(), children.end()};
+  }
+  std::vector<Node*> TracedRegions() { return ChildrenOf(*fDriver.RegionTree().RootNode()); }
 
   void Detect() {
     Apply(fDrawing.settings);
@@ -62,7 +66,7 @@ class TwinDetection {
   /// What a host may do to a graph that it has been handed, before it is traced.
   void Meddle(Tree& aTree) {
     TEntityArray& pieces = aTree.pEntityStorage()->EntityArray();
-    const std::vector<Node*>& vertices = aTree.RootNode()->Children();
+    const std::vector<Node*> vertices = ChildrenOf(*aTree.RootNode());
     if (vertices.empty()) return;
     Node* vertex = vertices[static_cast<std::size_t>(Whole(0, static_cast<int>(vertices.size()) - 1))];
     TDXFEntity& piece = pieces[static_cast<std::size_t>(Whole(0, static_cast<int>(pieces.size()) - 1))];
@@ -230,7 +234,7 @@ class TwinDetection {
     if (TracedRegions().empty()) return;
     Tree& tree = fDriver.RegionTree();
     Node* region = tree.RootNode()->GetNode(Whole(0, static_cast<int>(TracedRegions().size()) - 1));
-    const std::vector<Node*> children = region->Children();
+    const std::vector<Node*> children = ChildrenOf(*region);
     typename TEngine::Merge merge;
     merge.fParent = region;
     merge.fNode_A = children[0];
