@@ -78,6 +78,8 @@ std::vector<TScenario> Scenarios();
 std::vector<TScenario> ChainScenarios();
 std::vector<TScenario> DetectionScenarios();
 std::vector<TScenario> RegionScenarios();
+/// Random drawings of every kind through the whole detection; not among the others, since they take long.
+std::vector<TScenario> DrawingScenarios();
 
 /// Prepares, operates and observes.
 void Run(const TScenario& aScenario, TFingerprint& aFingerprint);

@@ -81,20 +81,28 @@ TEntityCoordinate Bytes::Coordinate() {
   return {x, Number()};
 }
 
+// Bytes are taken one after the other, never within one call: compilers differ in which argument they compute first.
+TDXFEntity Bytes::Arc(std::uint32_t aKind, const TEntityCoordinate& aFirst) {
+  const TEntityCoordinate second = aKind < 10 ? TEntityCoordinate{} : Coordinate();
+  const TEntityCoordinate third = aKind < 12 ? TEntityCoordinate{} : Coordinate();
+  if (aKind == 12) return CreateEntity_Arc_StartEnd(aFirst.x, aFirst.y, second.x, second.y, third.x, third.y);
+  const double radius = Number();
+  if (aKind == 10 || aKind == 11) return CreateEntity_Arc_StartEnd_Radius(aFirst, second, radius);
+  const double start = Angle();
+  const double end = Angle();
+  if (aKind < 10) return CreateEntity_Arc(aFirst.x, aFirst.y, radius, start, end);
+  return TDXFEntity::Arc(aFirst, second, third, radius, start, end);
+}
+
 TDXFEntity Bytes::Entity() {
   const std::uint32_t kind = Below(16);
-  if (kind < 7) return CreateEntity_Line(Coordinate(), Coordinate());
   const TEntityCoordinate first = Coordinate();
-  if (kind < 10) return CreateEntity_Arc(first.x, first.y, Number(), Angle(), Angle());
+  if (kind >= 7 && kind <= 13) return Arc(kind, first);
   const TEntityCoordinate second = Coordinate();
-  if (kind < 12) return CreateEntity_Arc_StartEnd_Radius(first, second, Number());
-  const TEntityCoordinate third = Coordinate();
-  if (kind == 12) return CreateEntity_Arc_StartEnd(first.x, first.y, second.x, second.y, third.x, third.y);
-  if (kind == 13) return TDXFEntity::Arc(first, second, third, Number(), Angle(), Angle());
-  if (kind == 14) return TDXFEntity::Line(first, second);
-  TDXFEntity none = TDXFEntity::Line(first, second);
-  none.EntityType = Flag() ? DXFRegion : DXFNoLineType;
-  return none;
+  if (kind < 7) return CreateEntity_Line(first, second);
+  TDXFEntity plain = TDXFEntity::Line(first, second);
+  if (kind == 15) plain.EntityType = Flag() ? DXFRegion : DXFNoLineType;
+  return plain;
 }
 
 TEntityArray Bytes::Entities(std::size_t aMost) {

@@ -41,6 +41,7 @@ class Bytes {
 
  private:
   double Raw();
+  GeometryEngine::TDXFEntity Arc(std::uint32_t aKind, const GeometryEngine::TEntityCoordinate& aFirst);
 
   std::span<const std::uint8_t> fBytes;
   std::size_t fPosition = 0;

@@ -76,7 +76,10 @@ void ChangeContainer(TEntityStorage& aChain, Bytes& aBytes) {
 
 void ChangeChain(TEntityStorage& aChain, Bytes& aBytes) {
   const TIndex before = aChain.Count();
-  switch (aBytes.Below(8)) {
+  const std::uint32_t choice = aBytes.Below(8);
+  const std::int32_t copies = aBytes.Index() % 20;
+  const double number = aBytes.Number();
+  switch (choice) {
     case 0: {
       const TEntityArray entities = aChain.EntityArray();
       aChain.ReverseEntities();
@@ -92,17 +95,17 @@ void ChangeChain(TEntityStorage& aChain, Bytes& aBytes) {
       aChain.RotateEntities(GetRotationMatrix(aBytes.Angle()));
       break;
     case 3:
-      aChain.Translate(aBytes.Number(), aBytes.Number());
+      aChain.Translate(number, aBytes.Number());
       break;
     case 4:
       aChain.Mirror(aBytes.Entity());
       Require(aChain.Count() == before, "a mirror keeps every entity");
       break;
     case 5:
-      aChain.DuplicateAroundAxis(aBytes.Index() % 20, aBytes.Index(), aBytes.Angle(), aBytes.Flag());
+      aChain.DuplicateAroundAxis(copies, aBytes.Index(), number, number > 0);
       break;
     case 6:
-      aChain.DuplicateAlongAxis(aBytes.Index() % 20, aBytes.Number());
+      aChain.DuplicateAlongAxis(copies, number);
       break;
     default:
       ChangeContainer(aChain, aBytes);

@@ -34,29 +34,32 @@ TTreeNode_Geometry& AddRegion(TTree_Geometry& aTree, Bytes& aBytes, TTreeNode_Ge
 }
 
 void ChangeRegion(TTree_Geometry& aTree, TTreeNode_Geometry& aRegion, Bytes& aBytes) {
-  switch (aBytes.Below(10)) {
+  const std::uint32_t choice = aBytes.Below(10);
+  const double number = aBytes.Number();
+  const std::int32_t copies = aBytes.Index() % 12;
+  switch (choice) {
     case 0:
-      aRegion.Rotate(aBytes.Angle());
+      aRegion.Rotate(number);
       break;
     case 1:
-      aRegion.Rotate_AboutPoint(aBytes.Angle(), aBytes.Coordinate());
+      aRegion.Rotate_AboutPoint(number, aBytes.Coordinate());
       break;
     case 2:
-      aRegion.Translate(aBytes.Number(), aBytes.Number());
+      aRegion.Translate(number, aBytes.Number());
       break;
     case 3:
       aRegion.Mirror(aBytes.Entity());
       break;
     case 4:
-      aRegion.Offset(aBytes.Number());
+      aRegion.Offset(number);
       break;
     case 5:
-      aRegion.NumberDuplications(aBytes.Index() % 12);
+      aRegion.NumberDuplications(copies);
       aRegion.Duplicate();
       break;
     case 6:
-      aRegion.NumberDuplications(aBytes.Index() % 12);
-      aRegion.DuplicateAndUnite(aBytes.Index() % 12, aBytes.Flag() ? gpRadial : gpAxial);
+      aRegion.NumberDuplications(copies);
+      aRegion.DuplicateAndUnite(aBytes.Index() % 12, number > 0 ? gpRadial : gpAxial);
       break;
     case 7:
       aRegion.DuplicationAngle(aBytes.Angle());

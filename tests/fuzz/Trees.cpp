@@ -56,10 +56,12 @@ TTreeNode_Geometry* Pick(const TTree_Geometry& aTree, Bytes& aBytes) {
 
 void ChangeTree(TTree_Geometry& aTree, TTree_Geometry& aOther, Bytes& aBytes) {
   const TIndex before = aTree.GetCount();
-  switch (aBytes.Below(8)) {
+  const std::uint32_t choice = aBytes.Below(8);
+  TTreeNode_Geometry* const node = Pick(choice == 6 ? aOther : aTree, aBytes);
+  switch (choice) {
     case 0: {
-      auto node = aTree.CreateTreeNode();
-      if (before < kMostNodes) aTree.AddNewTreeNode_AtIndex(node, aBytes.Index());
+      auto created = aTree.CreateTreeNode();
+      if (before < kMostNodes) aTree.AddNewTreeNode_AtIndex(created, aBytes.Index());
       break;
     }
     case 1: {
@@ -68,14 +70,14 @@ void ChangeTree(TTree_Geometry& aTree, TTree_Geometry& aOther, Bytes& aBytes) {
       break;
     }
     case 2:
-      aTree.RemoveFreeTreeNode(Pick(aTree, aBytes), aBytes.Flag());
+      aTree.RemoveFreeTreeNode(node, aBytes.Flag());
       break;
     case 3:
-      aTree.MoveTreeNode(Pick(aTree, aBytes), Pick(aTree, aBytes));
+      aTree.MoveTreeNode(node, Pick(aTree, aBytes));
       Require(aTree.GetCount() == before, "a move keeps every node");
       break;
     case 4:
-      aTree.MoveTreeNode_Recursive(Pick(aTree, aBytes), Pick(aTree, aBytes));
+      aTree.MoveTreeNode_Recursive(node, Pick(aTree, aBytes));
       Require(aTree.GetCount() == before, "a move keeps every node");
       break;
     case 5: {
@@ -85,7 +87,7 @@ void ChangeTree(TTree_Geometry& aTree, TTree_Geometry& aOther, Bytes& aBytes) {
       break;
     }
     case 6:
-      aTree.MoveTreeNode(Pick(aOther, aBytes), Pick(aTree, aBytes));
+      aTree.MoveTreeNode(node, Pick(aTree, aBytes));
       Require(aTree.GetCount() == before, "a node of another tree is refused");
       break;
     default:

@@ -3,12 +3,12 @@
 // standard exception comes out, nothing leaks, and the objects are as promised.
 
 #include <new>
-#include <ostream>
 
 #include <gtest/gtest.h>
 
 #include "tests/everything/Scenarios.h"
 #include "tests/reliability/Allocations.h"
+#include "tests/reliability/ScenarioNames.h"
 
 using everything::TGuarantee;
 using everything::TScenario;
@@ -16,13 +16,6 @@ using everything::TSubject;
 using GeometryEngine::support::LiveAllocations;
 using GeometryEngine::support::TFailingAllocation;
 using GeometryEngine::support::TFailure;
-
-namespace everything {
-void PrintTo(const TScenario& aScenario, std::ostream* aOut);
-void PrintTo(const TScenario& aScenario, std::ostream* aOut) {
-  *aOut << aScenario.name;
-}
-}  // namespace everything
 
 namespace {
 
@@ -110,10 +103,6 @@ class AllocationFailure : public testing::TestWithParam<TScenario> {
   }
 };
 
-std::string NameOf(const testing::TestParamInfo<TScenario>& aInfo) {
-  return aInfo.param.name;
-}
-
 }  // namespace
 
 TEST_P(AllocationFailure, OfOneAllocationLeavesEverythingAsPromised) {
@@ -124,7 +113,7 @@ TEST_P(AllocationFailure, ForGoodLeavesEverythingAsPromised) {
   FailEveryAllocation(TFailure::ForGood);
 }
 
-INSTANTIATE_TEST_SUITE_P(Every, AllocationFailure, testing::ValuesIn(everything::Scenarios()), NameOf);
+INSTANTIATE_TEST_SUITE_P(Every, AllocationFailure, testing::ValuesIn(everything::Scenarios()), everything::NameOf);
 
 TEST(TFailingAllocation, FailsTheOneThatWasAskedForAlone) {
   bool first = false;
