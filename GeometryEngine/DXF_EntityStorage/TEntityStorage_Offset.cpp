@@ -10,6 +10,7 @@
 #include "GeometryEngine/DXF_EntityStorage/detail/SurfaceSegments.h"
 #include "GeometryEngine/DXF_Entity_Types/detail/TPointIndex.h"
 #include "GeometryEngine/DXF_Regions_Utilities/EntityTerms.h"
+#include "GeometryEngine/FloatingPoint/TFloatEnvironment.h"
 #include "GeometryEngine/GeometryCreation_Drawing/EntityConstruction.h"
 #include "GeometryEngine/GeometryEngine_Arrays/CoordinateArrays.h"
 #include "GeometryEngine/GeometryEngine_Arrays/detail/RingOrder.h"
@@ -95,6 +96,7 @@ TDXFEntity GetOffsetArc(const TDXFEntity& aArc, const TEntityCoordinate& aFrom, 
 }  // namespace
 
 void TEntityStorage::Offset(double aDistance) {
+  const TFloatEnvironment environment;
   if (aDistance == 0) return;
   const TCoordinateArray polyline = GetVertices_Surf(false);
   const TCoordinateArray vertices = GetVertices();

@@ -5,6 +5,7 @@
 
 #include "GeometryEngine/DXF_Regions_BaseClasses/TEntityBaseClass.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/RegionNesting.h"
+#include "GeometryEngine/FloatingPoint/TFloatEnvironment.h"
 
 namespace GeometryEngine {
 
@@ -54,6 +55,7 @@ std::vector<TClosestContainer> FindClosestContainers(std::span<TTreeNode* const>
 }  // namespace
 
 void TEntityBaseClass::IdentifySubRegions(const TEntityTree& aTree) {
+  const TFloatEnvironment environment;
   const std::span<TTreeNode* const> regions = fRegionTree.RootNode()->Children();
   const std::vector<TIntegerArray> nested = detail::FindNestedRegions(fRegionTree, aTree);
   for (std::size_t j = 0; j < regions.size(); ++j) {
@@ -62,6 +64,7 @@ void TEntityBaseClass::IdentifySubRegions(const TEntityTree& aTree) {
 }
 
 void TEntityBaseClass::RemoveDuplicatedSubRegions() {
+  const TFloatEnvironment environment;
   const std::span<TTreeNode* const> regions = fRegionTree.RootNode()->Children();
   std::vector<TClosestContainer> closest = FindClosestContainers(regions);
   for (TClosestContainer& container : closest) container.fLast = kNotFound;

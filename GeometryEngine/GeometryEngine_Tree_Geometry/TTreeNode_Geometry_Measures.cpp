@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "GeometryEngine/DXF_EntityStorage/detail/ChainSums.h"
+#include "GeometryEngine/FloatingPoint/TFloatEnvironment.h"
 #include "GeometryEngine/GeometryEngine_Tree_Geometry/TTreeNode_Geometry.h"
 #include "GeometryEngine/host/Numerics.h"
 #include "GeometryEngine/host/TDataStore.h"
@@ -119,6 +120,7 @@ void TTreeNode_Geometry::MeasureChains() {
 }
 
 void TTreeNode_Geometry::UpdateGeometry_Outputs() {
+  const TFloatEnvironment environment;
   MeasureChains();
   if (!(fRegionArea_Base > Kelvaralinks::dataStore.GetValue(Maindataenum::TInputFields::ifMinimumLabelArea))) return;
   if (PointInsideRegion(fCentroid, TGeometryRegionTypesSet::All(), false)) {
@@ -154,6 +156,7 @@ void TTreeNode_Geometry::RegionCoordinate(const TEntityCoordinate& aCoordinate) 
 }
 
 void TTreeNode_Geometry::UpdateRegionCoordinate() {
+  const TFloatEnvironment environment;
   SetRegionCoordinate_Single(FindPoleInaccessibility(PoleRegion(), kPolePrecision, kPoleMinimumDistance));
 }
 

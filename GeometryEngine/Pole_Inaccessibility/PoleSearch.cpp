@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "GeometryEngine/FloatingPoint/TFloatEnvironment.h"
 #include "GeometryEngine/Pole_Inaccessibility/detail/PoleOutlines.h"
 #include "GeometryEngine/Pole_Inaccessibility/detail/PoleSegments.h"
 
@@ -168,6 +169,7 @@ double GetSignedDistance(const TPoleRegion& aRegion, const TEntityCoordinate& aP
 }
 
 TEntityCoordinate FindPoleInaccessibility(const TPoleRegion& aRegion, double aPrecision, double aMinimumDistance) {
+  const TFloatEnvironment environment;
   const bool searchable = aRegion.fSearchable && aRegion.fOutline != nullptr;
   if (!searchable || !HasInsideBox(*aRegion.fOutline)) return aRegion.fCentroid;
   TMeasuredRegion region(aRegion);
