@@ -1,6 +1,7 @@
 #include "GeometryEngine/DXF_Regions_BaseClasses/TEntityBaseClass.h"
 
 #include <cmath>
+#include <utility>
 
 namespace GeometryEngine {
 
@@ -63,6 +64,7 @@ const TEntityTree& TEntityBaseClass::RegionTree() const {
 void TEntityBaseClass::AddRegionEntities(TTreeNode_Geometry* aRegion, TIndex aRegionIndex) {
   const TTreeNode* region = fRegionTree.RootNode()->GetNode(aRegionIndex);
   if (aRegion == nullptr || region == nullptr) return;
+  TEntityArray chain = GetRegionEntities(fRegionTree, *region);
   const bool closed = aRegion->RegionPolyType() == ptClosed;
   TEntityStorage& entities = aRegion->Entities();
   entities.StartCoordinate(region->Coordinates());
