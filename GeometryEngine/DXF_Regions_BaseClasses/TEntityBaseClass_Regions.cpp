@@ -3,6 +3,7 @@
 #include "GeometryEngine/DXF_Entity_Types/detail/TEntityIndex.h"
 #include "GeometryEngine/DXF_Regions_BaseClasses/TEntityBaseClass.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TGraphWalk.h"
+#include "GeometryEngine/DXF_Regions_Detection/detail/TLoopTracing.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TVertexGraph.h"
 
 namespace GeometryEngine {
@@ -81,15 +82,15 @@ void TEntityBaseClass::DetermineRegions(TEntityTree& aTree, std::int32_t aRegion
   fRegionTree.Clear();
   fRegionTree.pEntityStorage(aTree.pEntityStorage());
   const detail::TVertexGraph graph(aTree);
-  detail::TGraphWalk walk(graph);
+  detail::TLoopTracing tracing(graph);
+  const bool wantsNegative = IsWanted(-1, aRegionType);
   for (TIndex h = 0; h < graph.HalfEdgeCount(); ++h) {
-    if (walk.IsTravelled(h) || graph.IsDangling(graph.HalfEdge(h).fVertex)) continue;
-    walk.Walk(h, true);
-    if (!walk.HasClosed()) continue;
-    const detail::TWalkSums sums = walk.GetSums();
-    if (IsWanted(sums.fArea, aRegionType)) AddWalkedRegion(fRegionTree, graph, walk, sums);
+    // A dangling end starts no closed loop.
+    if (tracing.Walk().IsTravelled(h) || graph.IsDangling(graph.HalfEdge(h).fVertex)) continue;
+    if (!tracing.Trace(h, wantsNegative) || !IsWanted(tracing.Sums().fArea, aRegionType)) continue;
+    AddWalkedRegion(fRegionTree, graph, tracing.Walk(), tracing.Sums());
   }
-  walk.WriteMarks();
+  tracing.Walk().WriteMarks();
 }
 
 void TEntityBaseClass::DetectOrphanEntities(TEntityTree& aTree) {

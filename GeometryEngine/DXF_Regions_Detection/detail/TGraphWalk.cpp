@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include "GeometryEngine/DXF_Entity_Types/detail/PointSameness.h"
 
@@ -46,12 +47,33 @@ TGraphWalk::TGraphWalk(const TVertexGraph& aGraph)
 void TGraphWalk::Walk(TIndex aHalfEdge, bool aBacktracking) {
   for (const TIndex h : fPath) TakeOffPath(h);
   fPath.clear();
+  fBacktracks = aBacktracking;
+  fAvoidsBridges = !fIsBridge.empty();
+  Begin(aHalfEdge);
+}
+
+void TGraphWalk::WalkAgainOverBridges() {
+  const TIndex first = fPath.front();
+  for (const TIndex h : fPath) {
+    TakeOffPath(h);
+    fIsTravelled[At(h)] = 0;
+  }
+  fPath.clear();
+  fAvoidsBridges = false;
+  Begin(first);
+}
+
+void TGraphWalk::Begin(TIndex aHalfEdge) {
   fBlocked.clear();
   fSteps.clear();
   fStart = fGraph.From(fGraph.HalfEdge(aHalfEdge));
-  fBacktracks = aBacktracking;
   fHasClosed = false;
+  fPassedByBridges = false;
   WalkToEnd(*this, aHalfEdge);
+}
+
+void TGraphWalk::AvoidBridges(std::vector<std::uint8_t> aIsBridge) {
+  fIsBridge = std::move(aIsBridge);
 }
 
 TWalkSums TGraphWalk::GetSums() const {
@@ -114,6 +136,7 @@ void TGraphWalk::Close(const TTurn<TIndex>& aLast) {
 TIndex TGraphWalk::StepBack() {
   const TIndex last = fPath.back();
   fBlocked.push_back(last);
+  ++fStepsBack;
   if (fPath.size() < 2) {
     FreeBlocked();
     TakeOffPath(last);
@@ -140,8 +163,11 @@ TTurn<TIndex> TGraphWalk::FindSharpestTurn() {
   return FindByAngle(last);
 }
 
-bool TGraphWalk::MayTake(TIndex aCandidate, TIndex aLast) const {
-  return !IsTravelled(aCandidate) && !IsSameEntity(aCandidate, aLast);
+bool TGraphWalk::MayTake(TIndex aCandidate, TIndex aLast) {
+  if (IsTravelled(aCandidate) || IsSameEntity(aCandidate, aLast)) return false;
+  if (!fAvoidsBridges || !IsBridge(aCandidate)) return true;
+  fPassedByBridges = true;
+  return false;
 }
 
 bool TGraphWalk::IsSameEntity(TIndex aCandidate, TIndex aLast) const {
@@ -186,7 +212,7 @@ double TGraphWalk::GetClearTurn(TIndex aLast, TIndex aCandidate) {
   return isClear ? turn : std::numeric_limits<double>::quiet_NaN();
 }
 
-TTurn<TIndex> TGraphWalk::FindByAngle(TIndex aLast) const {
+TTurn<TIndex> TGraphWalk::FindByAngle(TIndex aLast) {
   const THalfEdge& last = fGraph.HalfEdge(aLast);
   const TEntityCoordinate vertex = fGraph.FarEnd(last);
   const TVector_Single arriving = GetEntityVector(fGraph.From(last), vertex, fGraph.Entity(last), kVector_Arriving);

@@ -39,6 +39,16 @@ class TGraphWalk {
   /// closed the centroid is divided.
   TWalkSums GetSums() const;
 
+  /// From now on walks pass by these half-edges (1 stands for a bridge) as if they were travelled.
+  void AvoidBridges(std::vector<std::uint8_t> aIsBridge);
+  bool IsBridge(TIndex aHalfEdge) const { return !fIsBridge.empty() && fIsBridge[At(aHalfEdge)] != 0; }
+  /// True when the last walk came by a bridge that it might have turned into.
+  bool PassedByBridges() const { return fPassedByBridges; }
+  /// Walks the last walk's loop once more, over bridges and back.
+  void WalkAgainOverBridges();
+  /// How often all walks together have stepped back.
+  std::size_t StepsBack() const { return fStepsBack; }
+
   bool IsTravelled(TIndex aHalfEdge) const { return fIsTravelled[At(aHalfEdge)] != 0; }
   void WriteMarks() const;
 
@@ -57,10 +67,11 @@ class TGraphWalk {
   void PutOnPath(TIndex aHalfEdge);
   void TakeOffPath(TIndex aHalfEdge);
   void FreeBlocked();
-  bool MayTake(TIndex aCandidate, TIndex aLast) const;
+  void Begin(TIndex aHalfEdge);
+  bool MayTake(TIndex aCandidate, TIndex aLast);
   bool IsSameEntity(TIndex aCandidate, TIndex aLast) const;
   TIndex FindClearlySharpest(TIndex aLast);
-  TTurn<TIndex> FindByAngle(TIndex aLast) const;
+  TTurn<TIndex> FindByAngle(TIndex aLast);
   double GetClearTurn(TIndex aLast, TIndex aCandidate);
   double DirectionLeaving(TIndex aHalfEdge);
   double DirectionArriving(TIndex aHalfEdge);
@@ -74,7 +85,11 @@ class TGraphWalk {
 
   TEntityCoordinate fStart;
   bool fBacktracks = false;
+  bool fAvoidsBridges = false;
+  bool fPassedByBridges = false;
   bool fHasClosed = false;
+  std::vector<std::uint8_t> fIsBridge;  // by half-edge, once bridges are avoided
+  std::size_t fStepsBack = 0;
   std::vector<TIndex> fPath;
   std::vector<TIndex> fBlocked;
   std::vector<TIndex> fSteps;     // half-edges whose terms were added, and the complements of those taken out again

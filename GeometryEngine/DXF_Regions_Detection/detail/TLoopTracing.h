@@ -1,0 +1,41 @@
+#pragma once
+
+// Tracing of the loops of a whole vertex graph. Private.
+
+#include "GeometryEngine/DXF_Regions_Detection/detail/TGraphWalk.h"
+#include "GeometryEngine/DXF_Regions_Detection/detail/TVertexGraph.h"
+
+namespace GeometryEngine::detail {
+
+/// Walks that close, one after the other, and what they add up to.
+///
+/// A bridge of the graph can't be on a loop. Once the walks have stepped back as often as there are half-edges, bridges
+/// are looked for, and walks neither start on one nor turn into one: what lies beyond would be walked in vain, by one
+/// walk after the other. docs/numerics.md says why that changes no answer.
+///
+/// REQUIRES: a graph that outlives the tracing.
+/// COST: few steps for each half-edge, and the steps that kept loops make beyond bridges and back.
+class TLoopTracing {
+ public:
+  explicit TLoopTracing(const TVertexGraph& aGraph) : fGraph(aGraph), fWalk(aGraph) {}
+
+  /// Traces the loop that starts with the half-edge. False when there is none. A loop of negative area may have its
+  /// sign right only, unless `aNegativeToo`.
+  bool Trace(TIndex aHalfEdge, bool aNegativeToo);
+
+  /// Of the loop traced last.
+  const TGraphWalk& Walk() const { return fWalk; }
+  const TWalkSums& Sums() const { return fSums; }
+
+ private:
+  void FindBridgesOnceTheyMatter();
+  double GetSumsSlack() const;
+
+  const TVertexGraph& fGraph;
+  TGraphWalk fWalk;
+  TWalkSums fSums;
+  bool fKnowsBridges = false;
+  double fSlack = 0;  // more than the rounding of any sum of areas
+};
+
+}  // namespace GeometryEngine::detail
