@@ -26,20 +26,21 @@ TIndex GetWalkedEntityIndex(const TEntityTree& aCoordinateTree, std::int32_t aNo
 }
 
 // The region tree's node of a loop or chain, without its entities.
-TTreeNode* AddRegion(TEntityTree& aRegionTree, const TEntityCoordinate& aStart, const detail::TWalkSums& aSums) {
+TTreeNode* AddRegion(TEntityTree& aRegionTree, const TEntityCoordinate& aStart, const TEntityCoordinate& aCentroid,
+                     double aArea) {
   TTreeNode* region = aRegionTree.AddTreeNode_ToRoot();
   region->Coordinates(aStart);
   region->ResetRegionIdentifier();
-  region->GaussArea(aSums.fArea);
-  region->RegionCentroid(aSums.fCentroid);
-  region->TravelDirection(aSums.fArea >= 0 ? Travel_AntiClockwise : Travel_Clockwise);
+  region->GaussArea(aArea);
+  region->RegionCentroid(aCentroid);
+  region->TravelDirection(aArea >= 0 ? Travel_AntiClockwise : Travel_Clockwise);
   return region;
 }
 
 void AddWalkedRegion(TEntityTree& aRegionTree, const detail::TVertexGraph& aGraph, const detail::TGraphWalk& aWalk,
-                     const detail::TWalkSums& aSums) {
+                     double aArea) {
   const TEntityCoordinate& start = aGraph.From(aGraph.HalfEdge(aWalk.Path().front()));
-  TTreeNode* region = AddRegion(aRegionTree, start, aSums);
+  TTreeNode* region = AddRegion(aRegionTree, start, aWalk.GetCentroid(aArea), aArea);
   for (const TIndex h : aWalk.Path()) aRegionTree.AddTreeNode(region)->EntityIndex(aGraph.HalfEdge(h).fEntityIndex);
 }
 
@@ -87,8 +88,8 @@ void TEntityBaseClass::DetermineRegions(TEntityTree& aTree, std::int32_t aRegion
   for (TIndex h = 0; h < graph.HalfEdgeCount(); ++h) {
     // A dangling end starts no closed loop.
     if (tracing.Walk().IsTravelled(h) || graph.IsDangling(graph.HalfEdge(h).fVertex)) continue;
-    if (!tracing.Trace(h, wantsNegative) || !IsWanted(tracing.Sums().fArea, aRegionType)) continue;
-    AddWalkedRegion(fRegionTree, graph, tracing.Walk(), tracing.Sums());
+    if (!tracing.Trace(h, wantsNegative) || !IsWanted(tracing.Area(), aRegionType)) continue;
+    AddWalkedRegion(fRegionTree, graph, tracing.Walk(), tracing.Area());
   }
   tracing.Walk().WriteMarks();
 }
@@ -104,7 +105,7 @@ void TEntityBaseClass::DetectOrphanEntities(TEntityTree& aTree) {
     walk.Walk(h, false);
     if (known.HoldReverseOf(walk.Path())) continue;
     known.Add(walk.Path());
-    AddWalkedRegion(fRegionTree, graph, walk, walk.GetSums());
+    AddWalkedRegion(fRegionTree, graph, walk, walk.GetArea());
   }
   walk.WriteMarks();
 }
@@ -113,7 +114,7 @@ void TEntityBaseClass::AddRegionCoordinates(const TEntityTree& aCoordinateTree,
                                             std::span<const std::int32_t> aNodeIndexes, const TEntityCoordinate& aStart,
                                             const TEntityCoordinate& aCentroid, double aArea) {
   if (aNodeIndexes.empty()) return;
-  TTreeNode* region = AddRegion(fRegionTree, aStart, {aCentroid, aArea});
+  TTreeNode* region = AddRegion(fRegionTree, aStart, aCentroid, aArea);
   for (const std::int32_t index : aNodeIndexes) {
     fRegionTree.AddTreeNode(region)->EntityIndex(GetWalkedEntityIndex(aCoordinateTree, index));
   }

@@ -27,12 +27,6 @@ double DirectionOf(const TVector_Single& aVector) {
   return slope < 0 ? kFullTurn + slope : slope;
 }
 
-void Add(TWalkSums& aSums, const TEntityCoordinate& aFrom, const TEntityCoordinate& aFarEnd, const TDXFEntity& aEntity,
-         double aSign) {
-  aSums.fCentroid = aSums.fCentroid + aSign * GetCentroidComponent_Entity(aFrom, aFarEnd, aEntity);
-  aSums.fArea = aSums.fArea + aSign * GetSignedArea_Entity(aFrom, aFarEnd, aEntity);
-}
-
 }  // namespace
 
 TGraphWalk::TGraphWalk(const TVertexGraph& aGraph)
@@ -76,16 +70,26 @@ void TGraphWalk::AvoidBridges(std::vector<std::uint8_t> aIsBridge) {
   fIsBridge = std::move(aIsBridge);
 }
 
-TWalkSums TGraphWalk::GetSums() const {
-  TWalkSums sums;
+// A sign of -1 takes back what a sign of +1 has added.
+template <class TSum, class TTerm>
+TSum TGraphWalk::SumUp(const TTerm& aGetTerm) const {
+  TSum sum{};
   for (const TIndex step : fSteps) {
     const THalfEdge& halfEdge = fGraph.HalfEdge(step < 0 ? ~step : step);
-    Add(sums, fGraph.From(halfEdge), fGraph.FarEnd(halfEdge), fGraph.Entity(halfEdge), step < 0 ? -1 : 1);
+    const double sign = step < 0 ? -1 : 1;
+    sum = sum + sign * aGetTerm(fGraph.From(halfEdge), fGraph.FarEnd(halfEdge), fGraph.Entity(halfEdge));
   }
-  if (!fHasClosed) return sums;
-  Add(sums, fLastVertex, fLastFarEnd, fGraph.Entity(fGraph.HalfEdge(fPath.back())), 1);
-  sums.fCentroid = (1 / (sums.fArea * 6)) * sums.fCentroid;
-  return sums;
+  if (!fHasClosed) return sum;
+  return sum + 1.0 * aGetTerm(fLastVertex, fLastFarEnd, fGraph.Entity(fGraph.HalfEdge(fPath.back())));
+}
+
+double TGraphWalk::GetArea() const {
+  return SumUp<double>(GetSignedArea_Entity);
+}
+
+TEntityCoordinate TGraphWalk::GetCentroid(double aArea) const {
+  const auto sum = SumUp<TEntityCoordinate>(GetCentroidComponent_Entity);
+  return fHasClosed ? (1 / (aArea * 6)) * sum : sum;
 }
 
 void TGraphWalk::WriteMarks() const {

@@ -12,12 +12,6 @@
 
 namespace GeometryEngine::detail {
 
-/// What the entities along a walk add up to.
-struct TWalkSums {
-  TEntityCoordinate fCentroid;  ///< the bare sum until it is divided by six times the area
-  double fArea = 0;
-};
-
 /// Walks one after the other through one graph. Marks of travel are kept here from walk to walk, and taken over from
 /// the tree at first; they are the walk's own until `WriteMarks` puts them into the tree.
 ///
@@ -35,9 +29,11 @@ class TGraphWalk {
   std::span<const TIndex> Path() const { return fPath; }
   /// True when the last walk closed a loop.
   bool HasClosed() const { return fHasClosed; }
-  /// The sums of the last walk, in the order of its steps to and fro, as the bits depend on it. Of a loop that has
-  /// closed the centroid is divided.
-  TWalkSums GetSums() const;
+  /// The signed area along the last walk. All its steps to and fro are summed up in their order, as the bits depend on
+  /// it.
+  double GetArea() const;
+  /// The centroid of the loop that the last walk has closed, given its area; of an open chain the bare sum.
+  TEntityCoordinate GetCentroid(double aArea) const;
 
   /// From now on walks pass by these half-edges (1 stands for a bridge) as if they were travelled.
   void AvoidBridges(std::vector<std::uint8_t> aIsBridge);
@@ -67,6 +63,8 @@ class TGraphWalk {
   void PutOnPath(TIndex aHalfEdge);
   void TakeOffPath(TIndex aHalfEdge);
   void FreeBlocked();
+  template <class TSum, class TTerm>
+  TSum SumUp(const TTerm& aGetTerm) const;
   void Begin(TIndex aHalfEdge);
   bool MayTake(TIndex aCandidate, TIndex aLast);
   bool IsSameEntity(TIndex aCandidate, TIndex aLast) const;

@@ -12,12 +12,12 @@ bool TLoopTracing::Trace(TIndex aHalfEdge, bool aNegativeToo) {
   if (fWalk.IsBridge(aHalfEdge)) return false;
   fWalk.Walk(aHalfEdge, true);
   if (!fWalk.HasClosed()) return false;
-  fSums = fWalk.GetSums();
-  const bool clearlyNegative = fSums.fArea < -fSlack;
+  fArea = fWalk.GetArea();
+  const bool clearlyNegative = fArea < -fSlack;
   if (!fWalk.PassedByBridges() || (clearlyNegative && !aNegativeToo)) return true;
   // The steps over a bridge and back leave their rounding in the sums.
   fWalk.WalkAgainOverBridges();
-  fSums = fWalk.GetSums();
+  fArea = fWalk.GetArea();
   return true;
 }
 
@@ -26,12 +26,12 @@ void TLoopTracing::FindBridgesOnceTheyMatter() {
   if (fKnowsBridges || fWalk.StepsBack() <= halfEdges || !fGraph.IsRegular()) return;
   fKnowsBridges = true;
   fWalk.AvoidBridges(FindBridges(fGraph));
-  fSlack = GetSumsSlack();
+  fSlack = GetAreaSlack();
 }
 
 // A sum is at most the sum of all magnitudes, and rounded at most six times for each half-edge: when it is walked,
 // walked again after a step back, and taken out.
-double TLoopTracing::GetSumsSlack() const {
+double TLoopTracing::GetAreaSlack() const {
   constexpr double kRoundings = 16 * std::numeric_limits<double>::epsilon();
   double magnitudes = 0;
   for (TIndex h = 0; h < fGraph.HalfEdgeCount(); ++h) {

@@ -25,15 +25,15 @@ class TLoopTracing {
 
   /// Of the loop traced last.
   const TGraphWalk& Walk() const { return fWalk; }
-  const TWalkSums& Sums() const { return fSums; }
+  double Area() const { return fArea; }
 
  private:
   void FindBridgesOnceTheyMatter();
-  double GetSumsSlack() const;
+  double GetAreaSlack() const;
 
   const TVertexGraph& fGraph;
   TGraphWalk fWalk;
-  TWalkSums fSums;
+  double fArea = 0;
   bool fKnowsBridges = false;
   double fSlack = 0;  // more than the rounding of any sum of areas
 };
