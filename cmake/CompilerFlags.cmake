@@ -15,7 +15,7 @@ if(GEOMETRYENGINE_WARNINGS_AS_ERRORS)
 endif()
 if(GEOMETRYENGINE_SANITIZE)
   target_compile_options(geometryengine_flags INTERFACE
-    -fsanitize=${GEOMETRYENGINE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    -D_GLIBCXX_ASSERTIONS -fsanitize=${GEOMETRYENGINE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(geometryengine_flags INTERFACE -fsanitize=${GEOMETRYENGINE_SANITIZE})
 endif()
 if(GEOMETRYENGINE_FUZZ)
