@@ -72,7 +72,7 @@ void TEntityBaseClass::AddRegionEntities(TTreeNode_Geometry* aRegion, TIndex aRe
     aRegion->Centroid(region->RegionCentroid());
     aRegion->RegionArea_Base(std::abs(region->GaussArea()));
   }
-  entities.EntityArray() = GetRegionEntities(fRegionTree, *region);
+  entities.EntityArray() = std::move(chain);
   if (closed && region->GaussArea() < 0) entities.ReverseEntities();
 }
 

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <span>
+#include <vector>
 
 #include "GeometryEngine/DXF_EntityStorage/TEntityStorage.h"
 #include "GeometryEngine/DXF_Regions_TreeClasses/TEntityTree.h"
@@ -101,7 +102,7 @@ class GEOMETRYENGINE_API TEntityBaseClass {
   /// Leaves each region listed in its closest container only, the one of least signed area.
   /// RANGE: containers below 1e12 drawing units squared; clockwise regions count as the smallest.
   void RemoveDuplicatedSubRegions();
-  /// True when some region lists this one.
+  /// True when some region lists this one. COST: a look at all lists after they have changed, else constant.
   bool GetIsRegionSubRegion(std::int32_t aRegionIndex) const;
 
   // Hand-over ---------------------------------------------------------------------------------------------------------
@@ -113,12 +114,20 @@ class GEOMETRYENGINE_API TEntityBaseClass {
   void AddRegionEntities(TTreeNode_Geometry* aRegion, TIndex aRegionIndex);
 
  private:
+  // Which regions are listed by some region, as of a count of the region tree's changes.
+  struct TListedRegions {
+    std::uint64_t fNestingChanges = 0;
+    std::vector<bool> fIsListed;  // by index; for as many as there are regions
+  };
+  const std::vector<bool>& ListedRegions() const;
+
   // The storage stands first: trees refer to it, so it is destroyed last.
   TEntityStorage fEntityStorage_Regions;
   TEntityTree fCoordinateTree;
   TEntityTree fCoordinateTree_Duplicated;
   TEntityTree fInterceptTree;
   TEntityTree fRegionTree;
+  mutable TListedRegions fListedRegions;
 };
 
 }  // namespace GeometryEngine

@@ -85,9 +85,26 @@ void TEntityBaseClass::RemoveDuplicatedSubRegions() {
 }
 
 bool TEntityBaseClass::GetIsRegionSubRegion(std::int32_t aRegionIndex) const {
+  const std::vector<bool>& isListed = ListedRegions();
+  if (IsIndexWithin(aRegionIndex, isListed.size())) return isListed[static_cast<std::size_t>(aRegionIndex)];
   return std::ranges::any_of(fRegionTree.RootNode()->Children(), [aRegionIndex](const TTreeNode* region) {
     return region->CheckSubRegionIdentified(aRegionIndex);
   });
+}
+
+// Hosts ask region by region.
+const std::vector<bool>& TEntityBaseClass::ListedRegions() const {
+  auto& [nestingChanges, isListed] = fListedRegions;
+  const std::span<TTreeNode* const> regions = fRegionTree.RootNode()->Children();
+  if (nestingChanges == fRegionTree.NestingChanges() && isListed.size() == regions.size()) return isListed;
+  isListed.assign(regions.size(), false);
+  for (const TTreeNode* region : regions) {
+    for (const std::int32_t index : region->SubRegions()) {
+      if (IsIndexWithin(index, isListed.size())) isListed[static_cast<std::size_t>(index)] = true;
+    }
+  }
+  nestingChanges = fRegionTree.NestingChanges();
+  return isListed;
 }
 
 }  // namespace GeometryEngine

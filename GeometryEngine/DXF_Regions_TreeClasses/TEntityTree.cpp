@@ -80,6 +80,7 @@ void TEntityTree::AttachChild(TTreeNode& aParentNode, TTreeNode& aNode, TIndex a
 }
 
 void TEntityTree::RemoveTreeNode(TTreeNode* aNode, bool aRemoveChildren) {
+  ++fNestingChanges;
   const auto entry = std::find(fTreeNodes.begin(), fTreeNodes.end(), aNode);
   if (entry == fTreeNodes.end() || aNode == fRootNode.get()) return;
   TTreeNode& parent = *aNode->fParent;
@@ -98,6 +99,7 @@ void TEntityTree::HandChildrenTo(TTreeNode& aParentNode, TTreeNode& aNode) {
 }
 
 void TEntityTree::ReleaseSubtree(TTreeNode& aNode) {
+  ++fNestingChanges;
   if (fRemoveAll) return;
   // Leaf by leaf and without memory of its own, since a destructor gets here when memory has run out.
   TIndex released = 0;
@@ -118,6 +120,7 @@ void TEntityTree::ReleaseSubtree(TTreeNode& aNode) {
 }
 
 void TEntityTree::Clear() {
+  ++fNestingChanges;
   fRemoveAll = true;
   findex = 0;
   EmptyChildLists();
@@ -208,6 +211,10 @@ const std::string& TEntityTree::Name() const {
   return fTreeName;
 }
 
+std::uint64_t TEntityTree::NestingChanges() const {
+  return fNestingChanges;
+}
+
 TEntityStorage* TEntityTree::pEntityStorage() const {
   return fEntityStorage;
 }
@@ -224,6 +231,10 @@ TTreeNode::TTreeNode(TEntityTree* aTree) : ftree(aTree) {
 
 TTreeNode::~TTreeNode() {
   if (ftree != nullptr) ftree->ReleaseSubtree(*this);
+}
+
+void TTreeNode::NoteNestingChange() const {
+  if (ftree != nullptr) ++ftree->fNestingChanges;
 }
 
 bool TTreeNode::Equal(const TTreeNode* aTreeNode) const {

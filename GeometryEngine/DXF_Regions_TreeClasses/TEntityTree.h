@@ -3,6 +3,7 @@
 // The tree in which region detection keeps what it finds out: interceptions, the vertex graph, traced regions. It lives
 // as long as the driver (TEntityBaseClass). What a host keeps is the geometry tree, TTree_Geometry.
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -88,6 +89,8 @@ class GEOMETRYENGINE_API TEntityTree {
   /// The entity that a node refers to, in the tree's storage; it moves when the storage changes.
   /// DEGENERATE: an empty entity without a storage and for an index outside of it.
   const TDXFEntity& GetNodeEntity(const TTreeNode& aNode) const;
+  /// Grows whenever nodes go, or lists of sub-regions change, for whoever keeps what it has found in them.
+  std::uint64_t NestingChanges() const;
   /// Never nil.
   TTreeNode* RootNode() const;
   const std::string& Name() const;
@@ -105,6 +108,7 @@ class GEOMETRYENGINE_API TEntityTree {
 
   std::unique_ptr<TTreeNode> fRootNode;
   std::vector<TTreeNode*> fTreeNodes;
+  std::uint64_t fNestingChanges = 0;
   TIndex findex = 0;        ///< the absolute index of the next node
   bool fRemoveAll = false;  ///< true while all nodes go; they then leave the tree's lists alone
   std::string fTreeName;

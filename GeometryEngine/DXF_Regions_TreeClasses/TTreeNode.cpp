@@ -123,6 +123,7 @@ const TIntegerArray& TTreeNode::SubRegions() const {
 }
 
 void TTreeNode::SubRegions(TIntegerArray aSubRegions) {
+  NoteNestingChange();
   fSubRegionsArray = std::move(aSubRegions);
 }
 
@@ -140,10 +141,12 @@ std::int32_t TTreeNode::GetSubRegion(TIndex aIndex) const {
 }
 
 void TTreeNode::AddSubRegion(std::int32_t aRegionIndex) {
+  NoteNestingChange();
   fSubRegionsArray.push_back(aRegionIndex);
 }
 
 void TTreeNode::RemoveSubRegion(std::int32_t aRegionIndex) {
+  NoteNestingChange();
   RemoveElementFromArray_Integer(fSubRegionsArray, aRegionIndex);
 }
 
@@ -153,6 +156,7 @@ bool TTreeNode::CheckSubRegionIdentified(std::int32_t aRegionIndex) const {
 
 void TTreeNode::ResetRegionIdentifier() {
   fRegionIndex = kRegionIndex_Unidentified;
+  NoteNestingChange();
   fSubRegionsArray.clear();
 }
 

@@ -101,6 +101,8 @@ class GEOMETRYENGINE_API TTreeNode {
 
  private:
   friend class TEntityTree;
+  void NoteNestingChange() const;
+
   TEntityTree* ftree;
   TTreeNode* fParent = nullptr;
   TIndex findex = 0;

@@ -135,3 +135,27 @@ TEST_F(GetIsRegionSubRegion, HoldsForListedRegionsOnly) {
   EXPECT_FALSE(Driver().GetIsRegionSubRegion(3));
   EXPECT_FALSE(Driver().GetIsRegionSubRegion(-1));
 }
+
+TEST_F(GetIsRegionSubRegion, SeesWhatHostsChangeInBetween) {
+  TEntityBaseClass driver;
+  TTreeNode* first = AddRegion(driver, 1, {});
+  AddRegion(driver, 1, {});
+  EXPECT_FALSE(driver.GetIsRegionSubRegion(1));
+  first->AddSubRegion(1);
+  EXPECT_TRUE(driver.GetIsRegionSubRegion(1));
+  first->RemoveSubRegion(1);
+  EXPECT_FALSE(driver.GetIsRegionSubRegion(1));
+  first->SubRegions({1, 7});
+  EXPECT_TRUE(driver.GetIsRegionSubRegion(1));
+  EXPECT_TRUE(driver.GetIsRegionSubRegion(7)) << "no region's index, but listed";
+  first->ResetRegionIdentifier();
+  EXPECT_FALSE(driver.GetIsRegionSubRegion(1));
+  first->AddSubRegion(1);
+  EXPECT_TRUE(driver.GetIsRegionSubRegion(1));
+  driver.RegionTree().RemoveTreeNode(first, true);
+  EXPECT_FALSE(driver.GetIsRegionSubRegion(1));
+  AddRegion(driver, 1, {0});
+  EXPECT_TRUE(driver.GetIsRegionSubRegion(0));
+  driver.RegionTree().Clear();
+  EXPECT_FALSE(driver.GetIsRegionSubRegion(0));
+}
