@@ -19,7 +19,7 @@ namespace GeometryEngine::properties {
 namespace {
 
 constexpr unsigned long kDrawings = 10'000;
-constexpr unsigned long kChains = 300;
+constexpr unsigned long kChains = 1'000;
 constexpr std::size_t kShownCounts = 16;  // the last one stands for all that are larger
 
 unsigned long FromEnvironment(const char* aName, unsigned long aOtherwise) {

@@ -197,6 +197,25 @@ TEntityArray Comb(Random& aRandom) {
   return entities;
 }
 
+/// Trees of lines with loops at some of their joints: ends that dangle, bridges between loops and inside them.
+TEntityArray LoopsOnTrees(Random& aRandom) {
+  TEntityArray entities;
+  TCoordinateArray joints{AnyPoint(aRandom)};
+  for (int i = Whole(aRandom, 8, 40); i > 0; --i) {
+    const TEntityCoordinate joint =
+        joints[static_cast<std::size_t>(Whole(aRandom, 0, static_cast<int>(joints.size()) - 1))];
+    const double reach = aRandom.Between(3, 15);
+    const double angle = aRandom.Chance(0.5) ? 45 * Whole(aRandom, 0, 7) : aRandom.Between(0, 360);
+    if (aRandom.Chance(0.15)) {
+      AddPolygon(entities, OnCircle(joint, reach, angle), reach, angle + 180, Whole(aRandom, 3, 5));
+      continue;
+    }
+    joints.push_back(OnCircle(joint, reach, angle));
+    entities.push_back(CreateEntity_Arc_StartEnd_Radius(joint, joints.back(), OneOf(aRandom, {0.0, 0.0, 40.0, -40.0})));
+  }
+  return entities;
+}
+
 constexpr Kind kTwinKinds[] = {
     {"lines", Lines},
     {"lines and arcs", LinesAndArcs},
@@ -208,6 +227,7 @@ constexpr Kind kTwinKinds[] = {
     {"circles and rays", CirclesAndRays},
     {"uprights", Uprights},
     {"comb", Comb},
+    {"loops on trees", LoopsOnTrees},
 };
 
 // Chains -------------------------------------------------------------------------------------------------------------
