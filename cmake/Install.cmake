@@ -8,6 +8,11 @@ if(TARGET xsec)
   file(RELATIVE_PATH library_from_program ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
   set_target_properties(xsec PROPERTIES INSTALL_RPATH "$ORIGIN/${library_from_program}")
   install(TARGETS xsec RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+  install(FILES ${PROJECT_SOURCE_DIR}/xsec/man/xsec.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+  install(FILES ${PROJECT_SOURCE_DIR}/xsec/completion/xsec.bash
+          DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME xsec)
+  install(FILES ${PROJECT_SOURCE_DIR}/xsec/completion/_xsec DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions)
+  install(FILES ${PROJECT_SOURCE_DIR}/xsec/schema/regions.schema.json DESTINATION ${CMAKE_INSTALL_DATADIR}/xsec)
 endif()
 
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/GeometryEngine DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}

@@ -12,10 +12,13 @@ constexpr const char* kExamples =
     "Examples:\n"
     "  xsec regions stator.dxf                        a table of all regions\n"
     "  xsec regions stator.dxf -o stator.svg          and a picture of them\n"
+    "  xsec transform pole.dxf --copies 8 -o all.dxf  the whole machine from an eighth\n"
+    "  xsec diff old.json new.json                    what has changed between two drawings\n"
     "\n"
     "xsec COMMAND --help has the options and more examples.\n"
     "\n"
-    "Exit codes: 0 fine, 2 wrong usage, 3 drawing unreadable, 4 output not written, 5 no closed region found.";
+    "Exit codes: 0 fine, 1 findings or differences, 2 wrong usage, 3 drawing unreadable, 4 output not written,\n"
+    "5 no closed region found, 6 an outline that cannot be offset.";
 
 }  // namespace
 
@@ -26,6 +29,8 @@ Action ParseCommandLine(int aCount, const char* const* aArguments) {
   app.footer(kExamples);
   app.require_subcommand(1);
   AddRegionsCommand(app, action);
+  AddTransformCommand(app, action);
+  AddDiffCommand(app, action);
   AddSchemaCommand(app, action);
   try {
     app.parse(aCount, aArguments);

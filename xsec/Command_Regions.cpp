@@ -5,8 +5,10 @@
 
 #include "xsec/Commands.h"
 #include "xsec/DrawingOptions.h"
-#include "xsec/RegionDetection.h"
+#include "xsec/RegionSearch.h"
 #include "xsec/Report.h"
+#include "xsec/ReportAnswer.h"
+#include "xsec/SearchOptions.h"
 #include "xsec/Terminal.h"
 #include "xsec/output/OutputFiles.h"
 
@@ -20,33 +22,32 @@ constexpr const char* kExamples =
     "  xsec regions stator.dxf -o stator.svg          and a picture of them\n"
     "  xsec regions pole.dxf --units m -o pole.json   a drawing in metres, for the next program\n"
     "  xsec regions rotor.dxf --tol 0.01              ends less than 0.01 mm apart meet\n"
+    "  xsec regions pole.dxf --copies 8 -o pole.csv   an eighth, with the areas of the whole machine\n"
+    "  xsec regions pole.dxf --rules pole.json -o pole.geo -o pole.fem\n"
+    "                                                 names and materials by rules, for gmsh and FEMM\n"
     "\n"
     "Exit codes: 0 fine, 2 wrong usage, 3 drawing unreadable, 4 output not written, 5 no closed region found.";
 
 struct RegionsOptions {
   DrawingOptions drawing;
+  SearchOptions search;
   std::vector<Output> outputs;
 };
 
 ExitCode RunRegions(const RegionsOptions& options) {
   CheckOutputs(options.outputs);
+  const SearchRequest request = LoadRequest(options.search);
   const Progress progress;
   progress.Show("reading " + options.drawing.path);
   const Drawing drawing = LoadDrawing(options.drawing);
   const Settings settings = ApplySettings(options.drawing.settings, drawing.extents);
   progress.Show(fmt::format("finding regions among {} entities", drawing.entities.size()));
-  const Detection detection = DetectRegions(drawing, settings);
-  const Report report{drawing, settings, detection};
+  const Detection detection = FindRegions(drawing, settings, request);
+  const Report report{drawing, settings, detection, request.copies};
   progress.Show("writing");
   WriteOutputs(options.outputs, report);
   progress.Clear();
-
-  for (const std::string& line : DiagnosticLines(report)) Tell(line);
-  for (const Output& output : options.outputs) Tell("wrote " + output.path);
-  PrintToStandardOutput(TableText(report));
-  if (!detection.regions.empty()) return ExitCode::Fine;
-  Tell("no closed region found");
-  return ExitCode::NoClosedRegion;
+  return TellReport(report, options.outputs);
 }
 
 }  // namespace
@@ -55,13 +56,10 @@ void AddRegionsCommand(CLI::App& aApp, Action& aAction) {
   const auto options = std::make_shared<RegionsOptions>();
   CLI::App& command = *aApp.add_subcommand("regions", "Find, name, nest and measure the closed regions of a drawing");
   AddDrawingOptions(command, options->drawing);
-  command
-      .add_option_function<std::vector<std::string>>(
-          "-o,--output", [options](const std::vector<std::string>& paths) { options->outputs = FindOutputs(paths); },
-          "Write the regions to a file; its suffix says how: .svg a picture, .json everything, .csv a table, .dxf "
-          "closed polylines, .geo for gmsh, .fem for FEMM. May be repeated")
-      ->type_name("FILE")
-      ->allow_extra_args(false);
+  AddSearchOptions(command, options->search, options->drawing.settings);
+  AddCopiesOption(command, options->search.request.copies,
+                  "How often the machine holds what is drawn, for areas of the whole; 8 for an eighth");
+  AddOutputOption(command, options->outputs);
   command.footer(kExamples);
   command.callback([&aAction, options] { aAction = [options] { return RunRegions(*options); }; });
 }

@@ -22,6 +22,15 @@ struct DrawingEntity {
   std::int32_t colour = 256;  ///< colour index; 256 = by layer
 };
 
+/// Words in the drawing, where they are attached. UNITS: millimetres
+struct DrawingText {
+  double x = 0;
+  double y = 0;
+  std::string text;
+  std::string layer;
+  std::size_t line = 0;  ///< of the file
+};
+
 /// How the drawing's lengths became millimetres.
 struct DrawingUnits {
   std::string name;          ///< "mm", "m", "in", ...
@@ -49,6 +58,7 @@ struct Drawing {
   std::string path;
   DrawingUnits units;
   std::vector<DrawingEntity> entities;
+  std::vector<DrawingText> texts;
   std::map<SkippedKind, std::size_t> skipped;
   std::map<std::string, std::size_t> flattened;  ///< type -> how many were turned into lines and arcs
   std::map<std::string, std::int32_t> layerColours;

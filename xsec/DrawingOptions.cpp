@@ -3,12 +3,18 @@
 #include <fmt/format.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cmath>
+#include <set>
+#include <tuple>
 #include <vector>
 
+#include "xsec/DrawingExtents.h"
 #include "xsec/DxfReader.h"
+#include "xsec/DxfText.h"
 #include "xsec/Errors.h"
 #include "xsec/Units.h"
+#include "xsec/naming/Rules.h"
 
 namespace xsec {
 
@@ -53,6 +59,63 @@ void AddSettingsOptions(CLI::App& command, SettingsRequest& settings) {
       ->type_name("N");
 }
 
+void AddLayerOptions(CLI::App& command, DrawingOptions& options) {
+  command
+      .add_option("--layer", options.layers,
+                  "Read the layers that fit, nothing else; * and ? stand for any. May be repeated")
+      ->type_name("PATTERN")
+      ->allow_extra_args(false);
+  command.add_option("--exclude-layer", options.excludedLayers, "Do not read the layers that fit. May be repeated")
+      ->type_name("PATTERN")
+      ->allow_extra_args(false);
+}
+
+bool FitsAny(const std::string& layer, const std::vector<std::string>& patterns) {
+  return std::any_of(patterns.begin(), patterns.end(),
+                     [&](const std::string& pattern) { return FitsPattern(layer, pattern); });
+}
+
+std::string Layers(const Drawing& drawing) {
+  std::set<std::string> layers;
+  for (const DrawingEntity& entity : drawing.entities) layers.insert(entity.layer);
+  return fmt::format("{}", fmt::join(layers, ", "));
+}
+
+/// A pattern that fits nothing is rather a slip than a wish.
+void CheckPatterns(const char* option, const std::vector<std::string>& patterns, const Drawing& drawing) {
+  for (const std::string& pattern : patterns) {
+    const bool isUsed = std::any_of(drawing.entities.begin(), drawing.entities.end(),
+                                    [&](const DrawingEntity& entity) { return FitsPattern(entity.layer, pattern); });
+    if (isUsed) continue;
+    throw InputError(drawing.path, 0, fmt::format("no lines or arcs on a layer that fits {} {}", option, pattern),
+                     "its layers are " + Layers(drawing));
+  }
+}
+
+void TakeLayers(const DrawingOptions& options, Drawing& drawing) {
+  if (options.layers.empty() && options.excludedLayers.empty()) return;
+  CheckPatterns("--layer", options.layers, drawing);
+  CheckPatterns("--exclude-layer", options.excludedLayers, drawing);
+  const auto isUnwanted = [&](const std::string& layer) {
+    return (!options.layers.empty() && !FitsAny(layer, options.layers)) || FitsAny(layer, options.excludedLayers);
+  };
+  std::erase_if(drawing.entities, [&](const DrawingEntity& entity) { return isUnwanted(entity.layer); });
+  std::erase_if(drawing.texts, [&](const DrawingText& text) { return isUnwanted(text.layer); });
+  std::erase_if(drawing.skipped, [&](const auto& item) { return isUnwanted(item.first.layer); });
+  drawing.extents = ExtentsOf(drawing.entities);
+}
+
+void RefuseSkipped(const Drawing& drawing) {
+  if (drawing.skipped.empty()) return;
+  std::string kinds;
+  for (const auto& [kind, count] : drawing.skipped) {
+    kinds += fmt::format("{}{} {} on layer \"{}\" ({})", kinds.empty() ? "" : ", ", count, kind.type, kind.layer,
+                         kind.reason);
+  }
+  throw InputError(drawing.path, 0, "not everything is read: " + kinds,
+                   "leave out --strict to go on without, or the layers with --exclude-layer");
+}
+
 }  // namespace
 
 void AddDrawingOptions(CLI::App& aCommand, DrawingOptions& aOptions) {
@@ -62,11 +125,33 @@ void AddDrawingOptions(CLI::App& aCommand, DrawingOptions& aOptions) {
           "--units", [&](const std::string& name) { aOptions.units = UnitsOf(name); },
           "The unit the drawing is drawn in, whatever it says itself: " + UnitNames())
       ->type_name("U");
+  AddLayerOptions(aCommand, aOptions);
+  aCommand
+      .add_option_function<std::string>(
+          "--origin",
+          [&](const std::string& text) { std::tie(aOptions.originX, aOptions.originY) = PairOf("--origin", text); },
+          "The point that becomes the origin, the axis of the machine, in millimetres")
+      ->type_name("X,Y");
+  aCommand.add_flag("--strict", aOptions.strict, "Whatever of the drawing is not read is an error");
   AddSettingsOptions(aCommand, aOptions.settings);
 }
 
+std::pair<double, double> PairOf(const std::string& aOption, const std::string& aText) {
+  const std::size_t comma = aText.find(',');
+  if (comma != std::string::npos) {
+    const auto x = ParseNumber(std::string_view(aText).substr(0, comma));
+    const auto y = ParseNumber(std::string_view(aText).substr(comma + 1));
+    if (x && y) return {*x, *y};
+  }
+  throw UsageError(
+      fmt::format("{} {}: expected two numbers with a comma between, for example {} 10,-2.5", aOption, aText, aOption));
+}
+
 Drawing LoadDrawing(const DrawingOptions& aOptions) {
-  return ReadDrawing(aOptions.path, {aOptions.units, std::nullopt});
+  Drawing drawing = ReadDrawing(aOptions.path, {aOptions.units, std::nullopt, aOptions.originX, aOptions.originY});
+  TakeLayers(aOptions, drawing);
+  if (aOptions.strict) RefuseSkipped(drawing);
+  return drawing;
 }
 
 }  // namespace xsec

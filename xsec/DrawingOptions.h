@@ -4,6 +4,8 @@
 
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "xsec/Drawing.h"
 #include "xsec/Settings.h"
@@ -17,6 +19,11 @@ namespace xsec {
 struct DrawingOptions {
   std::string path;
   std::optional<DrawingUnits> units;
+  std::vector<std::string> layers;          ///< patterns of those that are taken; none for all
+  std::vector<std::string> excludedLayers;  ///< patterns of those that are not
+  double originX = 0;                       ///< UNITS: millimetres
+  double originY = 0;
+  bool strict = false;  ///< whatever is not read is an error
   SettingsRequest settings;
 };
 
@@ -24,7 +31,10 @@ struct DrawingOptions {
 /// while they are parsed.
 void AddDrawingOptions(CLI::App& aCommand, DrawingOptions& aOptions);
 
-/// The drawing that the options name. Throws InputError.
+/// "X,Y" as two numbers. Throws UsageError, which names the option.
+std::pair<double, double> PairOf(const std::string& aOption, const std::string& aText);
+
+/// The drawing that the options name, with the layers that they ask for. Throws InputError.
 Drawing LoadDrawing(const DrawingOptions& aOptions);
 
 }  // namespace xsec

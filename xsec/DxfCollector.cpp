@@ -9,6 +9,7 @@
 #include <numbers>
 #include <utility>
 
+#include "xsec/PlainText.h"
 #include "xsec/Utf8.h"
 
 namespace xsec {
@@ -246,6 +247,25 @@ void DxfCollector::addInsert(const DL_InsertData& aData) {
                           CountOf(aData.cols),
                           CountOf(aData.rows),
                           {aData.colSp, aData.rowSp}});
+}
+
+// Text that is justified in any way is attached by its second point.
+void DxfCollector::addText(const DL_TextData& aData) {
+  const bool isJustified = aData.hJustification != 0 || aData.vJustification != 0;
+  AddInPlane(SourceText{isJustified ? Point{aData.apx, aData.apy} : Point{aData.ipx, aData.ipy},
+                        PlainText(ToUtf8(aData.text))});
+}
+
+void DxfCollector::addAttribute(const DL_AttributeData& aData) {
+  addText(aData);
+}
+
+void DxfCollector::addMTextChunk(const std::string& aText) {
+  fChunks += aText;
+}
+
+void DxfCollector::addMText(const DL_MTextData& aData) {
+  Add(SourceText{{aData.ipx, aData.ipy}, PlainMText(ToUtf8(std::exchange(fChunks, {}) + aData.text))});
 }
 
 // A LWPOLYLINE or SPLINE is complete, or the vertices of a POLYLINE are.

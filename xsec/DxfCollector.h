@@ -36,6 +36,10 @@ class DxfCollector : public DL_CreationAdapter {
   void addControlPoint(const DL_ControlPointData& aData) override;
   void addKnot(const DL_KnotData& aData) override;
   void addInsert(const DL_InsertData& aData) override;
+  void addText(const DL_TextData& aData) override;
+  void addAttribute(const DL_AttributeData& aData) override;
+  void addMText(const DL_MTextData& aData) override;
+  void addMTextChunk(const std::string& aText) override;
   void endEntity() override;
   void endSection() override;
 
@@ -52,6 +56,7 @@ class DxfCollector : public DL_CreationAdapter {
   bool fIsTaken = false;          // something was made of the record that the parser reports now
   std::optional<double> fHeight;  // z of the latest entity's first point
   bool fIsTilted = false;         // the latest entity's points differ in z
+  std::string fChunks;            // what stands in front of the last part of a long text
   std::size_t fTilted = 0;        // how many such entities there are
 };
 

@@ -16,8 +16,9 @@ constexpr std::size_t kLongestValue = 1000;     // bytes; the parser's line buff
 constexpr std::string_view kUnknownType = "-";  // a type that the parser does not know
 constexpr int kFirstExtendedCode = 1000;        // from here on extended data
 
-constexpr std::array<std::string_view, 10> kReadTypes = {"LINE",   "ARC",    "CIRCLE", "LWPOLYLINE", "POLYLINE",
-                                                         "VERTEX", "SEQEND", "INSERT", "ELLIPSE",    "SPLINE"};
+constexpr std::array<std::string_view, 13> kReadTypes = {"LINE",   "ARC",    "CIRCLE", "LWPOLYLINE", "POLYLINE",
+                                                         "VERTEX", "SEQEND", "INSERT", "ELLIPSE",    "SPLINE",
+                                                         "TEXT",   "MTEXT",  "ATTRIB"};
 
 bool IsBracket(std::string_view type) {
   return type == "BLOCK" || type == "ENDBLK" || type == "SEQEND" || type == "SECTION" || type == "ENDSEC" ||

@@ -93,7 +93,10 @@ Drawing ReadDrawingText(std::string_view aText, const std::string& aPath, const 
   drawing.warnings = source.warnings;
   const SnappingOff guard;
   EntityMaker maker(drawing, aOptions.flattenTolerance);
-  PlaceAll(source, Affine::Stretch(drawing.units.millimetres, drawing.units.millimetres), maker);
+  PlaceAll(source,
+           Affine::Shift(-aOptions.originX, -aOptions.originY) *
+               Affine::Stretch(drawing.units.millimetres, drawing.units.millimetres),
+           maker);
   drawing.extents = ExtentsOf(drawing.entities);
   AddWarnings(source, drawing);
   return drawing;

@@ -21,6 +21,9 @@ struct ReadOptions {
   /// a thousandth of the curve's own size, whichever is less, so that a drawing in metres that names no unit keeps its
   /// curves.
   std::optional<double> flattenTolerance;
+  /// UNITS: millimetres. The point that becomes the origin.
+  double originX = 0;
+  double originY = 0;
 };
 
 /// Reads a file. Throws InputError with file, line and advice when it cannot be read.

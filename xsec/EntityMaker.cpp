@@ -156,6 +156,12 @@ void EntityMaker::MakeShape(const SourceSkipped& aShape, const Affine& /*aMap*/)
 // Placing blocks is not the maker's work.
 void EntityMaker::MakeShape(const SourceInsert& /*aShape*/, const Affine& /*aMap*/) {}
 
+void EntityMaker::MakeShape(const SourceText& aShape, const Affine& aMap) {
+  const Point place = aMap.Apply(aShape.place);
+  if (!IsFinite(place)) return SkipThis(kTooFar);
+  fDrawing.texts.push_back({place.x, place.y, aShape.text, fTemplate.layer, fTemplate.line});
+}
+
 void EntityMaker::MakeShape(const SourceLine& aShape, const Affine& aMap) {
   AddLine(aMap.Apply(aShape.start), aMap.Apply(aShape.end));
 }

@@ -40,6 +40,7 @@ class EntityMaker {
   void MakeShape(const SourceEllipse& aShape, const Affine& aMap);
   void MakeShape(const SourceSpline& aShape, const Affine& aMap);
   void MakeShape(const SourceInsert& aShape, const Affine& aMap);
+  void MakeShape(const SourceText& aShape, const Affine& aMap);
 
   void AddSegment(const SourceVertex& aFrom, const SourceVertex& aTo, const Affine& aMap);
   void AddBulge(const Point& aFrom, const Point& aTo, double aBulge);

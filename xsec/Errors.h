@@ -9,10 +9,12 @@ namespace xsec {
 /// What the program answers to the shell.
 enum class ExitCode : int {
   Fine = 0,
+  Findings = 1,  ///< of a check; the drawing was read and looked through
   WrongUsage = 2,
   InputUnreadable = 3,
   OutputNotWritten = 4,
   NoClosedRegion = 5,
+  CannotBeOffset = 6,
   UnexpectedFault = 70,  ///< nothing the user can help: the memory is used up, or there is a mistake in the program
 };
 

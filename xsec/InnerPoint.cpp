@@ -29,9 +29,12 @@ std::vector<Stretch> WidestStretches(const RegionSpace& space, double y) {
   std::vector<Stretch> stretches;
   for (std::size_t i = 0; i + 1 < crossings.size(); ++i) stretches.push_back({crossings[i], crossings[i + 1]});
   std::stable_sort(stretches.begin(), stretches.end(), IsWider);
-  std::erase_if(stretches, [&](const Stretch& s) { return !IsInside(space, {(s.begin + s.end) / 2, y}); });
-  stretches.resize(std::min(stretches.size(), kStretchesPerHeight));
-  return stretches;
+  std::vector<Stretch> widest;
+  for (const Stretch& stretch : stretches) {
+    if (widest.size() == kStretchesPerHeight) break;
+    if (IsInside(space, {(stretch.begin + stretch.end) / 2, y})) widest.push_back(stretch);
+  }
+  return widest;
 }
 
 }  // namespace

@@ -1,8 +1,10 @@
 #include "xsec/Nesting.h"
 
 #include <algorithm>
-#include <cmath>
+#include <functional>
 #include <numeric>
+
+#include "xsec/BoxIndex.h"
 
 namespace xsec {
 
@@ -22,47 +24,71 @@ bool HasPiece(const TracedLoop& loop, std::size_t piece) {
                      [&](const TravelledPiece& own) { return own.index == piece; });
 }
 
-bool Holds(const TracedLoop& face, const Point& point) {
-  return Contains(face.box, point) && IsInside(face.pieces, point);
-}
-
 const TravelledPiece& LongestPiece(const TracedLoop& loop) {
   return *std::max_element(loop.pieces.begin(), loop.pieces.end(),
                            [](const TravelledPiece& a, const TravelledPiece& b) { return Length(a) < Length(b); });
 }
 
+/// Faces by their places in the order of areas, and which of them hold a point.
+class Faces {
+ public:
+  explicit Faces(std::span<const TracedLoop> faces)
+      : fFaces(faces), fByArea(ByArea(faces)), fIndex(BoxesOf(faces, fByArea)) {}
+
+  const std::vector<std::size_t>& InOrder() const { return fByArea; }
+
+  /// The first face in the order, from a place on, that holds the point and `fits`.
+  template <typename Fits>
+  std::size_t FindFirst(const Point& point, std::size_t from, Fits&& fits) const {
+    std::vector<std::size_t> places = fIndex.Find(point);
+    std::erase_if(places, [&](std::size_t place) { return place < from; });
+    std::make_heap(places.begin(), places.end(), std::greater<>());
+    while (!places.empty()) {
+      std::pop_heap(places.begin(), places.end(), std::greater<>());
+      const std::size_t face = fByArea[places.back()];
+      if (fits(fFaces[face]) && IsInside(fFaces[face].pieces, point)) return face;
+      places.pop_back();
+    }
+    return kNone;
+  }
+
+ private:
+  static std::vector<Extents> BoxesOf(std::span<const TracedLoop> faces, const std::vector<std::size_t>& order) {
+    std::vector<Extents> boxes;
+    for (const std::size_t face : order) boxes.push_back(faces[face].box);
+    return boxes;
+  }
+
+  std::span<const TracedLoop> fFaces;
+  std::vector<std::size_t> fByArea;
+  BoxIndex fIndex;
+};
+
 /// Faces that share a piece lie beside each other. That is asked too because the inner point of a sliver may have to be
 /// the middle of its first piece.
-std::size_t FindParent(std::span<const TracedLoop> faces, std::span<const std::size_t> larger, const TracedLoop& face) {
-  const auto parent = std::find_if(larger.begin(), larger.end(), [&](std::size_t f) {
-    return Holds(faces[f], face.inner) && !HasPiece(faces[f], face.pieces.front().index);
-  });
-  return parent == larger.end() ? kNone : *parent;
+std::size_t FindParent(const Faces& faces, std::size_t place, const TracedLoop& face) {
+  return faces.FindFirst(face.inner, place + 1,
+                         [&](const TracedLoop& round) { return !HasPiece(round, face.pieces.front().index); });
 }
 
-std::size_t FindHoleOwner(std::span<const TracedLoop> faces, std::span<const std::size_t> byArea,
-                          const TracedLoop& boundary) {
+std::size_t FindHoleOwner(const Faces& faces, const TracedLoop& boundary) {
   const TravelledPiece& longest = LongestPiece(boundary);
-  const Point middle = MidPoint(longest);
-  const auto owner = std::find_if(byArea.begin(), byArea.end(), [&](std::size_t f) {
-    return faces[f].area > -boundary.area && Holds(faces[f], middle) && !HasPiece(faces[f], longest.index);
+  return faces.FindFirst(MidPoint(longest), 0, [&](const TracedLoop& round) {
+    return round.area > -boundary.area && !HasPiece(round, longest.index);
   });
-  return owner == byArea.end() ? kNone : *owner;
 }
 
 }  // namespace
 
 Nesting DetermineNesting(std::span<const TracedLoop> aFaces, std::span<const TracedLoop> aOuterBoundaries) {
-  const std::vector<std::size_t> byArea = ByArea(aFaces);
+  const Faces faces(aFaces);
   Nesting nesting;
   nesting.parents.assign(aFaces.size(), kNone);
-  for (std::size_t i = 0; i < byArea.size(); ++i) {
-    const std::size_t face = byArea[i];
-    nesting.parents[face] = FindParent(aFaces, std::span(byArea).subspan(i + 1), aFaces[face]);
+  for (std::size_t place = 0; place < aFaces.size(); ++place) {
+    const std::size_t face = faces.InOrder()[place];
+    nesting.parents[face] = FindParent(faces, place, aFaces[face]);
   }
-  for (const TracedLoop& boundary : aOuterBoundaries) {
-    nesting.holeOwners.push_back(FindHoleOwner(aFaces, byArea, boundary));
-  }
+  for (const TracedLoop& boundary : aOuterBoundaries) nesting.holeOwners.push_back(FindHoleOwner(faces, boundary));
   return nesting;
 }
 

@@ -29,7 +29,7 @@ struct Nesting {
 /// A face lies inside the smallest larger face that holds its inner point. An outer boundary lies directly inside the
 /// smallest larger face that holds the middle of its longest piece without that piece being a part of its own outline;
 /// as pieces meet at their ends only, the middle of a piece never stands on another face's outline.
-/// COST: faces times loops in box tests, far fewer tests of points.
+/// COST: near-linear, but for faces in each other's boxes: each loop looks at the boxes round its point.
 Nesting DetermineNesting(std::span<const TracedLoop> aFaces, std::span<const TracedLoop> aOuterBoundaries);
 
 }  // namespace xsec

@@ -1,7 +1,6 @@
 #include "xsec/RegionDetection.h"
 
 #include <algorithm>
-#include <map>
 
 #include "GeometryEngine/DXF_Regions_BaseClasses/TEntityBaseClass.h"
 #include "xsec/InnerPoint.h"
@@ -91,22 +90,10 @@ void SetSources(Loop& loop, const std::vector<std::size_t>& sources) {
   for (TravelledPiece& piece : loop) piece.source = sources[piece.index];
 }
 
-/// The layer that most of the outline's length comes from.
-std::string NameOf(const Loop& outline, const Drawing& drawing) {
-  std::map<std::string, double> lengths;
-  for (const TravelledPiece& piece : outline) {
-    if (piece.source != kNone) lengths[drawing.entities[piece.source].layer] += Length(piece);
-  }
-  const auto longest = std::max_element(lengths.begin(), lengths.end(),
-                                        [](const auto& a, const auto& b) { return a.second < b.second; });
-  return longest == lengths.end() || longest->first.empty() ? kNamelessRegion : longest->first;
-}
-
-std::vector<Region> NestedRegions(const TracedLoops& loops, const Nesting& nesting, const Drawing& drawing) {
+std::vector<Region> NestedRegions(const TracedLoops& loops, const Nesting& nesting) {
   std::vector<Region> regions(loops.faces.size());
   for (std::size_t i = 0; i < regions.size(); ++i) {
     regions[i].outline = loops.faces[i].pieces;
-    regions[i].name = NameOf(regions[i].outline, drawing);
     regions[i].parent = nesting.parents[i];
     if (nesting.parents[i] != kNone) regions[nesting.parents[i]].children.push_back(i);
     for (std::size_t p = regions[i].parent; p != kNone; p = nesting.parents[p]) ++regions[i].depth;
@@ -130,7 +117,7 @@ std::vector<std::size_t> FindSources(const TEntityStorage& pieces, const Drawing
 
 }  // namespace
 
-Detection DetectRegions(const Drawing& aDrawing, const Settings& aSettings) {
+Detection DetectRegions(const Drawing& aDrawing, const Settings& aSettings, const NamingRequest& aNaming) {
   TEntityStorage storage;
   FillStorage(storage, aDrawing, aSettings.tolerance);
   TEntityBaseClass driver;
@@ -144,7 +131,8 @@ Detection DetectRegions(const Drawing& aDrawing, const Settings& aSettings) {
   const Nesting nesting = DetermineNesting(loops.faces, loops.outerBoundaries);
 
   Detection detection;
-  detection.regions = NestedRegions(loops, nesting, aDrawing);
+  detection.regions = NestedRegions(loops, nesting);
+  NameRegions(detection.regions, aDrawing, aNaming, detection.diagnostics.warnings);
   FillFromGeometryTree(driver, loops.faces, detection.regions);
   CompareNesting(driver.RegionTree(), loops.faces, detection);
   CheckRegions(detection, aSettings.tolerance);

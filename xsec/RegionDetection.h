@@ -6,13 +6,11 @@
 #include "xsec/Drawing.h"
 #include "xsec/Regions.h"
 #include "xsec/Settings.h"
+#include "xsec/naming/RegionNaming.h"
 
 namespace xsec {
 
-/// The name of a region whose outline comes from no named layer.
-inline constexpr const char* kNamelessRegion = "Region";
-
 /// REQUIRES: the settings have been applied to the library (ApplySettings) and stay as they are during the call.
-Detection DetectRegions(const Drawing& aDrawing, const Settings& aSettings);
+Detection DetectRegions(const Drawing& aDrawing, const Settings& aSettings, const NamingRequest& aNaming = {});
 
 }  // namespace xsec

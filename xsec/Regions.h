@@ -62,6 +62,7 @@ inline std::size_t RegionId(std::size_t aIndex) {
 
 struct Detection {
   std::vector<Region> regions;
+  std::vector<Point> leftOut;  ///< a point inside each region that was too small to be wanted
   Diagnostics diagnostics;
 };
 

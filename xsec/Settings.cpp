@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <map>
@@ -67,6 +68,13 @@ FieldValue ParseFieldValue(std::string_view aText) {
   }
   throw UsageError(
       fmt::format("--setting {}: expected FIELD=VALUE, a field number from 0 to 65535 and a number", aText));
+}
+
+double MinimumLabelArea(const Settings& aSettings) {
+  const auto field = std::find_if(aSettings.fields.begin(), aSettings.fields.end(), [](const FieldValue& value) {
+    return static_cast<TInputFields>(value.field) == ifMinimumLabelArea;
+  });
+  return field == aSettings.fields.end() ? 0 : field->value;
 }
 
 Settings ApplySettings(const SettingsRequest& aRequest, const Extents& aExtents) {

@@ -37,6 +37,9 @@ struct Settings {
 /// DEGENERATE: 1e-4 mm for a drawing without size.
 double DefaultTolerance(const Extents& aExtents);
 
+/// Regions of a smaller area have no name written into them. UNITS: mm2
+double MinimumLabelArea(const Settings& aSettings);
+
 /// FIELD=VALUE as the command line spells it. Throws UsageError for anything else.
 FieldValue ParseFieldValue(std::string_view aText);
 

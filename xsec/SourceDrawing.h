@@ -67,13 +67,19 @@ struct SourceInsert {
   Point spacing;  ///< of columns and rows, in the turned frame, not scaled
 };
 
+/// Words at the point that they are attached by.
+struct SourceText {
+  Point place;
+  std::string text;
+};
+
 /// What is not read, and why.
 struct SourceSkipped {
   std::string reason;
 };
 
-using SourceShape =
-    std::variant<SourceSkipped, SourceLine, SourceArc, SourcePolyline, SourceEllipse, SourceSpline, SourceInsert>;
+using SourceShape = std::variant<SourceSkipped, SourceLine, SourceArc, SourcePolyline, SourceEllipse, SourceSpline,
+                                 SourceInsert, SourceText>;
 
 struct SourceEntity {
   SourceShape shape;

@@ -10,6 +10,7 @@ namespace {
 
 /// A piece's middle may lie off its source by what its ends have moved: to a vertex, and to 0 from near it.
 constexpr double kReachInTolerances = 4;
+constexpr std::size_t kSlicesPerSide = 4;  // no entity within the grid is longer than about so many of its sides
 
 /// The cell along one axis that a value falls into; beyond the ends it is the outermost one.
 std::size_t Cell(double value, double min, double max, std::size_t side) {
@@ -28,7 +29,20 @@ SourceLookup::SourceLookup(const Drawing& aDrawing) : fBox(EmptyExtents()) {
   fSide = static_cast<std::size_t>(std::ceil(std::sqrt(static_cast<double>(fSources.size() + 1))));
   fCells.resize(fSide * fSide);
   for (std::size_t source = 0; source < fSources.size(); ++source) {
-    for (const std::size_t cell : CellsOf(Bounds(fSources[source]))) fCells[cell].push_back(source);
+    Insert(source);
+  }
+}
+
+/// Only the cells along the entity are filled: in slices about as long as a cell is wide.
+void SourceLookup::Insert(std::size_t aSource) {
+  const TravelledPiece& source = fSources[aSource];
+  const double cells = Length(source) / Diagonal(fBox) * static_cast<double>(fSide);
+  const double slices = std::clamp(std::ceil(cells), 1.0, static_cast<double>(fSide * kSlicesPerSide));
+  for (double i = 0; i < slices; ++i) {
+    for (const std::size_t cell : CellsOf(Bounds(PartOf(source, i / slices, (i + 1) / slices)))) {
+      std::vector<std::size_t>& sources = fCells[cell];
+      if (sources.empty() || sources.back() != aSource) sources.push_back(aSource);
+    }
   }
 }
 

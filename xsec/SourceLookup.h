@@ -20,6 +20,7 @@ class SourceLookup {
   std::size_t Find(const TravelledPiece& aPiece, double aTolerance) const;
 
  private:
+  void Insert(std::size_t aSource);
   /// The cells that the box touches; what lies outside the grid belongs to its outermost cells.
   std::vector<std::size_t> CellsOf(const Extents& aBox) const;
 

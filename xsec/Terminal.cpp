@@ -19,6 +19,12 @@ bool StandardErrorIsTerminal() {
   return ::isatty(STDERR_FILENO) != 0 && kind != nullptr && std::string_view(kind) != "dumb";
 }
 
+/// https://no-color.org: whoever sets the variable to anything wants no colours.
+bool StandardErrorHasColours() {
+  const char* noColour = std::getenv("NO_COLOR");
+  return StandardErrorIsTerminal() && (noColour == nullptr || *noColour == '\0');
+}
+
 }  // namespace
 
 Progress::Progress() : fShown(StandardErrorIsTerminal()) {}
@@ -32,7 +38,8 @@ void Progress::Clear() const {
 }
 
 void Tell(std::string_view aLine) {
-  fmt::print(stderr, "xsec: {}\n", aLine);
+  const bool isColoured = aLine.starts_with("warning") && StandardErrorHasColours();
+  fmt::print(stderr, "xsec: {}{}{}\n", isColoured ? "\033[33m" : "", aLine, isColoured ? "\033[0m" : "");
 }
 
 void PrintToStandardOutput(const std::string& aText) {

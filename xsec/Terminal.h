@@ -23,7 +23,7 @@ class Progress {
   bool fShown;
 };
 
-/// A line to standard error.
+/// A line to standard error. On a terminal a warning is coloured, unless NO_COLOR is set.
 void Tell(std::string_view aLine);
 
 /// Throws OutputError when not all of it could be written.

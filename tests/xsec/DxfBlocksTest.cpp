@@ -129,7 +129,7 @@ TEST(ReadInsert, BlockMayBeDefinedAfterItsUse) {
 }
 
 TEST(ReadInsert, LayerZeroAndColourByBlockAreThoseOfTheInsert) {
-  const std::string blocks = Block("in", "0 LINE | 8 0 | 62 0 | 11 1 | 0 LINE | 8 own | 62 5 | 11 2 | 0 TEXT | 8 0") +
+  const std::string blocks = Block("in", "0 LINE | 8 0 | 62 0 | 11 1 | 0 LINE | 8 own | 62 5 | 11 2 | 0 HATCH | 8 0") +
                              Block("out", "0 INSERT | 2 in | 8 0 | 62 0");
   const Drawing drawing = ReadBlocks(blocks, "0 INSERT | 2 out | 8 steel | 62 3");
   ASSERT_EQ(drawing.entities.size(), 2U);
@@ -137,7 +137,7 @@ TEST(ReadInsert, LayerZeroAndColourByBlockAreThoseOfTheInsert) {
   EXPECT_EQ(drawing.entities[0].colour, 3);
   EXPECT_EQ(drawing.entities[1].layer, "own");
   EXPECT_EQ(drawing.entities[1].colour, 5);
-  EXPECT_EQ(SkippedCount(drawing, "TEXT", "steel", "this type is not read"), 1U);
+  EXPECT_EQ(SkippedCount(drawing, "HATCH", "steel", "this type is not read"), 1U);
 }
 
 TEST(ReadInsert, WhatCannotBePlacedIsSkippedWithTheReason) {
@@ -151,11 +151,13 @@ TEST(ReadInsert, WhatCannotBePlacedIsSkippedWithTheReason) {
   EXPECT_TRUE(drawing.entities.empty());
 }
 
-TEST(ReadInsert, AttributesOfAnInsertAreSkipped) {
+TEST(ReadInsert, AttributesOfAnInsertAreWords) {
   const Drawing drawing =
       ReadBlocks(kBar, "0 INSERT | 2 bar | 66 1 | 0 ATTRIB | 8 t | 1 x | 2 y | 0 SEQEND | 0 LINE | 11 1");
-  EXPECT_EQ(SkippedCount(drawing, "ATTRIB", "t", "this type is not read"), 1U);
-  EXPECT_EQ(drawing.skipped.size(), 1U);
+  EXPECT_TRUE(drawing.skipped.empty());
+  ASSERT_EQ(drawing.texts.size(), 1U);
+  EXPECT_EQ(drawing.texts[0].text, "x");
+  EXPECT_EQ(drawing.texts[0].layer, "t");
   EXPECT_EQ(drawing.entities.size(), 2U);
 }
 
@@ -192,12 +194,12 @@ TEST(ReadInsert, VeryDeepNestingThatIsNotPlacedIsHarmless) {
 TEST(ReadInsert, ExpansionIsBounded) {
   EXPECT_THAT(RefusalOfBlocks(kBar, "0 INSERT | 2 bar | 70 32767 | 71 32767"),
               HasSubstr(": placing block bar here makes more than 2000000 entities; "));
-  std::string blocks = Block("n1", "0 TEXT | 1 nothing to draw");
+  std::string blocks = Block("n1", "0 HATCH | 1 nothing to draw");
   for (int i = 2; i <= 12; ++i) {
     blocks += Block("n" + std::to_string(i), "0 INSERT | 70 1000 | 71 1000 | 2 n" + std::to_string(i - 1));
   }
   EXPECT_THAT(RefusalOfBlocks(blocks, "0 INSERT | 2 n12"), HasSubstr(" makes more than 2000000 entities; "));
-  EXPECT_THAT(RefusalOfBlocks(Block("e", "0 TEXT"), "0 INSERT | 2 e | 70 2147483647 | 71 2147483647"),
+  EXPECT_THAT(RefusalOfBlocks(Block("e", "0 HATCH"), "0 INSERT | 2 e | 70 2147483647 | 71 2147483647"),
               HasSubstr(" makes more than 2000000 entities; "));
 }
 

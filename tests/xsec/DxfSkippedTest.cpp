@@ -17,13 +17,14 @@ constexpr const char* kNotRead = "this type is not read";
 
 TEST(SkippedEntities, OtherTypesAreCountedByTypeAndLayer) {
   const Drawing drawing = ReadEntities(
-      "0 TEXT | 8 notes | 1 a | 0 LINE | 11 1 | 0 TEXT | 8 notes | 1 b | 0 TEXT | 8 frame | 0 MTEXT | 8 notes | 3 c |"
+      "0 HATCH | 8 notes | 1 a | 0 LINE | 11 1 | 0 HATCH | 8 notes | 1 b | 0 HATCH | 8 frame | 0 LEADER | 8 notes | 3 "
+      "c |"
       "0 POINT | 8 a | 0 SOLID | 8 a | 0 HATCH | 8 a | 91 1 | 92 1 | 93 1 | 72 1 | 10 0 | 0 DIMENSION | 8 a | 70 32 |"
       "0 LEADER | 8 a | 76 2000000000 | 0 RAY | 8 a | 0 XLINE | 8 a | 0 3DFACE | 8 a | 0 IMAGE | 8 a | 0 MLINE | 8 a |"
       "0 ACAD_PROXY_ENTITY | 8 a | 0 ATTDEF | 8 a");
-  EXPECT_EQ(SkippedCount(drawing, "TEXT", "notes", kNotRead), 2U);
-  EXPECT_EQ(SkippedCount(drawing, "TEXT", "frame", kNotRead), 1U);
-  EXPECT_EQ(SkippedCount(drawing, "MTEXT", "notes", kNotRead), 1U);
+  EXPECT_EQ(SkippedCount(drawing, "HATCH", "notes", kNotRead), 2U);
+  EXPECT_EQ(SkippedCount(drawing, "HATCH", "frame", kNotRead), 1U);
+  EXPECT_EQ(SkippedCount(drawing, "LEADER", "notes", kNotRead), 1U);
   for (const char* type : {"POINT", "SOLID", "HATCH", "DIMENSION", "LEADER", "RAY", "XLINE", "3DFACE", "IMAGE", "MLINE",
                            "ACAD_PROXY_ENTITY", "ATTDEF"}) {
     EXPECT_EQ(SkippedCount(drawing, type, "a", kNotRead), 1U) << type;
@@ -34,7 +35,8 @@ TEST(SkippedEntities, OtherTypesAreCountedByTypeAndLayer) {
 
 TEST(SkippedEntities, PaperSpaceIsCountedWhetherInEntitiesOrInItsBlock) {
   const Drawing drawing = ReadBlocks(
-      "0 BLOCK | 2 *Paper_Space0 | 0 LINE | 8 b | 11 1 | 0 ENDBLK | 0 BLOCK | 2 $PAPER_SPACE | 0 TEXT | 8 b | 0 ENDBLK",
+      "0 BLOCK | 2 *Paper_Space0 | 0 LINE | 8 b | 11 1 | 0 ENDBLK | 0 BLOCK | 2 $PAPER_SPACE | 0 HATCH | 8 b | 0 "
+      "ENDBLK",
       "0 LINE | 8 a | 67 1 | 11 1 | 0 POLYLINE | 8 a | 67 1 | 0 VERTEX | 10 1 | 67 1 | 0 VERTEX | 10 2 | 67 1 |"
       "0 SEQEND | 0 VIEWPORT | 8 a | 67 1 | 0 LINE | 8 a | 67 0 | 11 1");
   constexpr const char* kPaper = "it stands in paper space";
@@ -42,7 +44,7 @@ TEST(SkippedEntities, PaperSpaceIsCountedWhetherInEntitiesOrInItsBlock) {
   EXPECT_EQ(SkippedCount(drawing, "POLYLINE", "a", kPaper), 1U);
   EXPECT_EQ(SkippedCount(drawing, "VIEWPORT", "a", kPaper), 1U);
   EXPECT_EQ(SkippedCount(drawing, "LINE", "b", kPaper), 1U);
-  EXPECT_EQ(SkippedCount(drawing, "TEXT", "b", kPaper), 1U);
+  EXPECT_EQ(SkippedCount(drawing, "HATCH", "b", kPaper), 1U);
   EXPECT_EQ(drawing.entities.size(), 1U);
 }
 
@@ -53,8 +55,8 @@ TEST(SkippedEntities, ModelSpaceBlockIsTheDrawingItself) {
 
 TEST(SkippedEntities, ThoseOfABlockAreCountedForEachPlace) {
   const Drawing drawing =
-      ReadBlocks("0 BLOCK | 2 b | 0 TEXT | 8 t | 0 LINE | 8 t | 0 ENDBLK", "0 INSERT | 2 b | 70 3 | 0 INSERT | 2 b");
-  EXPECT_EQ(SkippedCount(drawing, "TEXT", "t", kNotRead), 4U);
+      ReadBlocks("0 BLOCK | 2 b | 0 HATCH | 8 t | 0 LINE | 8 t | 0 ENDBLK", "0 INSERT | 2 b | 70 3 | 0 INSERT | 2 b");
+  EXPECT_EQ(SkippedCount(drawing, "HATCH", "t", kNotRead), 4U);
   EXPECT_EQ(SkippedCount(drawing, "LINE", "t", "its length is 0"), 4U);
 }
 

@@ -227,12 +227,14 @@ TEST(TableText, HasARowForEachRegionAndATotal) {
   std::istringstream text(TableText(carried.report()));
   std::vector<std::string> lines;
   for (std::string line; std::getline(text, line);) lines.push_back(line);
-  ASSERT_THAT(lines, SizeIs(4));
+  ASSERT_THAT(lines, SizeIs(7));
   EXPECT_THAT(lines[0], HasSubstr("net area mm2"));
   const std::string& disc =
       *std::find_if(lines.begin(), lines.end(), [](const auto& l) { return l.find("Disc") != l.npos; });
   EXPECT_THAT(disc, HasSubstr("12.5664"));
-  EXPECT_EQ(lines[3], "2 regions, net area 60 mm2, 1 open pieces with 1 loose ends");
+  EXPECT_EQ(lines[4], "name Plate \"A\" & <B>: 1 region, 47.4336 mm2");
+  EXPECT_EQ(lines[5], "name Disc: 1 region, 12.5664 mm2");
+  EXPECT_EQ(lines[6], "2 regions, net area 60 mm2, 1 open pieces with 1 loose ends");
   for (std::size_t i = 1; i < 3; ++i) EXPECT_EQ(lines[i].size(), lines[0].size());
 }
 

@@ -98,7 +98,9 @@ class FemWriter {
     for (std::size_t group = 0; group < groups.size(); ++group) {
       for (const std::size_t region : groups[group].regions) groupOf[region] = group + 1;
     }
-    Add("[NumHoles] = 0\n[NumBlockLabels] = {}\n", regions.size());
+    Add("[NumHoles] = {}\n", fReport.detection.leftOut.size());
+    for (const Point& hole : fReport.detection.leftOut) Add("{}\t{}\t0\n", hole.x, hole.y);
+    Add("[NumBlockLabels] = {}\n", regions.size());
     for (std::size_t i = 0; i < regions.size(); ++i) {
       const auto material = std::find(fMaterials.begin(), fMaterials.end(), MaterialOf(regions[i]));
       const Point label = LabelOf(i);

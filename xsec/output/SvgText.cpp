@@ -156,7 +156,7 @@ class SvgPicture {
 
   void AddRegion(std::size_t index, std::size_t kind) {
     const Region& region = fReport.detection.regions[index];
-    Add("<path id=\"region-{}\" fill=\"{}\" d=\"", RegionId(index), FillColour(kind, region.depth));
+    Add("<path id=\"region-{}\" fill=\"{}\" d=\"", RegionId(index), FillOf(region, kind));
     AddLoop(region.outline);
     for (const Loop& hole : region.holes) AddLoop(hole);
     Add("\"><title>{}: {} mm²</title></path>\n", Escaped(region.uniqueName), Plain(region.netArea, 6));
@@ -168,7 +168,12 @@ class SvgPicture {
     Add("</g>\n");
   }
 
+  static std::string FillOf(const Region& region, std::size_t kind) {
+    return region.colour.empty() ? FillColour(kind, region.depth) : region.colour;
+  }
+
   void AddLabel(const Region& region) {
+    if (region.baseArea < MinimumLabelArea(fReport.settings)) return;
     RegionSpace space{&region.outline, {}};
     for (const Loop& hole : region.holes) space.holes.push_back(&hole);
     const auto fit = FitLabel(space, region.label, CountCharacters(region.uniqueName), kLargestLabel * fUnit);
@@ -213,10 +218,10 @@ class SvgPicture {
 
   void AddLegendRow(std::size_t kind, double x, double y) {
     const RegionKind& group = fKinds[kind];
-    const std::size_t depth = fReport.detection.regions[group.regions.front()].depth;
     Add("<rect x=\"{:.10g}\" y=\"{:.10g}\" width=\"{:.6g}\" height=\"{:.6g}\" fill=\"{}\" stroke=\"#303030\" "
         "stroke-width=\"{:.6g}\"/>\n",
-        x, y - 1.3 * fUnit, 2 * fUnit, 1.6 * fUnit, FillColour(kind, depth), kOutlineWidth * fUnit);
+        x, y - 1.3 * fUnit, 2 * fUnit, 1.6 * fUnit, FillOf(fReport.detection.regions[group.regions.front()], kind),
+        kOutlineWidth * fUnit);
     const std::size_t count = group.regions.size();
     const std::string area = Plain(group.netArea, 5);
     LegendText(x, y,

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "xsec/Report.h"
+#include "xsec/output/RegionGroups.h"
 
 namespace xsec {
 
@@ -58,11 +59,38 @@ std::string Line(const Row& row, const std::array<std::size_t, kColumns.size()>&
   return line + "\n";
 }
 
+/// What the groups of one kind come to, a line each.
+std::string AreaLines(const char* kind, const std::vector<RegionGroup>& groups, std::size_t copies) {
+  std::string text;
+  for (const RegionGroup& group : groups) {
+    text += fmt::format("{} {}: {} region{}, {} mm2", kind, group.name, group.regions.size(),
+                        group.regions.size() == 1 ? "" : "s", Plain(group.netArea, 6));
+    if (copies > 1)
+      text += fmt::format(", of {} copies {} mm2", copies, Plain(group.netArea * static_cast<double>(copies), 6));
+    text += "\n";
+  }
+  return text;
+}
+
+/// Types are worth a line when anything has one, materials when anything is made of one.
+std::string Areas(const Report& report) {
+  const std::vector<Region>& regions = report.detection.regions;
+  const bool hasTypes = std::any_of(regions.begin(), regions.end(),
+                                    [](const Region& region) { return region.type != GeometryEngine::rtUndefined; });
+  return "\n" + AreaLines("name", GroupByName(regions), report.copies) +
+         (hasTypes ? AreaLines("type", GroupByType(regions), report.copies) : "") +
+         AreaLines("material", GroupByMaterial(regions), report.copies);
+}
+
 std::string TotalLine(const Report& report) {
   const Detection& detection = report.detection;
   std::string line =
       fmt::format("{} regions, net area {} mm2", detection.regions.size(), Plain(TotalArea(detection), 6));
   const std::size_t open = detection.diagnostics.openPieces.size();
+  if (report.copies > 1) {
+    line += fmt::format(", of {} copies {} mm2", report.copies,
+                        Plain(TotalArea(detection) * static_cast<double>(report.copies), 6));
+  }
   if (open > 0) line += fmt::format(", {} open pieces with {} loose ends", open, CountLooseEnds(detection));
   return line + "\n";
 }
@@ -101,7 +129,7 @@ std::string TableText(const Report& aReport) {
   }
   std::string text;
   for (const Row& row : rows) text += Line(row, widths);
-  return text + TotalLine(aReport);
+  return text + (regions.empty() ? "" : Areas(aReport)) + TotalLine(aReport);
 }
 
 }  // namespace xsec

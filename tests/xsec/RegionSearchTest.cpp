@@ -1,0 +1,85 @@
+#include "xsec/RegionSearch.h"
+
+#include <cmath>
+
+#include <gmock/gmock.h>
+
+#include "tests/support/Settings.h"
+#include "tests/xsec/Drawings.h"
+
+namespace xsec {
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+Detection Found(const Drawing& drawing, const SearchRequest& request) {
+  const GeometryEngine::support::TSettingsGuard guard;
+  return FindRegions(drawing, ApplySettings({}, drawing.extents), request);
+}
+
+SearchRequest TurnBy(double degrees) {
+  SearchRequest request;
+  request.turn = degrees;
+  return request;
+}
+
+TEST(FindRegions, TurningChangesNothingThatIsFound) {
+  const Drawing drawing = DrawingOf({{"Plate", Rectangle(2, 1, 12, 7)}, {"Disc", Circle(6, 4, 2)}});
+  const Detection straight = Found(drawing, {});
+  for (const double degrees : {17.0, 90.0, -123.4}) {
+    const Detection turned = Found(drawing, TurnBy(degrees));
+    ASSERT_THAT(turned.regions, SizeIs(2)) << degrees;
+    for (const Region& region : straight.regions) {
+      const Region& same = RegionOfArea(turned, region.baseArea);
+      EXPECT_EQ(same.name, region.name);
+      EXPECT_NEAR(same.netArea, region.netArea, 1e-9);
+      EXPECT_NEAR(same.centroid.x, region.centroid.x, 1e-4);
+      EXPECT_NEAR(SignedArea(same.outline), region.baseArea, 1e-9);
+      const Extents box = Bounds(same.outline), wanted = Bounds(region.outline);
+      EXPECT_NEAR(box.minX, wanted.minX, 1e-9);
+      EXPECT_NEAR(box.maxY, wanted.maxY, 1e-9);
+    }
+  }
+}
+
+TEST(Turned, QuarterTurnsAreExact) {
+  const Drawing turned = Turned(DrawingOf("L 1,2 3,0.1"), 90);
+  EXPECT_EQ(turned.entities[0].geometry.StartCoords.x, -2);
+  EXPECT_EQ(turned.entities[0].geometry.StartCoords.y, 1);
+  EXPECT_EQ(turned.entities[0].geometry.EndCoords.x, -0.1);
+}
+
+TEST(FindRegions, LeavesOutSmallRegionsAndHangsTheirChildrenHigher) {
+  const Drawing drawing =
+      DrawingOf(Rectangle(0, 0, 20, 20) + Rectangle(5, 5, 15, 15) + Rectangle(5.01, 5.01, 14.99, 14.99));
+  SearchRequest request;
+  request.minimumArea = 1;
+  const Detection found = Found(drawing, request);
+  ASSERT_THAT(found.regions, SizeIs(2));
+  const Region& inner = RegionOfArea(found, 9.98 * 9.98);
+  const Region& outer = RegionOfArea(found, 400);
+  EXPECT_EQ(&found.regions[inner.parent], &outer);
+  EXPECT_EQ(inner.depth, 1U);
+  EXPECT_NEAR(outer.netArea, 300, 1e-9);
+  EXPECT_THAT(outer.children, SizeIs(1));
+  EXPECT_THAT(found.leftOut, SizeIs(1));
+  EXPECT_THAT(found.diagnostics.warnings, ::testing::Contains(HasSubstr("below 1 mm2 left out: 1, together 0.3996")));
+}
+
+TEST(FindRegions, WarnsOfCopiesThatWouldOverlap) {
+  const Drawing sector = DrawingOf("A c 0,0 r 10 -20..20; A c 0,0 r 5 -20..20; L " + std::string("0,0 1,0"));
+  SearchRequest request;
+  request.copies = 9;
+  EXPECT_THAT(Found(sector, request).diagnostics.warnings, IsEmpty());
+  request.copies = 10;
+  EXPECT_THAT(Found(sector, request).diagnostics.warnings,
+              ElementsAre(HasSubstr("spans 40 degrees about the origin, but 10 copies leave 36")));
+}
+
+}  // namespace
+
+}  // namespace xsec

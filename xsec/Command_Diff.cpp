@@ -1,0 +1,73 @@
+#include <fmt/format.h>
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <memory>
+
+#include "xsec/Commands.h"
+#include "xsec/Terminal.h"
+#include "xsec/diff/RegionDiff.h"
+
+namespace xsec {
+
+namespace {
+
+constexpr const char* kExamples =
+    "Examples:\n"
+    "  xsec diff old.json new.json               a line for each region that was added, removed or changed\n"
+    "  xsec diff old.json new.json --tol 0.01    places within 0.01 mm are the same\n"
+    "\n"
+    "Both files come from xsec regions -o FILE.json.\n"
+    "\n"
+    "Exit codes: 0 no difference, 1 differences, 2 wrong usage, 3 a file is unreadable.";
+
+struct DiffOptions {
+  std::string before;
+  std::string after;
+  double tolerance = 0;  // 0: as the files say
+};
+
+std::size_t Count(const std::vector<RegionChange>& changes, RegionChange::Kind kind) {
+  return static_cast<std::size_t>(
+      std::count_if(changes.begin(), changes.end(), [&](const RegionChange& change) { return change.kind == kind; }));
+}
+
+ExitCode RunDiff(const DiffOptions& options) {
+  const FoundRegions before = LoadRegions(options.before);
+  const FoundRegions after = LoadRegions(options.after);
+  const double tolerance = options.tolerance > 0 ? options.tolerance : std::max(before.tolerance, after.tolerance);
+  const std::vector<RegionChange> changes = CompareRegions(before, after, tolerance);
+  std::string text;
+  for (const RegionChange& change : changes) text += LineOf(change, tolerance) + "\n";
+  text += fmt::format("{} and {} regions: {} removed, {} added, {} changed\n", before.regions.size(),
+                      after.regions.size(), Count(changes, RegionChange::Kind::Removed),
+                      Count(changes, RegionChange::Kind::Added), Count(changes, RegionChange::Kind::Changed));
+  PrintToStandardOutput(text);
+  return changes.empty() ? ExitCode::Fine : ExitCode::Findings;
+}
+
+}  // namespace
+
+void AddDiffCommand(CLI::App& aApp, Action& aAction) {
+  const auto options = std::make_shared<DiffOptions>();
+  CLI::App& command = *aApp.add_subcommand("diff", "Compare the regions of two drawings");
+  command.add_option("BEFORE", options->before, "JSON of the regions before")->required()->type_name("");
+  command.add_option("AFTER", options->after, "JSON of the regions after")->required()->type_name("");
+  command
+      .add_option_function<double>(
+          "--tol",
+          [options](double tolerance) {
+            if (!(tolerance > 0 && std::isfinite(tolerance))) {
+              throw UsageError(fmt::format("--tol {}: expected a length in millimetres above 0", tolerance));
+            }
+            options->tolerance = tolerance;
+          },
+          "How far a place may move unnoticed. Without it the larger tolerance of the two files")
+      ->type_name("MM");
+  command.footer(kExamples);
+  command.callback([&aAction, options] { aAction = [options] { return RunDiff(*options); }; });
+}
+
+}  // namespace xsec

@@ -1,0 +1,134 @@
+#include <fmt/format.h>
+
+#include <CLI/CLI.hpp>
+#include <cmath>
+#include <memory>
+#include <optional>
+
+#include "xsec/Commands.h"
+#include "xsec/DrawingOptions.h"
+#include "xsec/DxfText.h"
+#include "xsec/Report.h"
+#include "xsec/ReportAnswer.h"
+#include "xsec/SearchOptions.h"
+#include "xsec/Terminal.h"
+#include "xsec/output/OutputFiles.h"
+#include "xsec/transform/OffsetOutline.h"
+#include "xsec/transform/TransformDrawing.h"
+
+namespace xsec {
+
+namespace {
+
+constexpr const char* kExamples =
+    "Examples:\n"
+    "  xsec transform slot.dxf --offset -0.3 -o liner.dxf       the slot, 0.3 mm smaller all round\n"
+    "  xsec transform pole.dxf --mirror 0,0,1,0 -o other.dxf    about the x axis\n"
+    "  xsec transform pole.dxf --rotate 45 -o next.dxf          anticlockwise about the origin\n"
+    "  xsec transform pole.dxf --copies 8 -o rotor.dxf -o rotor.svg\n"
+    "                                                           the whole machine from an eighth\n"
+    "\n"
+    "Corners of offset outlines are drawn out to their points. The drawing that is written holds the outlines of the\n"
+    "regions that are found in the result.\n"
+    "\n"
+    "Exit codes: 0 fine, 2 wrong usage, 3 drawing unreadable, 4 output not written, 5 no closed region found,\n"
+    "6 an outline that cannot be offset.";
+
+struct TransformOptions {
+  DrawingOptions drawing;
+  SearchOptions search;
+  std::vector<Output> outputs;
+  std::optional<double> offset;
+  std::optional<std::pair<Point, Point>> mirror;
+  std::optional<double> rotate;
+  std::size_t copies = 0;
+};
+
+std::pair<Point, Point> MirrorLine(const std::string& text) {
+  std::vector<double> numbers;
+  for (std::size_t at = 0; at <= text.size();) {
+    const std::size_t comma = std::min(text.find(',', at), text.size());
+    if (const auto number = ParseNumber(std::string_view(text).substr(at, comma - at))) numbers.push_back(*number);
+    at = comma + 1;
+  }
+  if (numbers.size() != 4 || (numbers[0] == numbers[2] && numbers[1] == numbers[3])) {
+    throw UsageError(fmt::format("--mirror {}: expected X1,Y1,X2,Y2, two different points of the line", text));
+  }
+  return {{numbers[0], numbers[1]}, {numbers[2], numbers[3]}};
+}
+
+double CheckedOffset(double offset, const Settings& settings) {
+  constexpr double kLeastTolerances = 4;
+  if (std::isfinite(offset) && std::abs(offset) >= kLeastTolerances * settings.tolerance) return offset;
+  throw UsageError(
+      fmt::format("--offset {}: too close to the tolerance of {:.6g} mm; give a distance of at least {:.6g} mm, or "
+                  "a smaller --tol",
+                  offset, settings.tolerance, kLeastTolerances * settings.tolerance));
+}
+
+void CheckOneIsAsked(const TransformOptions& options) {
+  const int asked = static_cast<int>(options.offset.has_value()) + static_cast<int>(options.mirror.has_value()) +
+                    static_cast<int>(options.rotate.has_value()) + static_cast<int>(options.copies > 0);
+  if (asked != 1) throw UsageError("transform: expected one of --offset, --mirror, --rotate, --copies");
+}
+
+Drawing Transformed(const TransformOptions& options, const SearchRequest& request, const Drawing& drawing) {
+  if (options.mirror) return Mirrored(drawing, options.mirror->first, options.mirror->second);
+  if (options.rotate) return Turned(drawing, *options.rotate);
+  if (options.copies > 0) return CopiedRound(drawing, options.copies);
+  const Settings settings = ApplySettings(options.drawing.settings, drawing.extents);
+  const double distance = CheckedOffset(*options.offset, settings);
+  return Offset(drawing, FindRegions(drawing, settings, request).regions, distance, settings);
+}
+
+ExitCode RunTransform(const TransformOptions& options) {
+  CheckOutputs(options.outputs);
+  const SearchRequest request = LoadRequest(options.search);
+  const Progress progress;
+  progress.Show("reading " + options.drawing.path);
+  const Drawing source = LoadDrawing(options.drawing);
+  progress.Show("transforming");
+  const Drawing drawing = Transformed(options, request, source);
+  const Settings settings = ApplySettings(options.drawing.settings, drawing.extents);
+  progress.Show("finding the regions of the result");
+  const Detection detection = FindRegions(drawing, settings, request);
+  const Report report{drawing, settings, detection};
+  WriteOutputs(options.outputs, report);
+  progress.Clear();
+  return TellReport(report, options.outputs);
+}
+
+ExitCode RunOrRefuse(const TransformOptions& options) {
+  try {
+    return RunTransform(options);
+  } catch (const OffsetError& error) {
+    Tell(std::string(error.what()) + "; a smaller distance may do");
+    return ExitCode::CannotBeOffset;
+  }
+}
+
+}  // namespace
+
+void AddTransformCommand(CLI::App& aApp, Action& aAction) {
+  const auto options = std::make_shared<TransformOptions>();
+  CLI::App& command = *aApp.add_subcommand("transform", "Offset, mirror, turn or copy the outlines of a drawing");
+  AddDrawingOptions(command, options->drawing);
+  AddSearchOptions(command, options->search, options->drawing.settings);
+  AddOutputOption(command, options->outputs);
+  command.add_option("--offset", options->offset, "Move every outline outwards, or inwards by a negative distance")
+      ->type_name("MM");
+  command
+      .add_option_function<std::string>(
+          "--mirror", [options](const std::string& text) { options->mirror = MirrorLine(text); },
+          "Mirror about the line through two points")
+      ->type_name("X1,Y1,X2,Y2");
+  command.add_option("--rotate", options->rotate, "Turn anticlockwise about the origin")->type_name("DEG");
+  AddCopiesOption(command, options->copies, "Copy round the origin, at equal angles");
+  command.footer(kExamples);
+  command.callback([&aAction, options] {
+    CheckOneIsAsked(*options);
+    aAction = [options] { return RunOrRefuse(*options); };
+  });
+}
+
+}  // namespace xsec

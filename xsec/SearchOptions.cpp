@@ -1,0 +1,91 @@
+#include "xsec/SearchOptions.h"
+
+#include <fmt/format.h>
+
+#include <CLI/CLI.hpp>
+#include <cmath>
+#include <map>
+
+#include "GeometryEngine/host/TInputFields.h"
+#include "xsec/Errors.h"
+
+namespace xsec {
+
+namespace {
+
+constexpr int kMostCopies = 100000;
+
+double CheckedArea(const char* option, double area) {
+  if (area >= 0 && std::isfinite(area)) return area;
+  throw UsageError(fmt::format("{} {}: expected an area in mm2, 0 or more", option, area));
+}
+
+double CheckedTurn(double turn) {
+  if (std::isfinite(turn)) return turn;
+  throw UsageError(fmt::format("--turn {}: expected an angle in degrees", turn));
+}
+
+NameSource SourceNamed(const std::string& name) {
+  const std::map<std::string, NameSource> sources = {
+      {"layer", NameSource::Layer}, {"text", NameSource::Text}, {"block", NameSource::Block}};
+  const auto place = sources.find(name);
+  if (place != sources.end()) return place->second;
+  throw UsageError(fmt::format("--name-from {}: unknown; known are layer, text, block", name));
+}
+
+void AddNaming(CLI::App& command, SearchOptions& options) {
+  command.add_option("--rules", options.rules, "Give names, types, colours, materials by the rules in a JSON file")
+      ->type_name("FILE");
+  command
+      .add_option_function<std::string>(
+          "--name-from", [&](const std::string& name) { options.request.naming.source = SourceNamed(name); },
+          "Name regions by the layer of their outline (as without this), the text in them, or the block they come from")
+      ->type_name("layer|text|block");
+}
+
+}  // namespace
+
+void AddSearchOptions(CLI::App& aCommand, SearchOptions& aOptions, SettingsRequest& aSettings) {
+  AddNaming(aCommand, aOptions);
+  aCommand
+      .add_option_function<double>(
+          "--min-area", [&](double area) { aOptions.request.minimumArea = CheckedArea("--min-area", area); },
+          "Leave out regions with less net area")
+      ->type_name("MM2");
+  aCommand
+      .add_option_function<double>(
+          "--min-label-area",
+          [&](double area) {
+            const auto field = static_cast<std::uint16_t>(Maindataenum::TInputFields::ifMinimumLabelArea);
+            aSettings.fields.push_back({field, CheckedArea("--min-label-area", area)});
+          },
+          "Write no names into smaller regions")
+      ->type_name("MM2");
+  aCommand
+      .add_option_function<double>(
+          "--turn", [&](double turn) { aOptions.request.turn = CheckedTurn(turn); },
+          "Turn the drawing before its regions are sought, and the regions back after it")
+      ->type_name("DEG");
+}
+
+void AddCopiesOption(CLI::App& aCommand, std::size_t& aCopies, const char* aMeaning) {
+  aCommand
+      .add_option_function<int>(
+          "--copies",
+          [&](int copies) {
+            if (copies < 1 || copies > kMostCopies) {
+              throw UsageError(fmt::format("--copies {}: expected a number from 1 to {}", copies, kMostCopies));
+            }
+            aCopies = static_cast<std::size_t>(copies);
+          },
+          aMeaning)
+      ->type_name("N");
+}
+
+SearchRequest LoadRequest(const SearchOptions& aOptions) {
+  SearchRequest request = aOptions.request;
+  if (!aOptions.rules.empty()) request.naming.rules = LoadRules(aOptions.rules);
+  return request;
+}
+
+}  // namespace xsec
