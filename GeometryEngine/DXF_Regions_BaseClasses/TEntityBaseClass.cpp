@@ -3,6 +3,8 @@
 #include <cmath>
 #include <utility>
 
+#include "GeometryEngine/FloatingPoint/TFloatEnvironment.h"
+
 namespace GeometryEngine {
 
 namespace {
@@ -64,6 +66,7 @@ const TEntityTree& TEntityBaseClass::RegionTree() const {
 void TEntityBaseClass::AddRegionEntities(TTreeNode_Geometry* aRegion, TIndex aRegionIndex) {
   const TTreeNode* region = fRegionTree.RootNode()->GetNode(aRegionIndex);
   if (aRegion == nullptr || region == nullptr) return;
+  const TFloatEnvironment environment;
   TEntityArray chain = GetRegionEntities(fRegionTree, *region);
   const bool closed = aRegion->RegionPolyType() == ptClosed;
   TEntityStorage& entities = aRegion->Entities();

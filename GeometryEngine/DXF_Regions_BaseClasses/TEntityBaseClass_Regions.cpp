@@ -2,6 +2,7 @@
 
 #include "GeometryEngine/DXF_Entity_Types/detail/TEntityIndex.h"
 #include "GeometryEngine/DXF_Regions_BaseClasses/TEntityBaseClass.h"
+#include "GeometryEngine/DXF_Regions_BaseClasses/detail/TDriverPass.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TGraphWalk.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TLoopTracing.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TVertexGraph.h"
@@ -80,6 +81,7 @@ class TKnownChains {
 }  // namespace
 
 void TEntityBaseClass::DetermineRegions(TEntityTree& aTree, std::int32_t aRegionType) {
+  detail::TDriverPass pass(fRegionTree);
   fRegionTree.Clear();
   fRegionTree.pEntityStorage(aTree.pEntityStorage());
   const detail::TVertexGraph graph(aTree);
@@ -92,9 +94,11 @@ void TEntityBaseClass::DetermineRegions(TEntityTree& aTree, std::int32_t aRegion
     AddWalkedRegion(fRegionTree, graph, tracing.Walk(), tracing.Area());
   }
   tracing.Walk().WriteMarks();
+  pass.Done();
 }
 
 void TEntityBaseClass::DetectOrphanEntities(TEntityTree& aTree) {
+  detail::TDriverPass pass(fRegionTree);
   fRegionTree.Clear();
   fRegionTree.pEntityStorage(aTree.pEntityStorage());
   const detail::TVertexGraph graph(aTree);
@@ -108,12 +112,14 @@ void TEntityBaseClass::DetectOrphanEntities(TEntityTree& aTree) {
     AddWalkedRegion(fRegionTree, graph, walk, walk.GetArea());
   }
   walk.WriteMarks();
+  pass.Done();
 }
 
 void TEntityBaseClass::AddRegionCoordinates(const TEntityTree& aCoordinateTree,
                                             std::span<const std::int32_t> aNodeIndexes, const TEntityCoordinate& aStart,
                                             const TEntityCoordinate& aCentroid, double aArea) {
   if (aNodeIndexes.empty()) return;
+  const TFloatEnvironment environment;
   TTreeNode* region = AddRegion(fRegionTree, aStart, aCentroid, aArea);
   for (const std::int32_t index : aNodeIndexes) {
     fRegionTree.AddTreeNode(region)->EntityIndex(GetWalkedEntityIndex(aCoordinateTree, index));

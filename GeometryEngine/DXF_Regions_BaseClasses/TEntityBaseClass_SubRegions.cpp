@@ -52,15 +52,22 @@ std::vector<TClosestContainer> FindClosestContainers(std::span<TTreeNode* const>
   return closest;
 }
 
+// All lists are made before the first is set, so that memory that runs out leaves the regions as they were.
+void SetSubRegions(std::span<TTreeNode* const> aRegions, std::vector<TIntegerArray>& aLists) {
+  for (std::size_t j = 0; j < aRegions.size(); ++j) aRegions[j]->SubRegions(std::move(aLists[j]));
+}
+
 }  // namespace
 
 void TEntityBaseClass::IdentifySubRegions(const TEntityTree& aTree) {
   const TFloatEnvironment environment;
   const std::span<TTreeNode* const> regions = fRegionTree.RootNode()->Children();
-  const std::vector<TIntegerArray> nested = detail::FindNestedRegions(fRegionTree, aTree);
+  std::vector<TIntegerArray> lists = detail::FindNestedRegions(fRegionTree, aTree);
   for (std::size_t j = 0; j < regions.size(); ++j) {
-    for (const std::int32_t region : nested[j]) regions[j]->AddSubRegion(region);
+    const TIntegerArray& known = regions[j]->SubRegions();
+    lists[j].insert(lists[j].begin(), known.begin(), known.end());
   }
+  SetSubRegions(regions, lists);
 }
 
 void TEntityBaseClass::RemoveDuplicatedSubRegions() {
@@ -68,8 +75,9 @@ void TEntityBaseClass::RemoveDuplicatedSubRegions() {
   const std::span<TTreeNode* const> regions = fRegionTree.RootNode()->Children();
   std::vector<TClosestContainer> closest = FindClosestContainers(regions);
   for (TClosestContainer& container : closest) container.fLast = kNotFound;
+  std::vector<TIntegerArray> lists(regions.size());
   for (std::size_t j = 0; j < regions.size(); ++j) {
-    TIntegerArray kept;
+    TIntegerArray& kept = lists[j];
     kept.reserve(regions[j]->SubRegions().size());
     for (const std::int32_t region : regions[j]->SubRegions()) {
       // Of an index that is listed twice only the first entry goes.
@@ -80,8 +88,8 @@ void TEntityBaseClass::RemoveDuplicatedSubRegions() {
       }
       kept.push_back(region);
     }
-    regions[j]->SubRegions(std::move(kept));
   }
+  SetSubRegions(regions, lists);
 }
 
 bool TEntityBaseClass::GetIsRegionSubRegion(std::int32_t aRegionIndex) const {

@@ -134,19 +134,19 @@ std::vector<TScenario> DriverScenarios() {
   return {
       On<TBeforeSweep>("DetermineInterceptions", Usable, [](TBeforeSweep& s) { s.Intercept(); }),
       On<TBeforeTracing>("DetermineInterceptions_Again", Usable, [](TBeforeTracing& s) { s.Intercept(); }),
-      On<TBeforeTracing>("DetermineRegions", Usable, [](TBeforeTracing& s) { s.Trace(); }),
-      On<TBeforeTracing>("DetectOrphanEntities", Usable,
+      On<TBeforeTracing>("DetermineRegions", Empty, [](TBeforeTracing& s) { s.Trace(); }),
+      On<TBeforeTracing>("DetectOrphanEntities", Empty,
                          [](TBeforeTracing& s) { s.driver->DetectOrphanEntities(s.driver->CoordinateTree()); }),
       On<TBeforeTracing>("AddEntityToCoordinateTree", Usable,
                          [](TBeforeTracing& s) {
                            s.driver->AddEntityToCoordinateTree(s.driver->CoordinateTree(),
                                                                Tagged(CreateEntity_Line(1, 1, 50, 1)));
                          }),
-      On<TBeforeNesting>("IdentifySubRegions", Usable,
+      On<TBeforeNesting>("IdentifySubRegions", Unchanged,
                          [](TBeforeNesting& s) { s.driver->IdentifySubRegions(s.driver->CoordinateTree()); }),
-      On<TBeforeHandOver>("RemoveDuplicatedSubRegions", Usable,
+      On<TBeforeHandOver>("RemoveDuplicatedSubRegions", Unchanged,
                           [](TBeforeHandOver& s) { s.driver->RemoveDuplicatedSubRegions(); }),
-      On<TBeforeHandOver>("AddRegionEntities", Usable,
+      On<TBeforeHandOver>("AddRegionEntities", Unchanged,
                           [](TBeforeHandOver& s) { s.driver->AddRegionEntities(s.regions.GetNodeFromIndex(1), 0); }),
       On<TBeforeHandOver>("AddRegionCoordinates", Usable,
                           [](TBeforeHandOver& s) {

@@ -20,9 +20,17 @@ using GeometryEngine::support::THostEnvironment;
 namespace {
 
 // The scenarios whose one call holds a guard of its own.
-constexpr const char* kGuardedByThemselves[] = {
-    "GetPoleInaccessibility",     "IdentifySubRegions",    "Offset", "OffsetInwards", "RegionOffset",
-    "RemoveDuplicatedSubRegions", "UpdateGeometry_Outputs"};
+constexpr const char* kGuardedByThemselves[] = {"AddRegionCoordinates",
+                                                "AddRegionEntities",
+                                                "DetectOrphanEntities",
+                                                "DetermineRegions",
+                                                "GetPoleInaccessibility",
+                                                "IdentifySubRegions",
+                                                "Offset",
+                                                "OffsetInwards",
+                                                "RegionOffset",
+                                                "RemoveDuplicatedSubRegions",
+                                                "UpdateGeometry_Outputs"};
 
 bool IsGuardedByItself(const TScenario& aScenario) {
   return std::ranges::find(kGuardedByThemselves, aScenario.name) != std::end(kGuardedByThemselves);
