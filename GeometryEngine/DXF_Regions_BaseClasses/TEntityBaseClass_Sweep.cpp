@@ -1,63 +1,51 @@
-#include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
+#include <utility>
+
 #include "GeometryEngine/DXF_Regions_BaseClasses/TEntityBaseClass.h"
-#include "GeometryEngine/DXF_Regions_Detection/InterceptionRecording.h"
+#include "GeometryEngine/DXF_Regions_BaseClasses/detail/TVertexGraph.h"
+#include "GeometryEngine/DXF_Regions_Detection/detail/TRecordedPoints.h"
+#include "GeometryEngine/DXF_Regions_Detection/detail/TSweep.h"
 #include "GeometryEngine/DXF_Regions_Utilities/EntitySplitting.h"
-#include "GeometryEngine/DXF_SweepLine_Utilities/ExtremeCoordinates.h"
-#include "GeometryEngine/DXF_SweepLine_Utilities/PairInterceptions.h"
 
 namespace GeometryEngine {
 
 namespace {
 
-// A sweep from left to right over a storage that is sorted by left-most x.
-class TSweep {
+/// Empties what a pass was filling, unless the pass came to its end.
+class TPassGuard {
  public:
-  TSweep(const TEntityStorage& aStorage, TEntityTree& aInterceptTree)
-      : fStorage(aStorage), fInterceptTree(aInterceptTree) {}
-
-  void Run() {
-    for (TIndex i = 0; i < fStorage.Count(); ++i) Enter(i);
+  TPassGuard(TEntityTree& aTree, TEntityStorage& aPieces) : fTree(aTree), fPieces(aPieces) {}
+  ~TPassGuard() {
+    if (fIsDone) return;
+    fTree.Clear();
+    fPieces.FreeEntities();
   }
+  TPassGuard(const TPassGuard&) = delete;
+  TPassGuard& operator=(const TPassGuard&) = delete;
+  void Done() { fIsDone = true; }
 
  private:
-  void Enter(TIndex aIndex) {
-    const double left = GetLeftMostCoordinate(EntityAt(aIndex)).x;
-    for (std::size_t j = fActive.size(); j-- > 0;) {
-      if (IsLeftBehind(fActive[j], left)) {
-        Retire(j);
-      } else {
-        RecordPair(aIndex, fActive[j]);
-      }
-    }
-    fActive.push_back(aIndex);
-  }
-
-  bool IsLeftBehind(TIndex aIndex, double aLeft) const {
-    const double right = GetRightMostCoordinate(EntityAt(aIndex)).x;
-    return aLeft > right && !ValuesSame_DXFTolerance(right, aLeft);
-  }
-
-  void Retire(std::size_t aPosition) {
-    const TIndex index = fActive[aPosition];
-    AddInterception(fInterceptTree, EntityAt(index), index, EntityAt(index).StartCoords);
-    AddInterception(fInterceptTree, EntityAt(index), index, EntityAt(index).EndCoords);
-    fActive.erase(fActive.begin() + static_cast<std::ptrdiff_t>(aPosition));
-  }
-
-  void RecordPair(TIndex aEntering, TIndex aActive) {
-    const TDXFEntity& entering = EntityAt(aEntering);
-    const TDXFEntity& active = EntityAt(aActive);
-    TInterceptionPoints points;
-    if (!CheckIntercepts(entering, active, points)) return;
-    AddInterceptions(fInterceptTree, points, entering, active, aEntering, aActive);
-  }
-
-  const TDXFEntity& EntityAt(TIndex aIndex) const { return *fStorage.GetEntityFromIndex_Pointer(aIndex); }
-
-  const TEntityStorage& fStorage;
-  TEntityTree& fInterceptTree;
-  std::vector<TIndex> fActive;  // entities that the sweep has reached and not yet left behind, in order of entry
+  TEntityTree& fTree;
+  TEntityStorage& fPieces;
+  bool fIsDone = false;
 };
+
+void FillInterceptTree(const TEntityStorage& aDrawing, TEntityTree& aTree) {
+  detail::TRecordedPoints records(aDrawing.EntityArray());
+  // KEPT: entities still active at the end are not retired. Their own ends are recorded only where a pair test found
+  // them, which trims dangling ends: an end that meets nothing bounds no closed region.
+  detail::TSweep(aDrawing.EntityArray(), records).Run();
+  aTree.AddNodes(records.GetNodes());
+}
+
+/// At least as many pieces as the entities of an intercept tree are cut into.
+std::size_t GetMostPieces(const TEntityTree& aInterceptTree) {
+  std::size_t pieces = 0;
+  for (const TTreeNode* node : aInterceptTree.RootNode()->Children()) {
+    const std::size_t points = node->Children().size();
+    pieces += points < 2 ? points + 1 : points - 1;
+  }
+  return pieces;
+}
 
 }  // namespace
 
@@ -67,9 +55,7 @@ void TEntityBaseClass::DetermineInterceptions(TEntityStorage* apEntityStorage) {
   fInterceptTree.pEntityStorage(apEntityStorage);
   if (apEntityStorage != nullptr) {
     apEntityStorage->QuickSortArray(0, apEntityStorage->Count() - 1);
-    // KEPT: entities still active at the end are not retired. Their own ends are recorded only where a pair test found
-    // them, which trims dangling ends: an end that meets nothing bounds no closed region.
-    TSweep(*apEntityStorage, fInterceptTree).Run();
+    FillInterceptTree(*apEntityStorage, fInterceptTree);
   }
   CreateCoordinateTreeFromIntercepts();
 }
@@ -77,10 +63,13 @@ void TEntityBaseClass::DetermineInterceptions(TEntityStorage* apEntityStorage) {
 void TEntityBaseClass::CreateCoordinateTreeFromIntercepts() {
   fEntityStorage_Regions.FreeEntities();
   fCoordinateTree.pEntityStorage(&fEntityStorage_Regions);
+  detail::TVertexGraph graph(fEntityStorage_Regions.EntityArray(), GetMostPieces(fInterceptTree));
   for (const TTreeNode* node : fInterceptTree.RootNode()->Children()) {
-    const TEntityArray pieces = SplitEntity_FromIntercepts(fInterceptTree.GetNodeEntity(*node), node);
-    for (const TDXFEntity& piece : pieces) AddEntityToCoordinateTree(fCoordinateTree, piece);
+    for (TDXFEntity& piece : SplitEntity_FromIntercepts(fInterceptTree.GetNodeEntity(*node), node)) {
+      graph.Add(std::move(piece));
+    }
   }
+  fCoordinateTree.AddNodes(graph.Nodes());
 }
 
 void TEntityBaseClass::AddEntityToCoordinateTree(TEntityTree& aTree, const TDXFEntity& aEntity) {

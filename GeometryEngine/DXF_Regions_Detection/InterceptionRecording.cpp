@@ -1,41 +1,10 @@
 #include "GeometryEngine/DXF_Regions_Detection/InterceptionRecording.h"
 
-#include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
-#include "GeometryEngine/DXF_SweepLine_Utilities/PairInterceptions.h"
-#include "GeometryEngine/host/Numerics.h"
+#include "GeometryEngine/DXF_Regions_Detection/detail/PointOrder.h"
 
 namespace GeometryEngine {
 
 namespace {
-
-constexpr double kFullTurn = 360;  // degrees
-
-double GetSortAngle(double aAngle) {
-  return ValuesSame_DXFAngle(aAngle, 0) ? 0 : GetAngleInRange(aAngle, 0, kFullTurn);
-}
-
-// Where the points of an arc stand along it.
-class TArcOrder {
- public:
-  explicit TArcOrder(const TDXFEntity& aArc)
-      : fArc(aArc), fStart(GetSortAngle(aArc.startAngle)), fEnd(GetSortAngle(aArc.endAngle)) {}
-
-  double GetAngle(const TEntityCoordinate& aPoint) const {
-    const double angle = GetArcInterceptAngle(aPoint, fArc, fStart, fEnd);
-    const bool beyondZero = fStart > fEnd && (fEnd > angle || ValuesSame_DXFAngle(angle, fEnd));
-    return beyondZero ? angle + kFullTurn : angle;
-  }
-
- private:
-  const TDXFEntity& fArc;
-  double fStart;
-  double fEnd;
-};
-
-bool ComesBefore_Line(const TEntityCoordinate& aPoint, const TEntityCoordinate& aListed) {
-  return ValueMoreThan_DXFTolerance(aPoint.x, aListed.x) ||
-         (ValuesSame_DXFTolerance(aPoint.x, aListed.x) && aPoint.y > aListed.y);
-}
 
 template <class TComesBefore>
 TIndex GetPosition(const TTreeNode& aNode, const TComesBefore& aComesBefore) {
@@ -48,11 +17,11 @@ TIndex GetPosition(const TTreeNode& aNode, const TComesBefore& aComesBefore) {
 }
 
 TIndex GetPosition_Line(const TTreeNode& aNode, const TEntityCoordinate& aPoint) {
-  return GetPosition(aNode, [&](const TEntityCoordinate& listed) { return ComesBefore_Line(aPoint, listed); });
+  return GetPosition(aNode, [&](const TEntityCoordinate& listed) { return detail::ComesBefore_Line(aPoint, listed); });
 }
 
 TIndex GetPosition_Arc(const TTreeNode& aNode, const TDXFEntity& aArc, const TEntityCoordinate& aPoint) {
-  const TArcOrder order(aArc);
+  const detail::TArcOrder order(aArc);
   const double angle = order.GetAngle(aPoint);
   return GetPosition(aNode, [&](const TEntityCoordinate& listed) { return order.GetAngle(listed) > angle; });
 }

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
+#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TNodeRecord.h"
 
 namespace GeometryEngine {
 
@@ -65,6 +66,30 @@ TTreeNode* TEntityTree::AddTreeNode_AtIndex(TTreeNode* aParentNode, TIndex aInde
 
 TTreeNode* TEntityTree::AddTreeNode_ToRoot() {
   return AddTreeNode(fRootNode.get());
+}
+
+void TEntityTree::AddNodes(std::span<const detail::TNodeRecord> aRecords) {
+  const std::size_t first = fTreeNodes.size();
+  const auto parentOf = [&](const detail::TNodeRecord& record) {
+    return record.fParent == kNotFound ? fRootNode.get() : fTreeNodes[first + static_cast<std::size_t>(record.fParent)];
+  };
+  for (const detail::TNodeRecord& record : aRecords) {
+    TTreeNode* node = fOwnedNodes.emplace_back(std::make_unique<TTreeNode>(this)).get();
+    TTreeNode* parent = parentOf(record);
+    node->fParent = parent;
+    node->fLevel = parent->fLevel + 1;
+    node->frelindex = record.fPlace;
+    node->fEntityIndex = record.fEntityIndex;
+    node->fCoordinates = record.fCoordinates;
+    ++parent->fNumChildNodes;
+    fTreeNodes.push_back(node);
+  }
+  fRootNode->fChildren.resize(static_cast<std::size_t>(fRootNode->fNumChildNodes));
+  for (std::size_t i = 0; i < aRecords.size(); ++i) {
+    TTreeNode* node = fTreeNodes[first + i];
+    node->fChildren.resize(static_cast<std::size_t>(node->fNumChildNodes));
+    node->fParent->fChildren[static_cast<std::size_t>(node->frelindex)] = node;
+  }
 }
 
 void TEntityTree::AttachChild(TTreeNode& aParentNode, TTreeNode& aNode, TIndex aIndex) {

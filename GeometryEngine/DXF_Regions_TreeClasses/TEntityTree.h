@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,6 +16,10 @@
 #include "GeometryEngine/host/TIndex.h"
 
 namespace GeometryEngine {
+
+namespace detail {
+struct TNodeRecord;
+}
 
 /// A root with two levels below it; nodes refer to entities by their index in a storage. The driver has four:
 ///
@@ -54,6 +59,9 @@ class GEOMETRYENGINE_API TEntityTree {
   TTreeNode* AddTreeNode_AtIndex(TTreeNode* aParentNode, TIndex aIndex);
   /// A new last node of level 1.
   TTreeNode* AddTreeNode_ToRoot();
+  /// New nodes as a list of records says, below a root without children. For the passes of the library, which know all
+  /// nodes at once. REQUIRES: records that keep their own rules.
+  void AddNodes(std::span<const detail::TNodeRecord> aRecords);
   /// Destroys the node. Its children go with it, all the way down, or become the last children of its parent; only they
   /// themselves then get a new level, not what lies below them. DEGENERATE: nothing happens for the root, for nil and
   /// for a node that is not in the flat list.

@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
 #include "GeometryEngine/DXF_SweepLine_Utilities/PairInterceptions.h"
 #include "GeometryEngine/DXF_SweepLine_Utilities/detail/Candidates.h"
+#include "GeometryEngine/DXF_SweepLine_Utilities/detail/CircleTouching.h"
 #include "GeometryEngine/GeometryCreation_Drawing/EntityConstruction.h"
 #include "GeometryEngine/GeometryEngine_Entity_Operations/PointTests.h"
 #include "GeometryEngine/GeometryFuncts/detail/CoordinateDistance.h"
@@ -78,10 +78,14 @@ bool AddMeetings(const TDXFEntity& A, const TDXFEntity& B, TInterceptionPoints& 
     return A.radius == B.radius ? detail::AddOverlapEnds(A, B, PointTouchingArc, aPoints)
                                 : AddCrossings_EqualHeight(A, B, aPoints);
   const double distance = detail::GetDistance(centre_A, centre_B);
-  const double tolerance = GetLinearTolerance();
-  if (std::abs(A.radius + B.radius - distance) <= tolerance) return AddTouchings_Outer(A, B, aPoints);
-  if (std::abs(std::abs(A.radius - B.radius) - distance) <= tolerance)
-    return AddTouchings_Inner(A, B, distance, aPoints);
+  switch (detail::GetCircleTouching(A, B, distance)) {
+    case detail::TCircleTouching::kOuter:
+      return AddTouchings_Outer(A, B, aPoints);
+    case detail::TCircleTouching::kInner:
+      return AddTouchings_Inner(A, B, distance, aPoints);
+    case detail::TCircleTouching::kNone:
+      break;
+  }
   return AddCrossings(A, B, aPoints);
 }
 

@@ -1,0 +1,51 @@
+#pragma once
+
+// The points of a drawing's entities as the sweep reports them, on the way to the intercept tree. Private.
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
+#include "GeometryEngine/DXF_Entity_Types/detail/TEntityIndex.h"
+#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TNodeRecord.h"
+#include "GeometryEngine/host/TIndex.h"
+
+namespace GeometryEngine::detail {
+
+/// Takes points in the order of AddInterception and gives the nodes that its calls, one by one, would have made: the
+/// same nodes with the same indexes, in the same order.
+///
+/// COST: n log n for the points of an entity, as long as no long row of them stands within the tolerance of each other.
+class TRecordedPoints {
+ public:
+  /// REQUIRES: entities and settings that stay as they are while this lives.
+  explicit TRecordedPoints(std::span<const TDXFEntity> aEntities);
+
+  /// Takes a point of an entity.
+  void Add(TIndex aEntity, const TEntityCoordinate& aPoint);
+  /// The nodes of an intercept tree, in the order in which they are added to it.
+  std::vector<TNodeRecord> GetNodes();
+
+ private:
+  struct TRecord {
+    TEntityCoordinate fPoint;
+    TIndex fEntity;
+    TIndex fNode;  ///< of level 1
+  };
+
+  TIndex FindNode(TIndex aEntity);
+  TIndex AddNode(TIndex aEntity);
+  std::vector<std::size_t> GetStarts() const;
+  std::vector<TIndex> GetPlaces() const;
+  const TDXFEntity& EntityAt(TIndex aIndex) const { return fEntities[static_cast<std::size_t>(aIndex)]; }
+
+  std::span<const TDXFEntity> fEntities;
+  TEntityIndex fIndex;                ///< the entities of the nodes
+  std::vector<TIndex> fNodeOf;        ///< by entity, once it is certain which node takes its points
+  std::vector<TIndex> fNodeEntities;  ///< by node
+  std::vector<TRecord> fRecords;
+};
+
+}  // namespace GeometryEngine::detail

@@ -1,0 +1,116 @@
+#include "GeometryEngine/DXF_Regions_Detection/detail/TRecordedPoints.h"
+
+#include <gmock/gmock.h>
+
+#include <random>
+
+#include "GeometryEngine/DXF_Regions_Detection/InterceptionRecording.h"
+#include "GeometryEngine/GeometryCreation_Drawing/EntityConstruction.h"
+#include "tests/support/Geometry.h"
+#include "tests/support/Settings.h"
+
+namespace GeometryEngine {
+
+using detail::TNodeRecord;
+using detail::TRecordedPoints;
+using enum Maindataenum::TInputFields;
+
+namespace {
+
+struct TRecording {
+  TIndex fEntity;
+  TEntityCoordinate fPoint;
+};
+
+/// The nodes of a tree as records.
+std::vector<TNodeRecord> GetNodes(const TEntityTree& aTree) {
+  std::vector<TNodeRecord> nodes;
+  for (TIndex i = 0; i < aTree.Count(); ++i) {
+    const TTreeNode* node = aTree.GetNodeFromIndex(i);
+    const TIndex parent = node->Level() == 1 ? kNotFound : node->Parent()->AbsoluteIndex();
+    nodes.push_back({parent, node->RelativeIndex(), node->EntityIndex(), node->Coordinates()});
+  }
+  return nodes;
+}
+
+std::string ToText(const std::vector<TNodeRecord>& aNodes) {
+  std::string text;
+  for (const TNodeRecord& node : aNodes) {
+    text += std::to_string(node.fParent) + ":" + std::to_string(node.fPlace) + " " + std::to_string(node.fEntityIndex) +
+            " " + support::ToText(node.fCoordinates) + "\n";
+  }
+  return text;
+}
+
+std::string RecordOneByOne(TEntityStorage& aDrawing, const std::vector<TRecording>& aRecordings) {
+  TEntityTree tree("Intercepts");
+  tree.Clear();
+  tree.pEntityStorage(&aDrawing);
+  for (const auto& [entity, point] : aRecordings) AddInterception(tree, aDrawing.Entities(entity), entity, point);
+  return ToText(GetNodes(tree));
+}
+
+std::string RecordAtOnce(const TEntityStorage& aDrawing, const std::vector<TRecording>& aRecordings) {
+  TRecordedPoints records(aDrawing.EntityArray());
+  for (const auto& [entity, point] : aRecordings) records.Add(entity, point);
+  return ToText(records.GetNodes());
+}
+
+/// Points near each entity of a drawing, each on a lattice of halves of the tolerance.
+std::vector<TRecording> RandomRecordings(std::size_t aCount, TIndex aEntities, double aTolerance, std::uint32_t aSeed) {
+  std::mt19937 random(aSeed);
+  const int places = aSeed % 3 == 0 ? 9 : 200;
+  const auto place = [&] {
+    return 1 + static_cast<int>(random() % static_cast<std::uint32_t>(places)) * aTolerance / 2;
+  };
+  std::vector<TRecording> recordings;
+  for (std::size_t i = 0; i < aCount; ++i) {
+    const TIndex entity = static_cast<TIndex>(random() % static_cast<std::uint32_t>(aEntities));
+    const double x = place();
+    recordings.push_back({entity, {x, random() % 2 == 0 ? 1.0 : place()}});
+  }
+  return recordings;
+}
+
+}  // namespace
+
+TEST(TRecordedPoints, GivesTheNodesOfRecordingOneByOne) {
+  support::TSettingsGuard settings;
+  for (const double tolerance : {1e-3, 0.2, 0.0}) {
+    settings.With(ifLinearTolerance, tolerance);
+    for (std::uint32_t seed = 0; seed < 150; ++seed) {
+      TEntityStorage drawing;
+      drawing.AddEntities(support::ParseEntities(
+          "L 0,0 4,4; L 4,4 0,0; L 0,0 0,4; A c 0,0 r 2 300..100; A c 0,0 r 2 300..100.00001; A c 1,1 r 1 10..350;"
+          "N; L 0,0 nan,1; L 0.0001,0 4,4.0001; A c 1,1 r 1 350..10; A c 0,0 r 2 300..100"));
+      const std::vector<TRecording> recordings =
+          RandomRecordings(seed % 2 == 0 ? 60 : 600, drawing.Count(), tolerance == 0 ? 1e-3 : tolerance, seed);
+      ASSERT_EQ(RecordAtOnce(drawing, recordings), RecordOneByOne(drawing, recordings))
+          << "tolerance " << tolerance << " seed " << seed;
+    }
+  }
+}
+
+TEST(TRecordedPoints, GivesEqualEntitiesTheNodeOfTheFirstRecorded) {
+  support::TSettingsGuard settings;
+  TEntityStorage drawing;
+  drawing.AddEntities(support::ParseEntities("L 0,0 4,0; L 9,9 8,8; L 4,0 0,0"));
+  EXPECT_EQ(RecordAtOnce(drawing, {{2, {1, 0}}, {1, {9, 9}}, {0, {3, 0}}}),
+            "-1:0 2 0,0\n0:1 -1 1,0\n-1:1 1 0,0\n2:0 -1 9,9\n0:0 -1 3,0\n");
+}
+
+TEST(TRecordedPoints, GivesEachPointOfWhatEqualsNothingANodeOfItsOwn) {
+  support::TSettingsGuard settings;
+  TEntityStorage drawing;
+  drawing.AddEntities(support::ParseEntities("N"));
+  EXPECT_EQ(RecordAtOnce(drawing, {{0, {1, 0}}, {0, {1, 0}}}), "-1:0 0 0,0\n0:0 -1 1,0\n-1:1 0 0,0\n2:0 -1 1,0\n");
+}
+
+TEST(TRecordedPoints, WithoutPointsGivesNoNodes) {
+  support::TSettingsGuard settings;
+  TEntityStorage drawing;
+  drawing.AddEntities(support::ParseEntities("L 0,0 4,0"));
+  EXPECT_EQ(RecordAtOnce(drawing, {}), "");
+}
+
+}  // namespace GeometryEngine
