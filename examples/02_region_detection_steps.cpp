@@ -31,7 +31,7 @@ std::string GetListText(const TNumbers& aNumbers) {
   return text.empty() ? "none" : text;
 }
 
-const std::vector<TTreeNode*>& Nodes(const TEntityTree& aTree) {
+std::span<TTreeNode* const> Nodes(const TEntityTree& aTree) {
   return aTree.RootNode()->Children();
 }
 
@@ -187,7 +187,7 @@ bool IsClockwise(const TTreeNode* aLoop) {
 
 // A face has its colour in every picture; loops round groups of entities are black.
 std::string GetLoopColour(const TEntityTree& aRegions, std::size_t aNumber) {
-  const std::vector<TTreeNode*>& loops = Nodes(aRegions);
+  const std::span<TTreeNode* const> loops = Nodes(aRegions);
   if (IsClockwise(loops[aNumber])) return kInk;
   const auto end = loops.begin() + static_cast<std::ptrdiff_t>(aNumber);
   return ColourOf(aNumber - static_cast<std::size_t>(std::count_if(loops.begin(), end, IsClockwise)));

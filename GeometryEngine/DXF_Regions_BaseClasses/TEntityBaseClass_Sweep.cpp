@@ -1,7 +1,7 @@
 #include <utility>
 
 #include "GeometryEngine/DXF_Regions_BaseClasses/TEntityBaseClass.h"
-#include "GeometryEngine/DXF_Regions_BaseClasses/detail/TVertexGraph.h"
+#include "GeometryEngine/DXF_Regions_BaseClasses/detail/TVertexGraphBuilder.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TRecordedPoints.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TSweep.h"
 #include "GeometryEngine/DXF_Regions_Utilities/EntitySplitting.h"
@@ -10,22 +10,20 @@ namespace GeometryEngine {
 
 namespace {
 
-/// Empties what a pass was filling, unless the pass came to its end.
+/// Undoes what a pass was doing, unless the pass came to its end: an allocation that fails leaves no half result.
+template <class TUndo>
 class TPassGuard {
  public:
-  TPassGuard(TEntityTree& aTree, TEntityStorage& aPieces) : fTree(aTree), fPieces(aPieces) {}
+  explicit TPassGuard(const TUndo& aUndo) : fUndo(aUndo) {}
   ~TPassGuard() {
-    if (fIsDone) return;
-    fTree.Clear();
-    fPieces.FreeEntities();
+    if (!fIsDone) fUndo();
   }
   TPassGuard(const TPassGuard&) = delete;
   TPassGuard& operator=(const TPassGuard&) = delete;
   void Done() { fIsDone = true; }
 
  private:
-  TEntityTree& fTree;
-  TEntityStorage& fPieces;
+  const TUndo& fUndo;
   bool fIsDone = false;
 };
 
@@ -50,6 +48,8 @@ std::size_t GetMostPieces(const TEntityTree& aInterceptTree) {
 }  // namespace
 
 void TEntityBaseClass::DetermineInterceptions(TEntityStorage* apEntityStorage) {
+  const auto undo = [this] { fInterceptTree.Clear(); };
+  TPassGuard guard(undo);
   fCoordinateTree.Clear();
   fInterceptTree.Clear();
   fInterceptTree.pEntityStorage(apEntityStorage);
@@ -58,18 +58,25 @@ void TEntityBaseClass::DetermineInterceptions(TEntityStorage* apEntityStorage) {
     FillInterceptTree(*apEntityStorage, fInterceptTree);
   }
   CreateCoordinateTreeFromIntercepts();
+  guard.Done();
 }
 
 void TEntityBaseClass::CreateCoordinateTreeFromIntercepts() {
+  const auto undo = [this] {
+    fCoordinateTree.Clear();
+    fEntityStorage_Regions.FreeEntities();
+  };
+  TPassGuard guard(undo);
   fEntityStorage_Regions.FreeEntities();
   fCoordinateTree.pEntityStorage(&fEntityStorage_Regions);
-  detail::TVertexGraph graph(fEntityStorage_Regions.EntityArray(), GetMostPieces(fInterceptTree));
+  detail::TVertexGraphBuilder graph(fEntityStorage_Regions.EntityArray(), GetMostPieces(fInterceptTree));
   for (const TTreeNode* node : fInterceptTree.RootNode()->Children()) {
     for (TDXFEntity& piece : SplitEntity_FromIntercepts(fInterceptTree.GetNodeEntity(*node), node)) {
       graph.Add(std::move(piece));
     }
   }
   fCoordinateTree.AddNodes(graph.Nodes());
+  guard.Done();
 }
 
 void TEntityBaseClass::AddEntityToCoordinateTree(TEntityTree& aTree, const TDXFEntity& aEntity) {

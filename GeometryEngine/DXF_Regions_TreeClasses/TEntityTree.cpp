@@ -16,23 +16,6 @@ std::string_view NameOf(const TEntityTree* aTree) {
   return aTree == nullptr ? std::string_view{} : std::string_view{aTree->Name()};
 }
 
-std::ptrdiff_t ClampedPosition(TIndex aIndex, std::size_t aCount) {
-  return std::clamp<std::ptrdiff_t>(aIndex, 0, static_cast<std::ptrdiff_t>(aCount));
-}
-
-// So that the next element cannot fail: it grows as the vector would by itself.
-template <typename T>
-void MakeRoomForOne(std::vector<T>& aElements) {
-  if (aElements.size() == aElements.capacity()) aElements.reserve(2 * aElements.size() + 1);
-}
-
-// The node that a walk to the leaves takes next; it leaves its parent's list.
-TTreeNode* TakeLast(std::vector<TTreeNode*>& aChildren) {
-  TTreeNode* last = aChildren.back();
-  aChildren.pop_back();
-  return last;
-}
-
 }  // namespace
 
 TEntityTree::TEntityTree(std::string_view aName) : fTreeName(aName) {
@@ -44,8 +27,13 @@ TEntityTree::TEntityTree(std::string_view aName) : fTreeName(aName) {
 TEntityTree::~TEntityTree() {
   Clear();
   fRemoveAll = true;
-  fOwnedNodes.clear();
+  ReleaseDroppedNode();
   fRootNode.reset();
+}
+
+template <class T>
+T* TEntityTree::Allocate(std::size_t aCount) {
+  return static_cast<T*>(fMemories[fMemoryInUse].allocate(aCount * sizeof(T), alignof(T)));
 }
 
 TTreeNode* TEntityTree::AddTreeNode(TTreeNode* aParentNode) {
@@ -54,14 +42,12 @@ TTreeNode* TEntityTree::AddTreeNode(TTreeNode* aParentNode) {
 
 TTreeNode* TEntityTree::AddTreeNode_AtIndex(TTreeNode* aParentNode, TIndex aIndex) {
   if (aParentNode == nullptr || aParentNode->ftree != this) return nullptr;
-  auto owned = std::make_unique<TTreeNode>(this);
-  TTreeNode* node = owned.get();
-  MakeRoomForOne(fOwnedNodes);
-  MakeRoomForOne(fTreeNodes);
-  AttachChild(*aParentNode, *node, aIndex);
-  fOwnedNodes.push_back(std::move(owned));
-  fTreeNodes.push_back(node);
-  return node;
+  if (fTreeNodes.size() == fTreeNodes.capacity()) fTreeNodes.reserve(2 * fTreeNodes.size() + 1);
+  MakeRoomForChildren(*aParentNode, 1);
+  TTreeNode& node = MakeNode();
+  AttachChild(*aParentNode, node, aIndex);
+  fTreeNodes.push_back(&node);
+  return &node;
 }
 
 TTreeNode* TEntityTree::AddTreeNode_ToRoot() {
@@ -69,39 +55,91 @@ TTreeNode* TEntityTree::AddTreeNode_ToRoot() {
 }
 
 void TEntityTree::AddNodes(std::span<const detail::TNodeRecord> aRecords) {
+  if (aRecords.empty()) return;
   const std::size_t first = fTreeNodes.size();
-  const auto parentOf = [&](const detail::TNodeRecord& record) {
-    return record.fParent == kNotFound ? fRootNode.get() : fTreeNodes[first + static_cast<std::size_t>(record.fParent)];
-  };
-  for (const detail::TNodeRecord& record : aRecords) {
-    TTreeNode* node = fOwnedNodes.emplace_back(std::make_unique<TTreeNode>(this)).get();
-    TTreeNode* parent = parentOf(record);
-    node->fParent = parent;
-    node->fLevel = parent->fLevel + 1;
-    node->frelindex = record.fPlace;
-    node->fEntityIndex = record.fEntityIndex;
-    node->fCoordinates = record.fCoordinates;
-    ++parent->fNumChildNodes;
-    fTreeNodes.push_back(node);
+  fTreeNodes.reserve(first + aRecords.size());
+  TTreeNode** lists = Allocate<TTreeNode*>(fRootNode->Children().size() + aRecords.size());
+  std::ranges::copy(fRootNode->Children(), lists);
+  TTreeNode* slots = Allocate<TTreeNode>(aRecords.size());
+  fTreeNodes.push_back(first == 0 ? &MakeNode() : new (slots++) TTreeNode(this));
+  while (fTreeNodes.size() < first + aRecords.size()) fTreeNodes.push_back(new (slots++) TTreeNode(this));
+  const std::span<TTreeNode* const> nodes = std::span(fTreeNodes).subspan(first);
+  for (std::size_t i = 0; i < nodes.size(); ++i) {
+    const detail::TNodeRecord& record = aRecords[i];
+    TTreeNode& node = *nodes[i];
+    node.fIsPooled = &node != fFirstNode.get();
+    node.fParent = record.fParent == kNotFound ? fRootNode.get() : nodes[static_cast<std::size_t>(record.fParent)];
+    node.fLevel = node.fParent->fLevel + 1;
+    node.frelindex = record.fPlace;
+    node.fEntityIndex = record.fEntityIndex;
+    node.fCoordinates = record.fCoordinates;
+    ++node.fParent->fNumChildNodes;
   }
-  fRootNode->fChildren.resize(static_cast<std::size_t>(fRootNode->fNumChildNodes));
-  for (std::size_t i = 0; i < aRecords.size(); ++i) {
-    TTreeNode* node = fTreeNodes[first + i];
-    node->fChildren.resize(static_cast<std::size_t>(node->fNumChildNodes));
-    node->fParent->fChildren[static_cast<std::size_t>(node->frelindex)] = node;
+  AttachChildren(nodes, lists);
+}
+
+/// Gives lists of children to the root and to nodes that know their parent, their place and their number of children.
+void TEntityTree::AttachChildren(std::span<TTreeNode* const> aNodes, TTreeNode** aLists) {
+  const auto giveList = [&](TTreeNode& node) {
+    node.fChildren = aLists;
+    node.fRoomForChildren = node.fNumChildNodes;
+    aLists += node.fNumChildNodes;
+  };
+  giveList(*fRootNode);
+  for (TTreeNode* node : aNodes) {
+    giveList(*node);
+    node->fParent->fChildren[node->frelindex] = node;
   }
 }
 
+/// One that has no place in the tree yet, and is the first of the list when that is empty.
+TTreeNode& TEntityTree::MakeNode() {
+  if (fTreeNodes.empty()) {
+    fFirstNode = std::make_unique<TTreeNode>(this);
+    return *fFirstNode;
+  }
+  TTreeNode* node = new (TakeSlot()) TTreeNode(this);
+  node->fIsPooled = true;
+  return *node;
+}
+
+void* TEntityTree::TakeSlot() {
+  if (fFreeSlots == nullptr) return Allocate<TTreeNode>(1);
+  TFreeSlot* slot = fFreeSlots;
+  fFreeSlots = slot->fNext;
+  return slot;
+}
+
+void TEntityTree::MakeRoomForChildren(TTreeNode& aParentNode, std::size_t aCount) {
+  constexpr std::size_t kLeastRoom = 4;
+  const std::span<TTreeNode* const> children = aParentNode.Children();
+  const std::size_t room = static_cast<std::size_t>(aParentNode.fRoomForChildren);
+  if (children.size() + aCount <= room) return;
+  const bool isOwned = aParentNode.fIsPooled || &aParentNode == fRootNode.get() || &aParentNode == fFirstNode.get();
+  if (!isOwned) fFreeParents.push_back(&aParentNode);
+  const std::size_t newRoom = std::max({kLeastRoom, 2 * room, children.size() + aCount});
+  TTreeNode** list = Allocate<TTreeNode*>(newRoom);
+  std::ranges::copy(children, list);
+  aParentNode.fChildren = list;
+  aParentNode.fRoomForChildren = ToIndex(newRoom);
+}
+
+// REQUIRES: room for one more child.
 void TEntityTree::AttachChild(TTreeNode& aParentNode, TTreeNode& aNode, TIndex aIndex) {
-  std::vector<TTreeNode*>& siblings = aParentNode.fChildren;
-  const std::ptrdiff_t position = ClampedPosition(aIndex, siblings.size());
-  siblings.insert(siblings.begin() + position, &aNode);
-  aParentNode.fNumChildNodes = ToIndex(siblings.size());
+  const TIndex count = aParentNode.fNumChildNodes++;
+  const TIndex position = std::clamp(aIndex, 0, count);
+  TTreeNode** siblings = aParentNode.fChildren;
+  std::copy_backward(siblings + position, siblings + count, siblings + count + 1);
+  siblings[position] = &aNode;
   aNode.fParent = &aParentNode;
   aNode.fLevel = aParentNode.fLevel + 1;
-  for (std::size_t i = static_cast<std::size_t>(position); i < siblings.size(); ++i) {
-    siblings[i]->frelindex = ToIndex(i);
-  }
+  for (TIndex i = position; i <= count; ++i) siblings[i]->frelindex = i;
+}
+
+void TEntityTree::DetachChild(TTreeNode& aParentNode, const TTreeNode& aNode) {
+  TTreeNode** end = aParentNode.fChildren + aParentNode.fNumChildNodes;
+  aParentNode.fNumChildNodes -=
+      ToIndex(static_cast<std::size_t>(end - std::remove(aParentNode.fChildren, end, &aNode)));
 }
 
 void TEntityTree::RemoveTreeNode(TTreeNode* aNode, bool aRemoveChildren) {
@@ -109,16 +147,15 @@ void TEntityTree::RemoveTreeNode(TTreeNode* aNode, bool aRemoveChildren) {
   const auto entry = std::find(fTreeNodes.begin(), fTreeNodes.end(), aNode);
   if (entry == fTreeNodes.end() || aNode == fRootNode.get()) return;
   TTreeNode& parent = *aNode->fParent;
-  if (!aRemoveChildren) parent.fChildren.reserve(parent.fChildren.size() + aNode->fChildren.size());
-  std::erase(parent.fChildren, aNode);
-  parent.fNumChildNodes = ToIndex(parent.fChildren.size());
+  if (!aRemoveChildren) MakeRoomForChildren(parent, aNode->Children().size());
+  DetachChild(parent, *aNode);
   if (!aRemoveChildren) HandChildrenTo(parent, *aNode);
   ReleaseSubtree(*aNode);
 }
 
 void TEntityTree::HandChildrenTo(TTreeNode& aParentNode, TTreeNode& aNode) {
   // Taken out of the old list first: what stays in it is destroyed together with the node.
-  const std::vector<TTreeNode*> children = std::exchange(aNode.fChildren, {});
+  const std::span<TTreeNode* const> children = aNode.Children();
   aNode.fNumChildNodes = 0;
   for (TTreeNode* child : children) AttachChild(aParentNode, *child, aParentNode.fNumChildNodes);
 }
@@ -129,8 +166,8 @@ void TEntityTree::ReleaseSubtree(TTreeNode& aNode) {
   // Leaf by leaf and without memory of its own, since a destructor gets here when memory has run out.
   TIndex released = 0;
   for (TTreeNode* node = &aNode; node != nullptr;) {
-    if (!node->fChildren.empty()) {
-      node = TakeLast(node->fChildren);
+    if (node->fNumChildNodes > 0) {
+      node = node->fChildren[--node->fNumChildNodes];
       continue;
     }
     ++released;
@@ -140,8 +177,27 @@ void TEntityTree::ReleaseSubtree(TTreeNode& aNode) {
   // KEPT: every node below the released one is counted off twice, once for itself and once by its parent, so that
   // absolute indexes given out afterwards may repeat earlier ones; index arrays don't survive a removal anyway.
   findex -= 2 * released - 1;
-  std::erase_if(fTreeNodes, [](const TTreeNode* node) { return node->ftree == nullptr; });
-  std::erase_if(fOwnedNodes, [](const std::unique_ptr<TTreeNode>& node) { return node->ftree == nullptr; });
+  const auto isReleased = [](const TTreeNode* node) { return node->ftree == nullptr; };
+  std::erase_if(fRegionNodes, isReleased);
+  std::erase_if(fFreeParents, isReleased);
+  auto kept = fTreeNodes.begin();
+  for (TTreeNode* node : fTreeNodes) {
+    if (isReleased(node)) {
+      DestroyNode(*node);
+    } else {
+      *kept++ = node;
+    }
+  }
+  fTreeNodes.erase(kept, fTreeNodes.end());
+}
+
+void TEntityTree::DestroyNode(TTreeNode& aNode) {
+  if (&aNode == fFirstNode.get()) {
+    fFirstNode.reset();
+  } else if (aNode.fIsPooled) {
+    aNode.~TTreeNode();
+    fFreeSlots = new (&aNode) TFreeSlot{fFreeSlots};
+  }
 }
 
 void TEntityTree::Clear() {
@@ -149,35 +205,61 @@ void TEntityTree::Clear() {
   fRemoveAll = true;
   findex = 0;
   EmptyChildLists();
-  std::unique_ptr<TTreeNode> dropped = TakeDroppedNode();
-  fOwnedNodes.clear();
+  DropFirstNode();
+  ReleaseRegionFields();
   fTreeNodes.clear();
-  if (dropped != nullptr) fOwnedNodes.push_back(std::move(dropped));
+  fFirstNode.reset();
+  fFreeSlots = nullptr;
+  fMemories[fMemoryInUse].release();
   fRemoveAll = false;
 }
 
+/// Of the nodes that live on: the lists stand in memory that goes.
 void TEntityTree::EmptyChildLists() {
-  for (const TTreeNode* node : fTreeNodes) {
-    if (TTreeNode* parent = node->fParent; parent != nullptr) {
-      parent->fChildren.clear();
-      parent->fNumChildNodes = 0;
-    }
-  }
+  const auto empty = [](TTreeNode& node) {
+    node.fChildren = nullptr;
+    node.fNumChildNodes = 0;
+    node.fRoomForChildren = 0;
+  };
+  empty(*fRootNode);
+  if (!fTreeNodes.empty()) empty(*fTreeNodes.front());
+  for (TTreeNode* parent : fFreeParents) empty(*parent);
+  fFreeParents.clear();
 }
 
-std::unique_ptr<TTreeNode> TEntityTree::TakeDroppedNode() {
+/// All that a pooled node owns elsewhere; so the pool goes as a whole.
+void TEntityTree::ReleaseRegionFields() {
+  for (TTreeNode* node : fRegionNodes) node->fRegionFields.reset();
+  fRegionNodes.clear();
+}
+
+void TEntityTree::DropFirstNode() {
+  ReleaseDroppedNode();
   // KEPT: position 0 is passed over, because in a fresh tree the root stands there. Once a first clear has taken the
   // root off the list (which makes absolute indexes and positions agree), it's an ordinary node that is passed over:
   // it leaves the lists alive, and a host that still refers to it may read it until the next clear.
-  if (fTreeNodes.empty() || fTreeNodes.front() == fRootNode.get()) return nullptr;
-  const auto entry = std::find_if(fOwnedNodes.begin(), fOwnedNodes.end(),
-                                  [this](const auto& node) { return node.get() == fTreeNodes.front(); });
-  if ((*entry)->fParent != fRootNode.get()) (*entry)->fParent = nullptr;
-  return std::move(*entry);
+  if (fTreeNodes.empty() || fTreeNodes.front() == fRootNode.get()) return;
+  fDroppedNode = fTreeNodes.front();
+  if (fDroppedNode->fParent != fRootNode.get()) fDroppedNode->fParent = nullptr;
+  std::erase(fRegionNodes, fDroppedNode);
+  if (fDroppedNode == fFirstNode.get()) {
+    fDroppedAlone = std::move(fFirstNode);
+  } else {
+    fMemoryInUse = 1 - fMemoryInUse;  // one that has moved up since the first was removed: its memory stays as a whole
+  }
+}
+
+void TEntityTree::ReleaseDroppedNode() {
+  if (fDroppedNode != nullptr && fDroppedAlone == nullptr) {
+    fDroppedNode->~TTreeNode();
+    fMemories[1 - fMemoryInUse].release();
+  }
+  fDroppedAlone.reset();
+  fDroppedNode = nullptr;
 }
 
 TTreeNode* TEntityTree::Search_L1_Coords(const TEntityCoordinate& aCoordinates) const {
-  for (TTreeNode* vertex : fRootNode->fChildren) {
+  for (TTreeNode* vertex : fRootNode->Children()) {
     if (ValuesSame_DXFTolerance(vertex->fCoordinates.x, aCoordinates.x) &&
         ValuesSame_DXFTolerance(vertex->fCoordinates.y, aCoordinates.y)) {
       return vertex;
@@ -187,7 +269,7 @@ TTreeNode* TEntityTree::Search_L1_Coords(const TEntityCoordinate& aCoordinates) 
 }
 
 TTreeNode* TEntityTree::Search_L1_Entities(const TDXFEntity& aEntity) const {
-  for (TTreeNode* node : fRootNode->fChildren) {
+  for (TTreeNode* node : fRootNode->Children()) {
     if (GetNodeEntity(*node) == aEntity) return node;
   }
   return nullptr;
@@ -195,7 +277,7 @@ TTreeNode* TEntityTree::Search_L1_Entities(const TDXFEntity& aEntity) const {
 
 TTreeNode* TEntityTree::Search_L2_Coordinates(const TEntityCoordinate& aCoordinates, const TTreeNode* aNode) const {
   if (aNode == nullptr) return nullptr;
-  for (TTreeNode* child : aNode->fChildren) {
+  for (TTreeNode* child : aNode->Children()) {
     if (child->fCoordinates == aCoordinates) return child;
   }
   return nullptr;
@@ -260,6 +342,15 @@ TTreeNode::~TTreeNode() {
 
 void TTreeNode::NoteNestingChange() const {
   if (ftree != nullptr) ++ftree->fNestingChanges;
+}
+
+TTreeNode::TRegionFields& TTreeNode::RegionFields() {
+  if (fRegionFields == nullptr) {
+    auto fields = std::make_unique<TRegionFields>();
+    if (fIsPooled) ftree->fRegionNodes.push_back(this);
+    fRegionFields = std::move(fields);
+  }
+  return *fRegionFields;
 }
 
 bool TTreeNode::Equal(const TTreeNode* aTreeNode) const {

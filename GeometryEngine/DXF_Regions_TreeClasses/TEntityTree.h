@@ -3,8 +3,11 @@
 // The tree in which region detection keeps what it finds out: interceptions, the vertex graph, traced regions. It lives
 // as long as the driver (TEntityBaseClass). What a host keeps is the geometry tree, TTree_Geometry.
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <memory_resource>
 #include <span>
 #include <string>
 #include <string_view>
@@ -59,8 +62,8 @@ class GEOMETRYENGINE_API TEntityTree {
   TTreeNode* AddTreeNode_AtIndex(TTreeNode* aParentNode, TIndex aIndex);
   /// A new last node of level 1.
   TTreeNode* AddTreeNode_ToRoot();
-  /// New nodes as a list of records says, below a root without children. For the passes of the library, which know all
-  /// nodes at once. REQUIRES: records that keep their own rules.
+  /// New nodes as a list of records says, in its order; for the passes of the library, which know all nodes at once.
+  /// Either all are added or, when memory fails, none. REQUIRES: records that keep their own rules.
   void AddNodes(std::span<const detail::TNodeRecord> aRecords);
   /// Destroys the node. Its children go with it, all the way down, or become the last children of its parent; only they
   /// themselves then get a new level, not what lies below them. DEGENERATE: nothing happens for the root, for nil and
@@ -108,11 +111,25 @@ class GEOMETRYENGINE_API TEntityTree {
 
  private:
   friend class TTreeNode;
+  struct TFreeSlot {
+    TFreeSlot* fNext;
+  };
+
+  TTreeNode& MakeNode();
+  void* TakeSlot();
+  void MakeRoomForChildren(TTreeNode& aParentNode, std::size_t aCount);
   void AttachChild(TTreeNode& aParentNode, TTreeNode& aNode, TIndex aIndex);
+  void AttachChildren(std::span<TTreeNode* const> aNodes, TTreeNode** aLists);
+  void DetachChild(TTreeNode& aParentNode, const TTreeNode& aNode);
   void HandChildrenTo(TTreeNode& aParentNode, TTreeNode& aNode);
   void ReleaseSubtree(TTreeNode& aNode);
+  void DestroyNode(TTreeNode& aNode);
   void EmptyChildLists();
-  std::unique_ptr<TTreeNode> TakeDroppedNode();
+  void ReleaseRegionFields();
+  void DropFirstNode();
+  void ReleaseDroppedNode();
+  template <class T>
+  T* Allocate(std::size_t aCount);
 
   std::unique_ptr<TTreeNode> fRootNode;
   std::vector<TTreeNode*> fTreeNodes;
@@ -121,7 +138,16 @@ class GEOMETRYENGINE_API TEntityTree {
   bool fRemoveAll = false;  ///< true while all nodes go; they then leave the tree's lists alone
   std::string fTreeName;
   TEntityStorage* fEntityStorage = nullptr;
-  std::vector<std::unique_ptr<TTreeNode>> fOwnedNodes;  ///< every node but the root, until it is destroyed
+
+  /// Memory of the nodes and of their lists of children. The other one is empty, or holds the dropped node.
+  std::array<std::pmr::monotonic_buffer_resource, 2> fMemories;
+  std::size_t fMemoryInUse = 0;
+  TFreeSlot* fFreeSlots = nullptr;           ///< of removed nodes
+  std::unique_ptr<TTreeNode> fFirstNode;     ///< the first node after a clear, alone since the next clear may drop it
+  TTreeNode* fDroppedNode = nullptr;         ///< the one that the last clear has dropped
+  std::unique_ptr<TTreeNode> fDroppedAlone;  ///< the same, if it stood alone
+  std::vector<TTreeNode*> fRegionNodes;      ///< pooled nodes that have region fields
+  std::vector<TTreeNode*> fFreeParents;      ///< nodes that stand free and have children
 };
 
 }  // namespace GeometryEngine

@@ -10,6 +10,15 @@ constexpr std::int32_t kRegionIndex_Unidentified = -1;
 
 }  // namespace
 
+const TTreeNode::TRegionFields& TTreeNode::NoRegionFields() {
+  static const TRegionFields none;
+  return none;
+}
+
+const TTreeNode::TRegionFields& TTreeNode::RegionFields() const {
+  return fRegionFields == nullptr ? NoRegionFields() : *fRegionFields;
+}
+
 TEntityTree* TTreeNode::tree() const {
   return ftree;
 }
@@ -38,12 +47,12 @@ TIndex TTreeNode::Count() const {
   return GetCount();
 }
 
-const std::vector<TTreeNode*>& TTreeNode::Children() const {
-  return fChildren;
+std::span<TTreeNode* const> TTreeNode::Children() const {
+  return {fChildren, static_cast<std::size_t>(fNumChildNodes)};
 }
 
 TTreeNode* TTreeNode::GetNode(TIndex aIndex) const {
-  return IsIndexWithin(aIndex, fChildren.size()) ? fChildren[static_cast<std::size_t>(aIndex)] : nullptr;
+  return aIndex >= 0 && aIndex < fNumChildNodes ? fChildren[aIndex] : nullptr;
 }
 
 TIndex TTreeNode::EntityIndex() const {
@@ -95,31 +104,31 @@ void TTreeNode::Travelled(bool aTravelled) {
 }
 
 double TTreeNode::GaussArea() const {
-  return fGaussArea;
+  return RegionFields().fGaussArea;
 }
 
 void TTreeNode::GaussArea(double aGaussArea) {
-  fGaussArea = aGaussArea;
+  RegionFields().fGaussArea = aGaussArea;
 }
 
 const TEntityCoordinate& TTreeNode::RegionCentroid() const {
-  return fCentroid;
+  return RegionFields().fCentroid;
 }
 
 void TTreeNode::RegionCentroid(const TEntityCoordinate& aCentroid) {
-  fCentroid = aCentroid;
+  RegionFields().fCentroid = aCentroid;
 }
 
 TTravelDirection TTreeNode::TravelDirection() const {
-  return fTravelDirection;
+  return RegionFields().fTravelDirection;
 }
 
 void TTreeNode::TravelDirection(TTravelDirection aTravelDirection) {
-  fTravelDirection = aTravelDirection;
+  RegionFields().fTravelDirection = aTravelDirection;
 }
 
 const TIntegerArray& TTreeNode::SubRegions() const {
-  return fSubRegionsArray;
+  return RegionFields().fSubRegionsArray;
 }
 
 void TTreeNode::SubRegions(TIntegerArray aSubRegions) {
@@ -132,32 +141,33 @@ TIndex TTreeNode::NumberSubRegions() const {
 }
 
 TIndex TTreeNode::NumSubRegions() const {
-  return ToIndex(fSubRegionsArray.size());
+  return ToIndex(RegionFields().fSubRegionsArray.size());
 }
 
 std::int32_t TTreeNode::GetSubRegion(TIndex aIndex) const {
-  return IsIndexWithin(aIndex, fSubRegionsArray.size()) ? fSubRegionsArray[static_cast<std::size_t>(aIndex)]
-                                                        : kNotFound;
+  return IsIndexWithin(aIndex, RegionFields().fSubRegionsArray.size())
+             ? RegionFields().fSubRegionsArray[static_cast<std::size_t>(aIndex)]
+             : kNotFound;
 }
 
 void TTreeNode::AddSubRegion(std::int32_t aRegionIndex) {
   NoteNestingChange();
-  fSubRegionsArray.push_back(aRegionIndex);
+  RegionFields().fSubRegionsArray.push_back(aRegionIndex);
 }
 
 void TTreeNode::RemoveSubRegion(std::int32_t aRegionIndex) {
   NoteNestingChange();
-  RemoveElementFromArray_Integer(fSubRegionsArray, aRegionIndex);
+  if (fRegionFields != nullptr) RemoveElementFromArray_Integer(fRegionFields->fSubRegionsArray, aRegionIndex);
 }
 
 bool TTreeNode::CheckSubRegionIdentified(std::int32_t aRegionIndex) const {
-  return GetIsElementInArray_Integer(fSubRegionsArray, aRegionIndex);
+  return GetIsElementInArray_Integer(RegionFields().fSubRegionsArray, aRegionIndex);
 }
 
 void TTreeNode::ResetRegionIdentifier() {
   fRegionIndex = kRegionIndex_Unidentified;
   NoteNestingChange();
-  fSubRegionsArray.clear();
+  if (fRegionFields != nullptr) fRegionFields->fSubRegionsArray.clear();
 }
 
 }  // namespace GeometryEngine

@@ -4,7 +4,8 @@
 // TEntityTree.h. Nodes of the geometry tree, which outlives the detection, are TTreeNode_Geometry.
 
 #include <cstdint>
-#include <vector>
+#include <memory>
+#include <span>
 
 #include "GeometryEngine/DXF_Entity_Types/EntityEnumerations.h"
 #include "GeometryEngine/DXF_Entity_Types/TEntityCoordinate.h"
@@ -47,7 +48,8 @@ class GEOMETRYENGINE_API TTreeNode {
   /// Number of children.
   TIndex GetCount() const;
   TIndex Count() const;
-  const std::vector<TTreeNode*>& Children() const;
+  /// The children in order. Valid until the node gets or loses one.
+  std::span<TTreeNode* const> Children() const;
   /// The child at `aIndex`; nil outside.
   TTreeNode* GetNode(TIndex aIndex) const;
 
@@ -78,8 +80,7 @@ class GEOMETRYENGINE_API TTreeNode {
   TTravelDirection TravelDirection() const;
   void TravelDirection(TTravelDirection aTravelDirection);
 
-  // Sub-regions: indexes of the regions that lie inside this one
-  // --------------------------------------------------------
+  // Sub-regions: indexes of the regions that lie inside this one ------------------------------------------------------
 
   const TIntegerArray& SubRegions() const;
   void SubRegions(TIntegerArray aSubRegions);
@@ -101,23 +102,32 @@ class GEOMETRYENGINE_API TTreeNode {
 
  private:
   friend class TEntityTree;
+  /// What only traced regions have; a drawing has many more nodes of other kinds.
+  struct TRegionFields {
+    double fGaussArea = 0;
+    TEntityCoordinate fCentroid;
+    TTravelDirection fTravelDirection = Travel_AntiClockwise;
+    TIntegerArray fSubRegionsArray;
+  };
+  static const TRegionFields& NoRegionFields();
+  const TRegionFields& RegionFields() const;
+  TRegionFields& RegionFields();
   void NoteNestingChange() const;
 
   TEntityTree* ftree;
   TTreeNode* fParent = nullptr;
+  TTreeNode** fChildren = nullptr;  ///< room that the tree owns
+  std::unique_ptr<TRegionFields> fRegionFields;
+  TEntityCoordinate fCoordinates;
   TIndex findex = 0;
   TIndex frelindex = 0;
   std::int32_t fLevel = 0;
   TIndex fNumChildNodes = 0;
-  std::vector<TTreeNode*> fChildren;
+  TIndex fRoomForChildren = 0;
   TIndex fEntityIndex = kNotFound;
-  TEntityCoordinate fCoordinates;
   std::int32_t fRegionIndex = 0;
   bool fTravelled = false;
-  double fGaussArea = 0;
-  TEntityCoordinate fCentroid;
-  TTravelDirection fTravelDirection = Travel_AntiClockwise;
-  TIntegerArray fSubRegionsArray;
+  bool fIsPooled = false;  ///< true for a node in the memory of its tree, which doesn't destroy nodes one by one
 };
 
 }  // namespace GeometryEngine

@@ -45,7 +45,7 @@ struct TRegion {
   std::int32_t Merge() {
     TEntityMerge merge;
     merge.fParent = node;
-    const std::vector<TTreeNode*> pieces = node->Children();
+    const std::vector<TTreeNode*> pieces(node->Children().begin(), node->Children().end());
     merge.fNode_A = pieces.front();
     merge.fEntity = storage.Entities(0);
     merge.fPoint_1 = vertices[0];

@@ -24,7 +24,7 @@ struct TCorner {
 inline TCorner FindCorner(const TEntityTree& aGraph, const TEntityTree& aRegions, const TTreeNode& aLoop) {
   constexpr TIndex kCrossing = 4;  // half-edges
   TEntityCoordinate from = aLoop.Coordinates();
-  const std::vector<TTreeNode*>& walked = aLoop.Children();
+  const std::span<TTreeNode* const> walked = aLoop.Children();
   for (std::size_t i = 0; i + 1 < walked.size(); ++i) {
     from = GetEntityEndCoordinate(from, aRegions.GetNodeEntity(*walked[i]));
     const TTreeNode* vertex = aGraph.Search_L1_Coords(from);

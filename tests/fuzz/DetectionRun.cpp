@@ -36,7 +36,7 @@ void CheckIsConnected(const TEntityTree& aRegions, const TTreeNode& aRegion) {
   }
 }
 
-void CheckSubRegions(const std::vector<TTreeNode*>& aRegions) {
+void CheckSubRegions(std::span<TTreeNode* const> aRegions) {
   const TIndex count = ToIndex(aRegions.size());
   std::vector<int> listed(aRegions.size(), 0);
   for (TIndex i = 0; i < count; ++i) {
@@ -83,7 +83,7 @@ void CheckIsRepeatable(TEntityStorage& aDrawing, TEntityBaseClass& aDriver, std:
 void HandOver(TEntityBaseClass& aDriver, const std::function<void()>& aBetween) {
   TTree_Geometry tree;
   TTreeNodeArray_Geometry regions;
-  const std::vector<TTreeNode*>& found = aDriver.RegionTree().RootNode()->Children();
+  const std::span<TTreeNode* const> found = aDriver.RegionTree().RootNode()->Children();
   for (TIndex i = 0; i < ToIndex(found.size()); ++i) {
     auto node = tree.CreateTreeNode();
     regions.push_back(TTreeNode_Geometry::TypeCast(tree.AddNewTreeNode(node)));
@@ -121,7 +121,7 @@ void RunDetection(const TEntityArray& aDrawing, std::int32_t aRegionType, bool a
   driver.DetermineInterceptions(&drawing);
   aBetween();
   driver.DetermineRegions(driver.CoordinateTree(), aRegionType);
-  const std::vector<TTreeNode*>& regions = driver.RegionTree().RootNode()->Children();
+  const std::span<TTreeNode* const> regions = driver.RegionTree().RootNode()->Children();
   for (const TTreeNode* region : regions) {
     CheckRegion(driver.RegionTree(), *region, aRegionType);
     if (aSteady) CheckIsConnected(driver.RegionTree(), *region);

@@ -26,7 +26,7 @@ class NestedRegions : public testing::Test {
     driver.DetermineRegions(driver.CoordinateTree(), 1);
     driver.IdentifySubRegions(driver.CoordinateTree());
     driver.RemoveDuplicatedSubRegions();
-    const std::vector<TTreeNode*>& faces = driver.RegionTree().RootNode()->Children();
+    const std::span<TTreeNode* const> faces = driver.RegionTree().RootNode()->Children();
     for (TIndex i = 0; i < ToIndex(faces.size()); ++i) {
       auto node = fTree.CreateTreeNode();
       fRegions.push_back(TTreeNode_Geometry::TypeCast(fTree.AddNewTreeNode(node)));

@@ -41,6 +41,10 @@ class TCellChains {
   TIndex Count() const { return ToIndex(fItems.size()); }
   /// The first item of the chain; kNotFound for an empty one.
   TIndex First(std::uint64_t aHash) const { return fEnds.empty() ? kNotFound : fEnds[SlotOf(aHash)].fFirst; }
+  /// Whether an item of a chain was added under this hash.
+  bool HasHash(TIndex aItem, std::uint64_t aHash) const {
+    return fItems[static_cast<std::size_t>(aItem)].fHash == aHash;
+  }
   /// The item after this one in its chain; kNotFound after the last.
   TIndex Next(TIndex aItem) const { return fItems[static_cast<std::size_t>(aItem)].fNext; }
 

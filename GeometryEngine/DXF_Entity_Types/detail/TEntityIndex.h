@@ -83,7 +83,9 @@ class TEntityIndex {
   void ForEachJoining(const TEntityCoordinate& aStart, const TEntityCoordinate& aEnd, const TVisit& aVisit) const {
     ForEachCellAround(0, aStart, [&](std::uint64_t startHash) {
       ForEachCellAround(startHash, aEnd, [&](std::uint64_t hash) {
-        for (TIndex i = fChains.First(hash); i != kNotFound; i = fChains.Next(i)) aVisit(i);
+        for (TIndex i = fChains.First(hash); i != kNotFound; i = fChains.Next(i)) {
+          if (fChains.HasHash(i, hash)) aVisit(i);
+        }
       });
     });
   }

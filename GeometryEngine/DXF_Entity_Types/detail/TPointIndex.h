@@ -81,7 +81,7 @@ class TPointIndex {
                           const TAccepts& aAccepts) const {
     for (TIndex i = fChains.First(aHash); i != kNotFound; i = fChains.Next(i)) {
       if (aBefore != kNotFound && i >= aBefore) return kNotFound;
-      if (Point(i) == aPoint && aAccepts(i)) return i;
+      if (fChains.HasHash(i, aHash) && Point(i) == aPoint && aAccepts(i)) return i;
     }
     return kNotFound;
   }

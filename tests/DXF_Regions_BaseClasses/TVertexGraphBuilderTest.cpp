@@ -1,4 +1,4 @@
-#include "GeometryEngine/DXF_Regions_BaseClasses/detail/TVertexGraph.h"
+#include "GeometryEngine/DXF_Regions_BaseClasses/detail/TVertexGraphBuilder.h"
 
 #include <gmock/gmock.h>
 
@@ -10,7 +10,7 @@
 
 namespace GeometryEngine {
 
-using detail::TVertexGraph;
+using detail::TVertexGraphBuilder;
 using support::IsBits;
 using enum Maindataenum::TInputFields;
 
@@ -47,7 +47,7 @@ std::string NodesOf(const TEntityTree& aTree) {
 
 }  // namespace
 
-TEST(TVertexGraph, GivesTheNodesAndPiecesOfAddingOneByOne) {
+TEST(TVertexGraphBuilder, GivesTheNodesAndPiecesOfAddingOneByOne) {
   support::TSettingsGuard settings;
   for (const double tolerance : {1e-3, 0.5, 0.0}) {
     settings.With(ifLinearTolerance, tolerance);
@@ -61,7 +61,7 @@ TEST(TVertexGraph, GivesTheNodesAndPiecesOfAddingOneByOne) {
       for (const TDXFEntity& piece : pieces) driver.AddEntityToCoordinateTree(expected, piece);
 
       TEntityArray known;
-      TVertexGraph graph(known, 10);
+      TVertexGraphBuilder graph(known, 10);
       for (TDXFEntity piece : pieces) graph.Add(std::move(piece));
       TEntityTree tree("Coordinates_SlotPole");
       tree.Clear();
