@@ -61,6 +61,7 @@ LAYERS = [
         "DXF_Regions_Detection/*",
         "DXF_Regions_TreeClasses/*",
         "DXF_Regions_Utilities/EntitySplitting",
+        "DXF_Regions_Utilities/detail/EntityPieces",
         "DXF_Regions_Utilities/TreeNodeArrays",
     ]),
     ("regions", [

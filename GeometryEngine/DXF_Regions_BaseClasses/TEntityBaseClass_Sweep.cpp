@@ -4,7 +4,7 @@
 #include "GeometryEngine/DXF_Regions_BaseClasses/detail/TVertexGraphBuilder.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TRecordedPoints.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TSweep.h"
-#include "GeometryEngine/DXF_Regions_Utilities/EntitySplitting.h"
+#include "GeometryEngine/DXF_Regions_Utilities/detail/EntityPieces.h"
 
 namespace GeometryEngine {
 
@@ -71,9 +71,8 @@ void TEntityBaseClass::CreateCoordinateTreeFromIntercepts() {
   fCoordinateTree.pEntityStorage(&fEntityStorage_Regions);
   detail::TVertexGraphBuilder graph(fEntityStorage_Regions.EntityArray(), GetMostPieces(fInterceptTree));
   for (const TTreeNode* node : fInterceptTree.RootNode()->Children()) {
-    for (TDXFEntity& piece : SplitEntity_FromIntercepts(fInterceptTree.GetNodeEntity(*node), node)) {
-      graph.Add(std::move(piece));
-    }
+    detail::ForEachPiece(fInterceptTree.GetNodeEntity(*node), *node,
+                         [&](TDXFEntity&& piece) { graph.Add(std::move(piece)); });
   }
   fCoordinateTree.AddNodes(graph.Nodes());
   guard.Done();

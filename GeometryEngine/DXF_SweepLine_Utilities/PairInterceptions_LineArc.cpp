@@ -65,7 +65,9 @@ bool AddCrossings(const TDXFEntity& aLine, const TDXFEntity& aArc, TInterception
                                    ? GetCandidates_Vertical(std::min(aLine.StartCoords.x, aLine.EndCoords.x), aArc)
                                    : GetCandidates_Sloped(aLine, aArc);
   const bool isFirst = detail::AddIfAccepted(IsOnLineAndArc(first, aLine, aArc), first, aPoints);
-  const bool isSecond = detail::AddIfAccepted(IsOnLineAndArc(second, aLine, aArc), second, aPoints);
+  const bool isSame = second.x == first.x && second.y == first.y;  // a line that touches the circle
+  const bool isSecondOn = isSame ? isFirst : IsOnLineAndArc(second, aLine, aArc);
+  const bool isSecond = detail::AddIfAccepted(isSecondOn, second, aPoints);
   return isFirst || isSecond;
 }
 

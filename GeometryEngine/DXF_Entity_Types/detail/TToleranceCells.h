@@ -2,6 +2,7 @@
 
 // Cells on an axis, for searches of values that are the same under a tolerance. Private.
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -39,13 +40,15 @@ class TToleranceCells {
     const double cell = aValue / fWidth;
     if (cell >= kFarthestCell) return kFarthestCell;
     if (cell <= -kFarthestCell) return -kFarthestCell;
-    return std::isnan(cell) ? 0 : static_cast<std::int64_t>(std::floor(cell));
+    if (std::isnan(cell)) return 0;
+    const auto whole = static_cast<std::int64_t>(cell);  // towards zero
+    return static_cast<double>(whole) > cell ? whole - 1 : whole;
   }
 
   /// The cells of all finite values that are the same as this one.
   TCellRange GetCellsAround(double aValue) const {
     constexpr double kLargest = std::numeric_limits<double>::max();
-    return {GetCell(std::fmax(aValue - fTolerance, -kLargest)), GetCell(std::fmin(aValue + fTolerance, kLargest))};
+    return {GetCell(std::max(aValue - fTolerance, -kLargest)), GetCell(std::min(aValue + fTolerance, kLargest))};
   }
 
  private:

@@ -6,9 +6,16 @@
 
 namespace GeometryEngine::detail {
 
+namespace {
+
+constexpr std::size_t kPointsPerEntity = 6;  // of a drawing whose entities meet at their ends
+
+}  // namespace
+
 TRecordedPoints::TRecordedPoints(std::span<const TDXFEntity> aEntities)
     : fEntities(aEntities), fNodeOf(aEntities.size(), kNotFound) {
   fIndex.Reserve(aEntities.size());
+  fRecords.reserve(kPointsPerEntity * aEntities.size());
 }
 
 void TRecordedPoints::Add(TIndex aEntity, const TEntityCoordinate& aPoint) {
