@@ -32,7 +32,7 @@ void FillInterceptTree(const TEntityStorage& aDrawing, TEntityTree& aTree) {
   // KEPT: entities still active at the end are not retired. Their own ends are recorded only where a pair test found
   // them, which trims dangling ends: an end that meets nothing bounds no closed region.
   detail::TSweep(aDrawing.EntityArray(), records).Run();
-  aTree.AddNodes(records.GetNodes());
+  records.FillTree(aTree);
 }
 
 /// At least as many pieces as the entities of an intercept tree are cut into.
@@ -69,12 +69,13 @@ void TEntityBaseClass::CreateCoordinateTreeFromIntercepts() {
   TPassGuard guard(undo);
   fEntityStorage_Regions.FreeEntities();
   fCoordinateTree.pEntityStorage(&fEntityStorage_Regions);
-  detail::TVertexGraphBuilder graph(fEntityStorage_Regions.EntityArray(), GetMostPieces(fInterceptTree));
+  TEntityArray& pieces = fEntityStorage_Regions.EntityArray();
+  detail::TVertexGraphBuilder graph(fCoordinateTree, pieces, GetMostPieces(fInterceptTree));
   for (const TTreeNode* node : fInterceptTree.RootNode()->Children()) {
     detail::ForEachPiece(fInterceptTree.GetNodeEntity(*node), *node,
                          [&](TDXFEntity&& piece) { graph.Add(std::move(piece)); });
   }
-  fCoordinateTree.AddNodes(graph.Nodes());
+  graph.Finish();
   guard.Done();
 }
 

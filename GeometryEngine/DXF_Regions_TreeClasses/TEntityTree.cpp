@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
-#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TNodeRecord.h"
 
 namespace GeometryEngine {
 
@@ -31,11 +30,6 @@ TEntityTree::~TEntityTree() {
   fRootNode.reset();
 }
 
-template <class T>
-T* TEntityTree::Allocate(std::size_t aCount) {
-  return static_cast<T*>(fMemories[fMemoryInUse].allocate(aCount * sizeof(T), alignof(T)));
-}
-
 TTreeNode* TEntityTree::AddTreeNode(TTreeNode* aParentNode) {
   return aParentNode == nullptr ? nullptr : AddTreeNode_AtIndex(aParentNode, aParentNode->fNumChildNodes);
 }
@@ -52,44 +46,6 @@ TTreeNode* TEntityTree::AddTreeNode_AtIndex(TTreeNode* aParentNode, TIndex aInde
 
 TTreeNode* TEntityTree::AddTreeNode_ToRoot() {
   return AddTreeNode(fRootNode.get());
-}
-
-void TEntityTree::AddNodes(std::span<const detail::TNodeRecord> aRecords) {
-  if (aRecords.empty()) return;
-  const std::size_t first = fTreeNodes.size();
-  fTreeNodes.reserve(first + aRecords.size());
-  TTreeNode** lists = Allocate<TTreeNode*>(fRootNode->Children().size() + aRecords.size());
-  std::ranges::copy(fRootNode->Children(), lists);
-  TTreeNode* slots = Allocate<TTreeNode>(aRecords.size());
-  fTreeNodes.push_back(first == 0 ? &MakeNode() : new (slots++) TTreeNode(this));
-  while (fTreeNodes.size() < first + aRecords.size()) fTreeNodes.push_back(new (slots++) TTreeNode(this));
-  const std::span<TTreeNode* const> nodes = std::span(fTreeNodes).subspan(first);
-  for (std::size_t i = 0; i < nodes.size(); ++i) {
-    const detail::TNodeRecord& record = aRecords[i];
-    TTreeNode& node = *nodes[i];
-    node.fIsPooled = &node != fFirstNode.get();
-    node.fParent = record.fParent == kNotFound ? fRootNode.get() : nodes[static_cast<std::size_t>(record.fParent)];
-    node.fLevel = node.fParent->fLevel + 1;
-    node.frelindex = record.fPlace;
-    node.fEntityIndex = record.fEntityIndex;
-    node.fCoordinates = record.fCoordinates;
-    ++node.fParent->fNumChildNodes;
-  }
-  AttachChildren(nodes, lists);
-}
-
-/// Gives lists of children to the root and to nodes that know their parent, their place and their number of children.
-void TEntityTree::AttachChildren(std::span<TTreeNode* const> aNodes, TTreeNode** aLists) {
-  const auto giveList = [&](TTreeNode& node) {
-    node.fChildren = aLists;
-    node.fRoomForChildren = node.fNumChildNodes;
-    aLists += node.fNumChildNodes;
-  };
-  giveList(*fRootNode);
-  for (TTreeNode* node : aNodes) {
-    giveList(*node);
-    node->fParent->fChildren[node->frelindex] = node;
-  }
 }
 
 /// One that has no place in the tree yet, and is the first of the list when that is empty.

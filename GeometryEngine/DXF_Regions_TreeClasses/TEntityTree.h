@@ -8,7 +8,6 @@
 #include <cstdint>
 #include <memory>
 #include <memory_resource>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,7 +20,7 @@
 namespace GeometryEngine {
 
 namespace detail {
-struct TNodeRecord;
+class TNodeBatch;
 }
 
 /// A root with two levels below it; nodes refer to entities by their index in a storage. The driver has four:
@@ -62,9 +61,6 @@ class GEOMETRYENGINE_API TEntityTree {
   TTreeNode* AddTreeNode_AtIndex(TTreeNode* aParentNode, TIndex aIndex);
   /// A new last node of level 1.
   TTreeNode* AddTreeNode_ToRoot();
-  /// New nodes as a list of records says, in its order; for the passes of the library, which know all nodes at once.
-  /// Either all are added or, when memory fails, none. REQUIRES: records that keep their own rules.
-  void AddNodes(std::span<const detail::TNodeRecord> aRecords);
   /// Destroys the node. Its children go with it, all the way down, or become the last children of its parent; only they
   /// themselves then get a new level, not what lies below them. DEGENERATE: nothing happens for the root, for nil and
   /// for a node that is not in the flat list.
@@ -111,6 +107,7 @@ class GEOMETRYENGINE_API TEntityTree {
 
  private:
   friend class TTreeNode;
+  friend class detail::TNodeBatch;
   struct TFreeSlot {
     TFreeSlot* fNext;
   };
@@ -119,7 +116,6 @@ class GEOMETRYENGINE_API TEntityTree {
   void* TakeSlot();
   void MakeRoomForChildren(TTreeNode& aParentNode, std::size_t aCount);
   void AttachChild(TTreeNode& aParentNode, TTreeNode& aNode, TIndex aIndex);
-  void AttachChildren(std::span<TTreeNode* const> aNodes, TTreeNode** aLists);
   void DetachChild(TTreeNode& aParentNode, const TTreeNode& aNode);
   void HandChildrenTo(TTreeNode& aParentNode, TTreeNode& aNode);
   void ReleaseSubtree(TTreeNode& aNode);
@@ -129,7 +125,9 @@ class GEOMETRYENGINE_API TEntityTree {
   void DropFirstNode();
   void ReleaseDroppedNode();
   template <class T>
-  T* Allocate(std::size_t aCount);
+  T* Allocate(std::size_t aCount) {
+    return static_cast<T*>(fMemories[fMemoryInUse].allocate(aCount * sizeof(T), alignof(T)));
+  }
 
   std::unique_ptr<TTreeNode> fRootNode;
   std::vector<TTreeNode*> fTreeNodes;

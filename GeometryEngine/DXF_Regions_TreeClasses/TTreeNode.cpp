@@ -133,7 +133,7 @@ const TIntegerArray& TTreeNode::SubRegions() const {
 
 void TTreeNode::SubRegions(TIntegerArray aSubRegions) {
   NoteNestingChange();
-  fSubRegionsArray = std::move(aSubRegions);
+  if (fRegionFields != nullptr || !aSubRegions.empty()) RegionFields().fSubRegionsArray = std::move(aSubRegions);
 }
 
 TIndex TTreeNode::NumberSubRegions() const {

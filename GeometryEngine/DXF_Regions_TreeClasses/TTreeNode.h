@@ -17,6 +17,10 @@ namespace GeometryEngine {
 
 class TEntityTree;
 
+namespace detail {
+class TNodeBatch;
+}
+
 /// A node of a detection tree: its place there, an entity by index or a point, and what tracing found out about it.
 ///
 /// Nodes are made by TEntityTree::AddTreeNode and its siblings and belong to the tree. A node made by hand stands free:
@@ -102,6 +106,7 @@ class GEOMETRYENGINE_API TTreeNode {
 
  private:
   friend class TEntityTree;
+  friend class detail::TNodeBatch;
   /// What only traced regions have; a drawing has many more nodes of other kinds.
   struct TRegionFields {
     double fGaussArea = 0;

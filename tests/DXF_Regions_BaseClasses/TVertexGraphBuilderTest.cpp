@@ -61,11 +61,11 @@ TEST(TVertexGraphBuilder, GivesTheNodesAndPiecesOfAddingOneByOne) {
       for (const TDXFEntity& piece : pieces) driver.AddEntityToCoordinateTree(expected, piece);
 
       TEntityArray known;
-      TVertexGraphBuilder graph(known, 10);
-      for (TDXFEntity piece : pieces) graph.Add(std::move(piece));
       TEntityTree tree("Coordinates_SlotPole");
       tree.Clear();
-      tree.AddNodes(graph.Nodes());
+      TVertexGraphBuilder graph(tree, known, pieces.size());
+      for (TDXFEntity piece : pieces) graph.Add(std::move(piece));
+      graph.Finish();
       ASSERT_THAT(known, IsBits(expectedPieces.EntityArray())) << "tolerance " << tolerance << " seed " << seed;
       ASSERT_EQ(NodesOf(tree), NodesOf(expected)) << "tolerance " << tolerance << " seed " << seed;
     }

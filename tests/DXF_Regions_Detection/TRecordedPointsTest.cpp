@@ -11,7 +11,6 @@
 
 namespace GeometryEngine {
 
-using detail::TNodeRecord;
 using detail::TRecordedPoints;
 using enum Maindataenum::TInputFields;
 
@@ -22,22 +21,14 @@ struct TRecording {
   TEntityCoordinate fPoint;
 };
 
-/// The nodes of a tree as records.
-std::vector<TNodeRecord> GetNodes(const TEntityTree& aTree) {
-  std::vector<TNodeRecord> nodes;
+std::string ToText(const TEntityTree& aTree) {
+  std::string text;
   for (TIndex i = 0; i < aTree.Count(); ++i) {
     const TTreeNode* node = aTree.GetNodeFromIndex(i);
     const TIndex parent = node->Level() == 1 ? kNotFound : node->Parent()->AbsoluteIndex();
-    nodes.push_back({parent, node->RelativeIndex(), node->EntityIndex(), node->Coordinates()});
-  }
-  return nodes;
-}
-
-std::string ToText(const std::vector<TNodeRecord>& aNodes) {
-  std::string text;
-  for (const TNodeRecord& node : aNodes) {
-    text += std::to_string(node.fParent) + ":" + std::to_string(node.fPlace) + " " + std::to_string(node.fEntityIndex) +
-            " " + support::ToText(node.fCoordinates) + "\n";
+    text += std::to_string(parent) + ":" + std::to_string(node->RelativeIndex()) + " " +
+            std::to_string(node->EntityIndex()) + " " + support::ToText(node->Coordinates()) + "\n";
+    EXPECT_EQ(node->Parent()->GetNode(node->RelativeIndex()), node);
   }
   return text;
 }
@@ -47,13 +38,16 @@ std::string RecordOneByOne(TEntityStorage& aDrawing, const std::vector<TRecordin
   tree.Clear();
   tree.pEntityStorage(&aDrawing);
   for (const auto& [entity, point] : aRecordings) AddInterception(tree, aDrawing.Entities(entity), entity, point);
-  return ToText(GetNodes(tree));
+  return ToText(tree);
 }
 
 std::string RecordAtOnce(const TEntityStorage& aDrawing, const std::vector<TRecording>& aRecordings) {
   TRecordedPoints records(aDrawing.EntityArray());
   for (const auto& [entity, point] : aRecordings) records.Add(entity, point);
-  return ToText(records.GetNodes());
+  TEntityTree tree("Intercepts");
+  tree.Clear();
+  records.FillTree(tree);
+  return ToText(tree);
 }
 
 /// Points near each entity of a drawing, each on a lattice of halves of the tolerance.

@@ -14,6 +14,12 @@
 
 namespace GeometryEngine::detail {
 
+/// What a search finds: the first point that is the same, and whether it is the only one.
+struct TPointMatch {
+  TIndex fFirst = kNotFound;
+  bool fIsOnly = true;
+};
+
 /// Points 0, 1, 2, ... in the order in which they were added. A search answers what a comparison point by point from
 /// the first one on would: sameness under a tolerance is not transitive, so the order decides. Cells only propose
 /// points; the points' own == decides.
@@ -47,6 +53,17 @@ class TPointIndex {
   /// The first point that is the same as `aPoint`; kNotFound when none is.
   TIndex FindFirst(const TEntityCoordinate& aPoint) const {
     return FindFirstIf(aPoint, [](TIndex) { return true; });
+  }
+
+  /// The first point that is the same as `aPoint`, and whether others are too.
+  TPointMatch FindMatch(const TEntityCoordinate& aPoint) const {
+    TPointMatch match;
+    const auto never = [&](TIndex i) {
+      match = {EarlierOf(match.fFirst, i), match.fFirst == kNotFound};
+      return false;
+    };
+    FindFirstIf(aPoint, never);
+    return match;
   }
 
   /// The same among the points whose index `aAccepts`.

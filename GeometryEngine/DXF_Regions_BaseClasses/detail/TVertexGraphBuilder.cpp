@@ -4,45 +4,64 @@
 
 namespace GeometryEngine::detail {
 
-TVertexGraphBuilder::TVertexGraphBuilder(TEntityArray& aPieces, std::size_t aExpectedPieces) : fPieces(aPieces) {
-  fPieces.reserve(aExpectedPieces);
-  fPoints.Reserve(aExpectedPieces);
-  fVertices.reserve(aExpectedPieces);
-  fHalfEdges.reserve(2 * aExpectedPieces);
-  fNodes.reserve(3 * aExpectedPieces);
+TVertexGraphBuilder::TVertexGraphBuilder(TEntityTree& aTree, TEntityArray& aPieces, std::size_t aMostPieces)
+    : fPieces(aPieces), fNodes(aTree, 4 * aMostPieces) {
+  fPieces.reserve(aMostPieces);
+  fPoints.Reserve(aMostPieces);
+  fVertices.reserve(aMostPieces);
+  fHalfEdges.reserve(2 * aMostPieces);
 }
 
 void TVertexGraphBuilder::Add(TDXFEntity&& aPiece) {
-  const TIndex startVertex = fPoints.FindFirst(aPiece.StartCoords);
-  const TIndex endVertex = fPoints.FindFirst(aPiece.EndCoords);
-  if (IsKnown(aPiece, startVertex, endVertex)) return;
-  aPiece.StartCoords = AddHalfEdge(aPiece.StartCoords, startVertex);
-  // A vertex just made at the start may be the first that is the same as the end.
-  const bool isEndNew = endVertex == kNotFound && startVertex == kNotFound;
-  aPiece.EndCoords = AddHalfEdge(aPiece.EndCoords, isEndNew ? fPoints.FindFirst(aPiece.EndCoords) : endVertex);
+  const TPointMatch start = FindStart(aPiece.StartCoords);
+  const TPointMatch end = fPoints.FindMatch(aPiece.EndCoords);
+  fLastEnd = aPiece.EndCoords;
+  fLastEndMatch = end;
+  if (IsKnown(aPiece, start, end)) return;
+  aPiece.StartCoords = AddHalfEdge(aPiece.StartCoords, start.fFirst);
+  // A vertex just made at the start may be the same as the end, and then the first of them.
+  const bool isStartNew = start.fFirst == kNotFound;
+  const bool mayJoinStart = isStartNew && end.fFirst == kNotFound;
+  const TIndex endVertex = mayJoinStart ? fPoints.FindFirst(aPiece.EndCoords) : end.fFirst;
+  fLastEndMatch = {endVertex == kNotFound ? fPoints.Count() : endVertex, end.fIsOnly};
+  if (isStartNew || fLastEnd != fLastEnd) fLastEndMatch.reset();  // or the same as nothing, not even itself
+  aPiece.EndCoords = AddHalfEdge(aPiece.EndCoords, endVertex);
   fPieces.push_back(std::move(aPiece));
 }
 
+TPointMatch TVertexGraphBuilder::FindStart(const TEntityCoordinate& aStart) const {
+  const bool isLastEnd = fLastEndMatch && aStart.x == fLastEnd.x && aStart.y == fLastEnd.y;
+  return isLastEnd ? *fLastEndMatch : fPoints.FindMatch(aStart);
+}
+
+void TVertexGraphBuilder::Finish() {
+  fNodes.Finish();
+}
+
 // A piece that equals this one ends at vertices, and they are the same as its ends.
-bool TVertexGraphBuilder::IsKnown(const TDXFEntity& aPiece, TIndex aStartVertex, TIndex aEndVertex) const {
-  if (aStartVertex == kNotFound || aEndVertex == kNotFound) return false;
-  const bool isStartBusy = VertexAt(aStartVertex).fCount > VertexAt(aEndVertex).fCount;
-  const TEntityCoordinate& near = isStartBusy ? aPiece.EndCoords : aPiece.StartCoords;
-  const TEntityCoordinate& far = isStartBusy ? aPiece.StartCoords : aPiece.EndCoords;
-  const auto leadsToEqual = [&](TIndex vertex) {
-    for (TIndex h = VertexAt(vertex).fLastHalfEdge; h != kNotFound; h = HalfEdgeAt(h).fPrevious) {
-      const TIndex farVertex = HalfEdgeAt(h ^ 1).fVertex;
-      if (fPoints.Point(farVertex) == far && fPieces[static_cast<std::size_t>(h / 2)] == aPiece) return true;
-    }
-    return false;
-  };
-  return fPoints.FindFirstIf(near, leadsToEqual) != kNotFound;
+bool TVertexGraphBuilder::IsKnown(const TDXFEntity& aPiece, const TPointMatch& aStart, const TPointMatch& aEnd) const {
+  if (aStart.fFirst == kNotFound || aEnd.fFirst == kNotFound) return false;
+  const bool isStartBusy = VertexAt(aStart.fFirst).fCount > VertexAt(aEnd.fFirst).fCount;
+  const TPointMatch& near = isStartBusy ? aEnd : aStart;
+  const TEntityCoordinate& nearEnd = isStartBusy ? aPiece.EndCoords : aPiece.StartCoords;
+  const TEntityCoordinate& farEnd = isStartBusy ? aPiece.StartCoords : aPiece.EndCoords;
+  const auto leadsToEqual = [&](TIndex vertex) { return LeadsToEqual(vertex, farEnd, aPiece); };
+  return near.fIsOnly ? leadsToEqual(near.fFirst) : fPoints.FindFirstIf(nearEnd, leadsToEqual) != kNotFound;
+}
+
+bool TVertexGraphBuilder::LeadsToEqual(TIndex aVertex, const TEntityCoordinate& aFarEnd,
+                                       const TDXFEntity& aPiece) const {
+  for (TIndex h = VertexAt(aVertex).fLastHalfEdge; h != kNotFound; h = HalfEdgeAt(h).fPrevious) {
+    const TIndex farVertex = HalfEdgeAt(h ^ 1).fVertex;
+    if (fPoints.Point(farVertex) == aFarEnd && fPieces[static_cast<std::size_t>(h / 2)] == aPiece) return true;
+  }
+  return false;
 }
 
 TEntityCoordinate TVertexGraphBuilder::AddHalfEdge(const TEntityCoordinate& aEnd, TIndex aVertex) {
   const TIndex index = aVertex == kNotFound ? AddVertex(aEnd) : aVertex;
   TVertex& vertex = VertexAt(index);
-  fNodes.push_back({vertex.fNode, vertex.fCount++, ToIndex(fPieces.size()), {}});
+  fNodes.Add(*vertex.fNode, vertex.fCount++).EntityIndex(ToIndex(fPieces.size()));
   fHalfEdges.push_back({index, vertex.fLastHalfEdge});
   vertex.fLastHalfEdge = ToIndex(fHalfEdges.size() - 1);
   return fPoints.Point(index);
@@ -51,8 +70,9 @@ TEntityCoordinate TVertexGraphBuilder::AddHalfEdge(const TEntityCoordinate& aEnd
 TIndex TVertexGraphBuilder::AddVertex(const TEntityCoordinate& aPoint) {
   const TIndex index = fPoints.Count();
   fPoints.Add(aPoint);
-  fVertices.push_back({ToIndex(fNodes.size()), 0, kNotFound});
-  fNodes.push_back({kNotFound, index, kNotFound, aPoint});
+  TTreeNode& node = fNodes.AddToRoot(index);
+  node.Coordinates(aPoint);
+  fVertices.push_back({&node, 0, kNotFound});
   return index;
 }
 

@@ -3,28 +3,30 @@
 // The vertex graph of a drawing's pieces, before it becomes a tree. Private.
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 #include "GeometryEngine/DXF_Entity_Types/detail/TPointIndex.h"
-#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TNodeRecord.h"
+#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TNodeBatch.h"
 
 namespace GeometryEngine::detail {
 
-/// Takes pieces as AddEntityToCoordinateTree would, one by one into an empty tree and an empty storage, and gives the
+/// Takes pieces as AddEntityToCoordinateTree would, one by one into an empty tree and an empty storage, and makes the
 /// nodes that it would have made.
 /// COST: constant for a piece, on average, as long as not many pieces join the same two vertices.
 class TVertexGraphBuilder {
  public:
-  /// Pieces go to `aPieces`, which is empty and is left to this object alone.
-  TVertexGraphBuilder(TEntityArray& aPieces, std::size_t aExpectedPieces);
+  /// For pieces that go to `aPieces`, which is empty and left to this object alone, as is the tree, just cleared.
+  TVertexGraphBuilder(TEntityTree& aTree, TEntityArray& aPieces, std::size_t aMostPieces);
 
   void Add(TDXFEntity&& aPiece);
-  const std::vector<TNodeRecord>& Nodes() const { return fNodes; }
+  /// After the last piece. Without it, the tree can only be cleared.
+  void Finish();
 
  private:
   struct TVertex {
-    TIndex fNode;
+    TTreeNode* fNode;
     TIndex fCount;         ///< of half-edges
     TIndex fLastHalfEdge;  ///< half-edges 2 k and 2 k + 1 are those of piece k
   };
@@ -33,7 +35,9 @@ class TVertexGraphBuilder {
     TIndex fPrevious;  ///< at the same vertex
   };
 
-  bool IsKnown(const TDXFEntity& aPiece, TIndex aStartVertex, TIndex aEndVertex) const;
+  TPointMatch FindStart(const TEntityCoordinate& aStart) const;
+  bool IsKnown(const TDXFEntity& aPiece, const TPointMatch& aStart, const TPointMatch& aEnd) const;
+  bool LeadsToEqual(TIndex aVertex, const TEntityCoordinate& aFarEnd, const TDXFEntity& aPiece) const;
   TEntityCoordinate AddHalfEdge(const TEntityCoordinate& aEnd, TIndex aVertex);
   TIndex AddVertex(const TEntityCoordinate& aPoint);
   TVertex& VertexAt(TIndex aIndex) { return fVertices[static_cast<std::size_t>(aIndex)]; }
@@ -44,7 +48,10 @@ class TVertexGraphBuilder {
   TPointIndex fPoints;  ///< of the vertices
   std::vector<TVertex> fVertices;
   std::vector<THalfEdge> fHalfEdges;
-  std::vector<TNodeRecord> fNodes;
+  TNodeBatch fNodes;
+  /// What a search for the last piece's end would find now, where that is certain: the next piece often starts there.
+  TEntityCoordinate fLastEnd;
+  std::optional<TPointMatch> fLastEndMatch;
 };
 
 }  // namespace GeometryEngine::detail

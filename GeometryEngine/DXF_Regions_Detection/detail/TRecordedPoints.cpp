@@ -3,6 +3,7 @@
 #include <numeric>
 
 #include "GeometryEngine/DXF_Regions_Detection/detail/TPointRow.h"
+#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TNodeBatch.h"
 
 namespace GeometryEngine::detail {
 
@@ -72,22 +73,21 @@ std::vector<TIndex> TRecordedPoints::GetPlaces() const {
   return places;
 }
 
-std::vector<TNodeRecord> TRecordedPoints::GetNodes() {
+void TRecordedPoints::FillTree(TEntityTree& aTree) const {
   const std::vector<TIndex> places = GetPlaces();
-  std::vector<TNodeRecord> nodes;
-  nodes.reserve(fRecords.size() + fNodeEntities.size());
-  std::vector<TIndex> positions(fNodeEntities.size(), kNotFound);
+  TNodeBatch nodes(aTree, fRecords.size() + fNodeEntities.size());
+  std::vector<TTreeNode*> entityNodes(fNodeEntities.size(), nullptr);
   TIndex count = 0;
   for (std::size_t i = 0; i < fRecords.size(); ++i) {
-    const TRecord& record = fRecords[i];
-    TIndex& position = positions[static_cast<std::size_t>(record.fNode)];
-    if (position == kNotFound) {
-      position = ToIndex(nodes.size());
-      nodes.push_back({kNotFound, count++, fNodeEntities[static_cast<std::size_t>(record.fNode)], {}});
+    const std::size_t entity = static_cast<std::size_t>(fRecords[i].fNode);
+    TTreeNode*& node = entityNodes[entity];
+    if (node == nullptr) {
+      node = &nodes.AddToRoot(count++);
+      node->EntityIndex(fNodeEntities[entity]);
     }
-    if (places[i] != kNotFound) nodes.push_back({position, places[i], kNotFound, record.fPoint});
+    if (places[i] != kNotFound) nodes.Add(*node, places[i]).Coordinates(fRecords[i].fPoint);
   }
-  return nodes;
+  nodes.Finish();
 }
 
 }  // namespace GeometryEngine::detail

@@ -9,12 +9,12 @@
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 #include "GeometryEngine/DXF_Entity_Types/detail/TEntityIndex.h"
-#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TNodeRecord.h"
+#include "GeometryEngine/DXF_Regions_TreeClasses/TEntityTree.h"
 #include "GeometryEngine/host/TIndex.h"
 
 namespace GeometryEngine::detail {
 
-/// Takes points in the order of AddInterception and gives the nodes that its calls, one by one, would have made: the
+/// Takes points in the order of AddInterception and makes the nodes that its calls, one by one, would have made: the
 /// same nodes with the same indexes, in the same order.
 ///
 /// COST: n log n for the points of an entity, as long as no long row of them stands within the tolerance of each other.
@@ -25,8 +25,8 @@ class TRecordedPoints {
 
   /// Takes a point of an entity.
   void Add(TIndex aEntity, const TEntityCoordinate& aPoint);
-  /// The nodes of an intercept tree, in the order in which they are added to it.
-  std::vector<TNodeRecord> GetNodes();
+  /// Adds the nodes to an intercept tree. REQUIRES: a tree just cleared; one that fails midway is to be cleared again.
+  void FillTree(TEntityTree& aTree) const;
 
  private:
   struct TRecord {
