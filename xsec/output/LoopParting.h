@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "xsec/output/Topology.h"
+#include "xsec/output/CurveLoops.h"
 
 namespace xsec {
 

@@ -7,28 +7,9 @@
 #include <vector>
 
 #include "xsec/Regions.h"
+#include "xsec/output/CurveLoops.h"
 
 namespace xsec {
-
-/// A line or arc between two points, by their indexes; an arc runs anticlockwise.
-struct Curve {
-  std::size_t from = 0;
-  std::size_t to = 0;
-  TravelledPiece piece;  ///< travelled from the one point to the other
-};
-
-/// A curve on the way round a region.
-struct CurveUse {
-  std::size_t curve = 0;
-  bool forward = true;
-};
-
-using CurveLoop = std::vector<CurveUse>;
-
-struct RegionLoops {
-  CurveLoop outline;             ///< anticlockwise
-  std::vector<CurveLoop> holes;  ///< clockwise
-};
 
 struct Topology {
   std::vector<Point> points;
