@@ -65,7 +65,7 @@ class GEOMETRYENGINE_API TEntityBaseClass {
   /// An entity that the sweep has not left behind when it ends loses the ends that meet nothing. A host that wants open
   /// ends too adds some short line to the right of everything else.
   /// DEGENERATE: nil empties the vertex graph and the intercept tree.
-  /// COST: at worst, every entity is compared with every other, and every point recorded with every entity.
+  /// COST: n log n for the entities and their points, besides the pairs of entities that meet in x and in y.
   void DetermineInterceptions(TEntityStorage* apEntityStorage);
   /// The second half of DetermineInterceptions: splits every entity of the intercept tree at its points and adds the
   /// pieces to the vertex graph. REQUIRES: a vertex graph just cleared.

@@ -1,6 +1,7 @@
 #include <utility>
 
 #include "GeometryEngine/DXF_Regions_BaseClasses/TEntityBaseClass.h"
+#include "GeometryEngine/DXF_Regions_BaseClasses/detail/TDriverPass.h"
 #include "GeometryEngine/DXF_Regions_BaseClasses/detail/TVertexGraphBuilder.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TRecordedPoints.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TSweep.h"
@@ -9,23 +10,6 @@
 namespace GeometryEngine {
 
 namespace {
-
-/// Undoes what a pass was doing, unless the pass came to its end: an allocation that fails leaves no half result.
-template <class TUndo>
-class TPassGuard {
- public:
-  explicit TPassGuard(const TUndo& aUndo) : fUndo(aUndo) {}
-  ~TPassGuard() {
-    if (!fIsDone) fUndo();
-  }
-  TPassGuard(const TPassGuard&) = delete;
-  TPassGuard& operator=(const TPassGuard&) = delete;
-  void Done() { fIsDone = true; }
-
- private:
-  const TUndo& fUndo;
-  bool fIsDone = false;
-};
 
 void FillInterceptTree(const TEntityStorage& aDrawing, TEntityTree& aTree) {
   detail::TRecordedPoints records(aDrawing.EntityArray());
@@ -48,8 +32,7 @@ std::size_t GetMostPieces(const TEntityTree& aInterceptTree) {
 }  // namespace
 
 void TEntityBaseClass::DetermineInterceptions(TEntityStorage* apEntityStorage) {
-  const auto undo = [this] { fInterceptTree.Clear(); };
-  TPassGuard guard(undo);
+  detail::TDriverPass pass(fInterceptTree);
   fCoordinateTree.Clear();
   fInterceptTree.Clear();
   fInterceptTree.pEntityStorage(apEntityStorage);
@@ -58,15 +41,11 @@ void TEntityBaseClass::DetermineInterceptions(TEntityStorage* apEntityStorage) {
     FillInterceptTree(*apEntityStorage, fInterceptTree);
   }
   CreateCoordinateTreeFromIntercepts();
-  guard.Done();
+  pass.Done();
 }
 
 void TEntityBaseClass::CreateCoordinateTreeFromIntercepts() {
-  const auto undo = [this] {
-    fCoordinateTree.Clear();
-    fEntityStorage_Regions.FreeEntities();
-  };
-  TPassGuard guard(undo);
+  detail::TDriverPass pass(fCoordinateTree, &fEntityStorage_Regions);
   fEntityStorage_Regions.FreeEntities();
   fCoordinateTree.pEntityStorage(&fEntityStorage_Regions);
   TEntityArray& pieces = fEntityStorage_Regions.EntityArray();
@@ -76,7 +55,7 @@ void TEntityBaseClass::CreateCoordinateTreeFromIntercepts() {
                          [&](TDXFEntity&& piece) { graph.Add(std::move(piece)); });
   }
   graph.Finish();
-  guard.Done();
+  pass.Done();
 }
 
 void TEntityBaseClass::AddEntityToCoordinateTree(TEntityTree& aTree, const TDXFEntity& aEntity) {

@@ -6,12 +6,15 @@
 namespace GeometryEngine::detail {
 
 /// What a pass of the driver runs in: the default floating-point environment, and the promise that the tree that it
-/// fills is empty when an allocation fails on the way.
+/// fills, and the storage of the entities in it, are empty when an allocation fails on the way.
 class TDriverPass {
  public:
-  explicit TDriverPass(TEntityTree& aFilledTree) : fFilledTree(&aFilledTree) {}
+  explicit TDriverPass(TEntityTree& aFilledTree, TEntityStorage* aFilledStorage = nullptr)
+      : fFilledTree(&aFilledTree), fFilledStorage(aFilledStorage) {}
   ~TDriverPass() {
-    if (fFilledTree != nullptr) fFilledTree->Clear();
+    if (fFilledTree == nullptr) return;
+    fFilledTree->Clear();
+    if (fFilledStorage != nullptr) fFilledStorage->FreeEntities();
   }
   TDriverPass(const TDriverPass&) = delete;
   TDriverPass& operator=(const TDriverPass&) = delete;
@@ -22,6 +25,7 @@ class TDriverPass {
  private:
   TFloatEnvironment fEnvironment;
   TEntityTree* fFilledTree;
+  TEntityStorage* fFilledStorage;
 };
 
 }  // namespace GeometryEngine::detail
