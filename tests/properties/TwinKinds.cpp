@@ -216,6 +216,35 @@ TEntityArray LoopsOnTrees(Random& aRandom) {
   return entities;
 }
 
+/// Pairs that all but touch: arcs and lines beside an arc, some tolerances from its circle, and arcs that end there.
+TEntityArray Touchings(Random& aRandom) {
+  const double t = OneOf(aRandom, {0.001, 0.001, 0.5});
+  TEntityArray entities;
+  for (int i = Whole(aRandom, 2, 7); i > 0; --i) {
+    const TEntityCoordinate centre = AnyPoint(aRandom);
+    const double radius = aRandom.Between(4, 20);
+    const double at = aRandom.Chance(0.5) ? 90 * Whole(aRandom, 0, 3) : aRandom.Between(0, 360);
+    const double gap = OneOf(aRandom, {0.0, 0.5, -0.5, 0.9, -0.9, 1.0, 1.8, -1.8, 2.5, 4.0, 12.0, -12.0}) * t;
+    const TEntityCoordinate place = OnCircle(centre, radius + gap, at);
+    entities.push_back(Arc(centre, radius, at - aRandom.Between(0, 170), at + aRandom.Between(0, 170)));
+    const double other = aRandom.Between(2, 20);
+    switch (Whole(aRandom, 0, 3)) {
+      case 0:
+        entities.push_back(Arc(OnCircle(place, other, at), other, at + 100, at + 260));
+        break;
+      case 1:
+        entities.push_back(Arc(OnCircle(place, -other, at), other, at - 80, at + 80));
+        break;
+      case 2:
+        entities.push_back(CreateEntity_Line(OnCircle(place, other, at + 90), OnCircle(place, other, at - 90)));
+        break;
+      default:
+        entities.push_back(CreateEntity_Arc_StartEnd_Radius(place, OnCircle(place, other, at + 30), 2 * other));
+    }
+  }
+  return entities;
+}
+
 constexpr Kind kTwinKinds[] = {
     {"lines", Lines},
     {"lines and arcs", LinesAndArcs},
@@ -228,6 +257,7 @@ constexpr Kind kTwinKinds[] = {
     {"uprights", Uprights},
     {"comb", Comb},
     {"loops on trees", LoopsOnTrees},
+    {"touchings", Touchings},
 };
 
 // Chains -------------------------------------------------------------------------------------------------------------
