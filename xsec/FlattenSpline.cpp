@@ -10,7 +10,8 @@ namespace xsec {
 namespace {
 
 constexpr std::size_t kHighestDegree = 24;
-constexpr int kMostHalvings = 20;  // of one span between knots
+constexpr int kMostHalvings = 20;             // of one span between knots
+constexpr std::size_t kMostPoints = 100'000;  // of a whole spline; what is left then gets a chord a piece
 
 // A point in homogeneous coordinates: (x w, y w, w).
 struct Weighted {
@@ -104,7 +105,7 @@ void AppendPiece(Controls piece, double tolerance, std::vector<Point>& points) {
   while (!open.empty()) {
     Part part = std::move(open.back());
     open.pop_back();
-    if (part.halvings >= kMostHalvings || IsFlat(part.piece, tolerance)) {
+    if (part.halvings >= kMostHalvings || points.size() >= kMostPoints || IsFlat(part.piece, tolerance)) {
       points.push_back(Projected(part.piece.back()));
       continue;
     }

@@ -19,7 +19,8 @@ std::vector<Point> FlattenEllipse(const SourceEllipse& aEllipse, double aToleran
 std::string WhySplineCannotBeFlattened(const SourceSpline& aSpline);
 
 /// Points along a spline, rational or not, both ends included; no point of the curve is further than aTolerance from
-/// its chord. REQUIRES: WhySplineCannotBeFlattened gives nothing.
+/// its chord. After 100,000 points, whatever the tolerance, the rest of the spline gets few chords: numbers that
+/// overflow on the way come to no end otherwise. REQUIRES: WhySplineCannotBeFlattened gives nothing.
 std::vector<Point> FlattenSpline(const SourceSpline& aSpline, double aTolerance);
 
 }  // namespace xsec

@@ -174,5 +174,17 @@ TEST(FlattenSpline, FinenessIsBoundedWhateverTheToleranceAsksFor) {
   EXPECT_LT(ReadEntities("0 ELLIPSE | 11 10 | 40 0.5", ReadOptions{std::nullopt, 0}).entities.size(), 200000U);
 }
 
+TEST(FlattenSpline, NumbersThatOverflowEndAtTheMostPoints) {
+  SourceSpline spline;
+  spline.degree = 1;
+  for (int i = 0; i < 40; ++i) {
+    spline.points.push_back({{1e300, i * 1e300}, 1e300});
+    spline.knots.push_back(i);
+  }
+  spline.knots.push_back(40);
+  spline.knots.push_back(41);
+  EXPECT_LE(FlattenSpline(spline, 0.01).size(), 101'000U);
+}
+
 }  // namespace
 }  // namespace xsec
