@@ -60,6 +60,7 @@ void TEntityBaseClass::CreateCoordinateTreeFromIntercepts() {
 
 void TEntityBaseClass::AddEntityToCoordinateTree(TEntityTree& aTree, const TDXFEntity& aEntity) {
   TEntityStorage* storage = aTree.pEntityStorage();
+  const TFloatEnvironment environment;
   if (storage == nullptr || storage->CheckEntityExists(aEntity)) return;
   if (aEntity.EntityType != DXFLine && aEntity.EntityType != DXFArc) return;
   const TIndex index = storage->Count();

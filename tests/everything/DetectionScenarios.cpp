@@ -132,7 +132,7 @@ struct TBeforeHandOver : TBeforeNesting {
 
 std::vector<TScenario> DriverScenarios() {
   return {
-      On<TBeforeSweep>("DetermineInterceptions", Usable, [](TBeforeSweep& s) { s.Intercept(); }),
+      On<TBeforeSweep>("DetermineInterceptions", Empty, [](TBeforeSweep& s) { s.Intercept(); }),
       On<TBeforeTracing>("DetermineInterceptions_Again", Usable, [](TBeforeTracing& s) { s.Intercept(); }),
       On<TBeforeTracing>("DetermineRegions", Empty, [](TBeforeTracing& s) { s.Trace(); }),
       On<TBeforeTracing>("DetectOrphanEntities", Empty,

@@ -20,9 +20,12 @@ using GeometryEngine::support::THostEnvironment;
 namespace {
 
 // The scenarios whose one call holds a guard of its own.
-constexpr const char* kGuardedByThemselves[] = {"AddRegionCoordinates",
+constexpr const char* kGuardedByThemselves[] = {"AddEntityToCoordinateTree",
+                                                "AddRegionCoordinates",
                                                 "AddRegionEntities",
                                                 "DetectOrphanEntities",
+                                                "DetermineInterceptions",
+                                                "DetermineInterceptions_Again",
                                                 "DetermineRegions",
                                                 "GetPoleInaccessibility",
                                                 "IdentifySubRegions",
@@ -30,7 +33,8 @@ constexpr const char* kGuardedByThemselves[] = {"AddRegionCoordinates",
                                                 "OffsetInwards",
                                                 "RegionOffset",
                                                 "RemoveDuplicatedSubRegions",
-                                                "UpdateGeometry_Outputs"};
+                                                "UpdateGeometry_Outputs",
+                                                "WholeDetection"};
 
 bool IsGuardedByItself(const TScenario& aScenario) {
   return std::ranges::find(kGuardedByThemselves, aScenario.name) != std::end(kGuardedByThemselves);
