@@ -3,6 +3,7 @@
 
 - Every link from one file of the project to another leads somewhere.
 - ARCHITECTURE.md names each header of the library, public or private, and each header of xsec.
+- The tests that docs/reliability.md names are there.
 
 usage: check_docs.py
 """
@@ -24,8 +25,26 @@ def headers():
     return sorted(path.stem for path in [*library, *(ROOT / "xsec").rglob("*.h")])
 
 
+def tests():
+    """Suites and tests, as Suite.Test."""
+    macro = re.compile(r"^\s*(?:TEST|TEST_F|TEST_P|RC_GTEST_PROP)\(\s*(\w+),\s*(\w+)", re.MULTILINE)
+    found = {f"Fuzz.{name}" for name in re.findall(r"\b[A-Z]\w+", re.search(
+        r"set\(targets ([^)]*)\)", (ROOT / "tests/fuzz/CMakeLists.txt").read_text(encoding="utf-8")).group(1))}
+    found.add("Fuzz.Dxf")
+    for path in (ROOT / "tests").rglob("*.cpp"):
+        found |= {".".join(pair) for pair in macro.findall(path.read_text(encoding="utf-8"))}
+    return found
+
+
+def missing_tests():
+    known = tests()
+    names = re.findall(r"`([A-Za-z]\w+\.(?:\*|[A-Z]\w+))`", (ROOT / "docs/reliability.md").read_text(encoding="utf-8"))
+    return [f"docs/reliability.md: there is no test {name}" for name in names
+            if name not in known and not (name.endswith("*") and any(test.startswith(name[:-1]) for test in known))]
+
+
 def main():
-    faults = []
+    faults = missing_tests()
     links = 0
     for page in pages():
         for match in LINK.finditer(page.read_text(encoding="utf-8")):
