@@ -37,6 +37,8 @@ def tests():
 
 
 def missing_tests():
+    if not (ROOT / "docs/reliability.md").exists():
+        return []
     known = tests()
     names = re.findall(r"`([A-Za-z]\w+\.(?:\*|[A-Z]\w+))`", (ROOT / "docs/reliability.md").read_text(encoding="utf-8"))
     return [f"docs/reliability.md: there is no test {name}" for name in names

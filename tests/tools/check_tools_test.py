@@ -184,6 +184,12 @@ class CheckDocs(Tree):
         self.lay_out("`TIndex`, `Tolerances` and `Rotation`", "[more](docs/nothing.md)")
         self.assert_fault("check_docs.py", "README.md: nothing at docs/nothing.md")
 
+    def test_a_test_that_is_named_but_not_there_is_a_fault(self):
+        self.lay_out("`TIndex`, `Tolerances` and `Rotation`")
+        self.write("docs/reliability.md", text="`Growth.IsNone`")
+        self.write("tests/fuzz/CMakeLists.txt", text="set(targets Pairs)")
+        self.assert_fault("check_docs.py", "there is no test Growth.IsNone")
+
 
 class CheckExports(Tree):
     def library(self, text):
