@@ -1,6 +1,9 @@
 #pragma once
 
 // Every public header of the library, for hosts. The library itself includes only what it uses.
+//
+// A host that runs with floating-point traps, or in another rounding mode than to nearest: see
+// FloatingPoint/TFloatEnvironment.h for the calls that take care of it themselves, and how to make the others.
 
 #include "GeometryEngine/DXF_EntityStorage/AngularDuplication.h"
 #include "GeometryEngine/DXF_EntityStorage/EntityEnds.h"

@@ -2,6 +2,8 @@
 
 // Which entities survive when a sector is copied round the origin: the radial seams between neighbouring copies do not.
 // `TEntityStorage::DuplicateAroundAxis` asks here for every entity of every copy.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include <cstdint>
 

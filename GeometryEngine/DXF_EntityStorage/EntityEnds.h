@@ -1,6 +1,8 @@
 #pragma once
 
 // Ends of one or two entities, as a walk along a chain needs them. Coordinates are compared under the linear tolerance.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 #include "GeometryEngine/Export.h"

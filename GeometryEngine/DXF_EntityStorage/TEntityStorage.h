@@ -3,6 +3,8 @@
 // The ordered chain of entities that describes one boundary, usually the closed outline of a region, and everything
 // that is measured on it or derived from it as a whole. For a plain list of entities see EntityArrays.h, for the two
 // ends of one entity EntityEnds.h, for one entity's share in area and centroid EntityTerms.h.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round all calls but Offset.
 
 #include <cstdint>
 #include <string_view>

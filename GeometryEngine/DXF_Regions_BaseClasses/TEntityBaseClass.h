@@ -33,6 +33,10 @@ namespace GeometryEngine {
 /// travelled once is not traced again, whether the loop was kept or not. A host that wants closed regions and open
 /// chains of one drawing, or regions of another type, calls DetermineInterceptions again in between.
 ///
+/// When an allocation fails, the exception comes through: what a pass was to fill is empty then (the intercept tree and
+/// the vertex graph, or the region tree), nesting and hand-over leave everything as it was. Each pass computes in the
+/// default floating-point environment, whatever the host's (TFloatEnvironment).
+///
 /// OWNS: its trees and the pieces; not the drawing, which has to live as long as the intercept tree is used.
 /// Not copyable. One driver is for one thread at a time; two drivers don't know of each other.
 class GEOMETRYENGINE_API TEntityBaseClass {

@@ -5,6 +5,8 @@
 //
 // A region here is a node of level 1 of a region tree. The coordinate tree is the one in which it was traced, whose
 // storage holds its entities. A region is walked from its start vertex, each entity from where the last one left off.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include <cstdint>
 

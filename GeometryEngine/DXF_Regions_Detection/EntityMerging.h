@@ -2,6 +2,8 @@
 
 // Works on regions that have been traced: joining two consecutive entities that continue one another, and building a
 // region that the drawing leaves empty. For tracing itself see RegionTracing.h.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include <cstdint>
 

@@ -2,6 +2,8 @@
 
 // Records where entities meet. The points themselves are found by PairInterceptions.h; what is done with them by
 // EntitySplitting.h.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 #include "GeometryEngine/DXF_Regions_TreeClasses/TEntityTree.h"

@@ -2,6 +2,8 @@
 
 // Walks through a vertex graph from half-edge to half-edge, and so traces one closed loop or one open chain. Which
 // walks are begun, and which of the loops are kept, is up to TEntityBaseClass.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include <cstdint>
 #include <span>

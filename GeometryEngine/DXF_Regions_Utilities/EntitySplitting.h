@@ -2,6 +2,8 @@
 
 // Cuts an entity at the points where others meet it. The points come from AddInterception (InterceptionRecording.h),
 // which keeps them in order along the entity.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 #include "GeometryEngine/DXF_Regions_TreeClasses/TTreeNode.h"

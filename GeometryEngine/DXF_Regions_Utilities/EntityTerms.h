@@ -7,6 +7,8 @@
 // travelled anticlockwise when its angle at `aFrom` is its own start angle.
 //
 // Directions are single precision, angles between them double.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include <cstdint>
 

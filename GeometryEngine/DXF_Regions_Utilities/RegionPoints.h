@@ -1,6 +1,8 @@
 #pragma once
 
 // A probe point beside an edge. For a point well inside a region, to put a label on, see PoleInaccessibility.h.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include "GeometryEngine/DXF_Entity_Types/TEntityCoordinate.h"
 #include "GeometryEngine/Export.h"

@@ -5,6 +5,8 @@
 //
 // UNITS: radii in drawing length units, angles in degrees anticlockwise from the x axis. Only type, ends and, for arcs,
 // centre, radius and angles are set; tags stay empty. Angles are stored as given and nothing is cleaned or snapped.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 #include "GeometryEngine/Export.h"

@@ -8,6 +8,8 @@
 // always answered truly to the left, to the right and above.
 //
 // DEGENERATE: an entity that is neither line nor arc answers its centre.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 #include "GeometryEngine/Export.h"

@@ -8,6 +8,8 @@
 // Each check appends what it finds to the list, in a fixed order, and answers whether any candidate was accepted, even
 // one that the list held already. Nothing fails: a division by zero or the root of a negative number gives a candidate
 // that is not a number, which no acceptance test takes.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 #include "GeometryEngine/DXF_SweepLine_Utilities/TInterceptionPoints.h"

@@ -7,6 +7,8 @@
 // UNITS: lengths in drawing units, angles in degrees, anticlockwise from the positive x axis.
 // Tags of the new entity keep their starting values. Snapping follows the host's mode, see CoordinateCleaning.h; in
 // mode 0 the components of an arc's stored centre that are below 1e-9 become 0.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 #include "GeometryEngine/Export.h"

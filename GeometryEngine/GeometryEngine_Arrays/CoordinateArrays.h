@@ -6,6 +6,8 @@
 //
 // Two points are the same when `operator==` says so, that is within the linear tolerance in x and in y. Searches start
 // at index 0 and the first match wins, so among near-duplicates the earliest one answers. Sameness is not transitive.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include <span>
 

@@ -7,6 +7,8 @@
 // Two entities are the same when `operator==` says so: by their geometry within the tolerance, a line also the same as
 // its reverse, tags ignored, and an entity that is neither line nor arc never the same as any. The first match from
 // index 0 wins.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include <span>
 

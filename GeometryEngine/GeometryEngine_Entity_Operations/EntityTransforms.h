@@ -2,6 +2,8 @@
 
 // Moved copies of one point or entity: mirrored, translated, rotated. Whole chains are moved by TEntityStorage, arrays
 // of coordinates by CoordinateArrays.h. Tags are copied along.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 #include "GeometryEngine/Export.h"

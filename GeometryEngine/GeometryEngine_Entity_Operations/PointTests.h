@@ -4,6 +4,8 @@
 // point is inside a chain is asked of TEntityStorage.
 //
 // A not-a-number coordinate is never on, inside or within anything.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 #include "GeometryEngine/Export.h"

@@ -5,6 +5,8 @@
 // chain travelled anticlockwise or clockwise.
 //
 // TEntityStorage sums them over a chain (PointInsideEntities).
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include <cstdint>
 

@@ -2,6 +2,8 @@
 
 // The end points that follow from an arc's centre, radius and angles. To rotate a whole entity, its stored ends
 // included, use RotateEntity_AroundAxis.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 #include "GeometryEngine/Export.h"

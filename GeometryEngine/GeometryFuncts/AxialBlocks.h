@@ -1,6 +1,8 @@
 #pragma once
 
 // Division of a machine's axial length into blocks.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include <cstdint>
 

@@ -4,6 +4,8 @@
 //
 // UNITS: degrees. GetAngleFromCoordinate (DXF_SweepLine_Utilities) measures the same direction but puts one within the
 // angle tolerance of the positive x axis onto it.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include "GeometryEngine/DXF_Entity_Types/TEntityCoordinate.h"
 #include "GeometryEngine/Export.h"

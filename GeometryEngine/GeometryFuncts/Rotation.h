@@ -4,6 +4,8 @@
 //
 // UNITS: degrees, anticlockwise. Rotated components are cleaned by CheckCoordinateValue: infinite and not-a-number ones
 // become 0, in snapping mode 1 also those near zero.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include "GeometryEngine/DXF_Entity_Types/TEntityCoordinate.h"
 #include "GeometryEngine/Export.h"

@@ -10,6 +10,8 @@
 //
 // The other way to choose a number of chords, so many for ten degrees, is GetArcSegmentPoints_Step (EntityTerms.h).
 // UNITS: degrees.
+//
+// A host that runs with floating-point traps holds a TFloatEnvironment round these.
 
 #include <cstdint>
 
