@@ -38,7 +38,7 @@ TTreeNode* AddRegion(TEntityTree& aRegionTree, const TEntityCoordinate& aStart, 
   return region;
 }
 
-void AddWalkedRegion(TEntityTree& aRegionTree, const detail::TVertexGraph& aGraph, const detail::TGraphWalk& aWalk,
+void AddWalkedRegion(TEntityTree& aRegionTree, const detail::TVertexGraph& aGraph, detail::TGraphWalk& aWalk,
                      double aArea) {
   const TEntityCoordinate& start = aGraph.From(aGraph.HalfEdge(aWalk.Path().front()));
   TTreeNode* region = AddRegion(aRegionTree, start, aWalk.GetCentroid(aArea), aArea);

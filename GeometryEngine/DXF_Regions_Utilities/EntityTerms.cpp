@@ -4,6 +4,7 @@
 
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ArcAngles.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ChordCount.h"
+#include "GeometryEngine/GetFunctions_GeometryOperations/detail/ChordPoint.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/LimitedSegments.h"
 #include "GeometryEngine/host/Numerics.h"
 #include "GeometryEngine/host/TDataStore.h"
@@ -46,10 +47,12 @@ TEntityCoordinate GetCentroidComponent_Arc(const TEntityCoordinate& aFrom, const
   const double startAngle = GetEntityStartAngle_Arc(aFrom, aArc);
   const TTravelDirection direction = GetArcTravelDirection(startAngle, aArc);
   TEntityCoordinate sum;
-  TEntityCoordinate from = GetArc_LineSegmentCoord(aArc, 0, direction, startAngle, step);
+  TEntityCoordinate from = detail::GetChordPoint(aArc, 0, direction, startAngle, step);
   for (std::int32_t k = 0; k < count; ++k) {
-    const TEntityCoordinate to = GetArc_LineSegmentCoord(aArc, k + 1, direction, startAngle, step);
-    sum = sum + GetCentroidTerm(from, to);
+    const TEntityCoordinate to = detail::GetChordPoint(aArc, k + 1, direction, startAngle, step);
+    const TEntityCoordinate term = GetCentroidTerm(from, to);
+    sum.x += term.x;
+    sum.y += term.y;
     from = to;
   }
   return sum;

@@ -2,25 +2,11 @@
 
 #include <cmath>
 
-#include "GeometryEngine/GeometryFuncts/detail/CirclePoint.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ChordCount.h"
+#include "GeometryEngine/GetFunctions_GeometryOperations/detail/ChordPoint.h"
 #include "GeometryEngine/host/Numerics.h"
 
 namespace GeometryEngine {
-
-namespace {
-
-double GetWalkedAngle(std::int32_t aIndex, TTravelDirection aDirection, double aStartAngle, double aStep) {
-  switch (aDirection) {
-    case Travel_AntiClockwise:
-      return aStartAngle + aIndex * aStep;
-    case Travel_Clockwise:
-      return aStartAngle - aIndex * aStep;
-  }
-  return 0;
-}
-
-}  // namespace
 
 double GetEntityStartAngle_Arc(const TEntityCoordinate& aCoordinate, const TDXFEntity& aEntity) {
   if (aCoordinate == aEntity.StartCoords) return aEntity.startAngle;
@@ -47,8 +33,7 @@ TArcSegments GetArcSegmentPoints_Surf(const TDXFEntity& aEntity, double aToleran
 
 TEntityCoordinate GetArc_LineSegmentCoord(const TDXFEntity& aEntity, std::int32_t aIndex, TTravelDirection aDirection,
                                           double aStartAngle, double aStep) {
-  return detail::GetCirclePoint(aEntity.CentreCoords, aEntity.radius,
-                                GetWalkedAngle(aIndex, aDirection, aStartAngle, aStep));
+  return detail::GetChordPoint(aEntity, aIndex, aDirection, aStartAngle, aStep);
 }
 
 }  // namespace GeometryEngine

@@ -11,6 +11,8 @@ namespace GeometryEngine::detail {
 
 namespace {
 
+constexpr TIndex kUnclear = -2;  // in place of a half-edge: the angles proper have to decide
+
 // Directions as numbers from 0 to 4 that grow with the angle from the x axis, cheaper than the angle.
 constexpr double kUnknown = -1;
 constexpr double kHalfTurn = 2;
@@ -34,7 +36,8 @@ TGraphWalk::TGraphWalk(const TVertexGraph& aGraph)
       fIsTravelled(At(aGraph.HalfEdgeCount())),
       fTimesOnPath(At(aGraph.EntityCount()), 0),
       fLeaving(At(aGraph.HalfEdgeCount()), kUnknown),
-      fArriving_Arcs(At(aGraph.HalfEdgeCount()), kUnknown) {
+      fArriving_Arcs(At(aGraph.HalfEdgeCount()), kUnknown),
+      fAreaTerms(At(aGraph.HalfEdgeCount()), std::numeric_limits<double>::quiet_NaN()) {
   for (TIndex h = 0; h < aGraph.HalfEdgeCount(); ++h) fIsTravelled[At(h)] = aGraph.Node(h).Travelled() ? 1 : 0;
 }
 
@@ -70,26 +73,45 @@ void TGraphWalk::AvoidBridges(std::vector<std::uint8_t> aIsBridge) {
   fIsBridge = std::move(aIsBridge);
 }
 
-// A sign of -1 takes back what a sign of +1 has added.
-template <class TSum, class TTerm>
-TSum TGraphWalk::SumUp(const TTerm& aGetTerm) const {
-  TSum sum{};
+double TGraphWalk::GetArea() {
+  double area = 0;
+  for (const TIndex step : fSteps) area += step < 0 ? -GetAreaTerm(~step) : GetAreaTerm(step);
+  if (!fHasClosed) return area;
+  return area + GetSignedArea_Entity(fLastVertex, fLastFarEnd, fGraph.Entity(fGraph.HalfEdge(fPath.back())));
+}
+
+double TGraphWalk::GetAreaTerm(TIndex aHalfEdge) {
+  double& term = fAreaTerms[At(aHalfEdge)];
+  if (std::isnan(term)) {
+    const THalfEdge& halfEdge = fGraph.HalfEdge(aHalfEdge);
+    term = GetSignedArea_Entity(fGraph.From(halfEdge), fGraph.FarEnd(halfEdge), fGraph.Entity(halfEdge));
+  }
+  return term;
+}
+
+TEntityCoordinate TGraphWalk::GetCentroid(double aArea) {
+  constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
+  const bool repeatsTerms = fSteps.size() > fPath.size();
+  if (repeatsTerms && fCentroidTerms.empty()) fCentroidTerms.resize(fAreaTerms.size(), {kNotANumber, kNotANumber});
+  TEntityCoordinate sum;
   for (const TIndex step : fSteps) {
-    const THalfEdge& halfEdge = fGraph.HalfEdge(step < 0 ? ~step : step);
-    const double sign = step < 0 ? -1 : 1;
-    sum = sum + sign * aGetTerm(fGraph.From(halfEdge), fGraph.FarEnd(halfEdge), fGraph.Entity(halfEdge));
+    sum = step < 0 ? sum - GetCentroidTerm(~step) : sum + GetCentroidTerm(step);
   }
   if (!fHasClosed) return sum;
-  return sum + 1.0 * aGetTerm(fLastVertex, fLastFarEnd, fGraph.Entity(fGraph.HalfEdge(fPath.back())));
+  const TDXFEntity& last = fGraph.Entity(fGraph.HalfEdge(fPath.back()));
+  sum = sum + GetCentroidComponent_Entity(fLastVertex, fLastFarEnd, last);
+  return (1 / (aArea * 6)) * sum;
 }
 
-double TGraphWalk::GetArea() const {
-  return SumUp<double>(GetSignedArea_Entity);
-}
-
-TEntityCoordinate TGraphWalk::GetCentroid(double aArea) const {
-  const auto sum = SumUp<TEntityCoordinate>(GetCentroidComponent_Entity);
-  return fHasClosed ? (1 / (aArea * 6)) * sum : sum;
+TEntityCoordinate TGraphWalk::GetCentroidTerm(TIndex aHalfEdge) {
+  const THalfEdge& halfEdge = fGraph.HalfEdge(aHalfEdge);
+  const auto compute = [&] {
+    return GetCentroidComponent_Entity(fGraph.From(halfEdge), fGraph.FarEnd(halfEdge), fGraph.Entity(halfEdge));
+  };
+  if (fCentroidTerms.empty()) return compute();
+  TEntityCoordinate& term = fCentroidTerms[At(aHalfEdge)];
+  if (std::isnan(term.x)) term = compute();
+  return term;
 }
 
 void TGraphWalk::WriteMarks() const {
@@ -160,11 +182,10 @@ TTurn<TIndex> TGraphWalk::FindSharpestTurn() {
   const TIndex last = fPath.back();
   const THalfEdge& halfEdge = fGraph.HalfEdge(last);
   if (halfEdge.fFarVertex == kNotFound) return {kNone, {}};
-  if (halfEdge.fIsExact) {
-    const TIndex clear = FindClearlySharpest(last);
-    if (clear != kNone) return {clear, fGraph.FarEnd(fGraph.HalfEdge(clear))};
-  }
-  return FindByAngle(last);
+  const TIndex clear = halfEdge.fIsExact ? FindClearlySharpest(last) : kUnclear;
+  if (clear == kUnclear) return FindByAngle(last);
+  if (clear == kNone) return {kNone, {}};
+  return {clear, fGraph.FarEnd(fGraph.HalfEdge(clear))};
 }
 
 bool TGraphWalk::MayTake(TIndex aCandidate, TIndex aLast) {
@@ -184,7 +205,7 @@ bool TGraphWalk::IsSameEntity(TIndex aCandidate, TIndex aLast) const {
   return fGraph.Entity(candidate) == fGraph.Entity(last);
 }
 
-// The sharpest turn where directions leave no doubt about it, or where there is but one to take; else none. The walk
+// The sharpest turn where directions leave no doubt about it, or where there are no two to choose from. The walk
 // has arrived on the vertex to the bit, so that what leaves it does so in the directions that are remembered.
 TIndex TGraphWalk::FindClearlySharpest(TIndex aLast) {
   const TIndex vertex = fGraph.HalfEdge(aLast).fFarVertex;
@@ -192,14 +213,14 @@ TIndex TGraphWalk::FindClearlySharpest(TIndex aLast) {
   double bestTurn = kUnknown;
   for (TIndex h = fGraph.FirstHalfEdge(vertex); h < fGraph.EndOfHalfEdges(vertex); ++h) {
     if (!MayTake(h, aLast)) continue;
-    if (!fGraph.HalfEdge(h).fIsExact) return kNone;
+    if (!fGraph.HalfEdge(h).fIsExact) return kUnclear;
     if (best == kNone) {
       best = h;
       continue;
     }
     if (bestTurn == kUnknown) bestTurn = GetClearTurn(aLast, best);
     const double turn = GetClearTurn(aLast, h);
-    if (!(std::abs(turn - bestTurn) > kClearDifference)) return kNone;
+    if (!(std::abs(turn - bestTurn) > kClearDifference)) return kUnclear;
     if (turn < bestTurn) continue;
     best = h;
     bestTurn = turn;

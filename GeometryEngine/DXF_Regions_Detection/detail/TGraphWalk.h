@@ -31,9 +31,11 @@ class TGraphWalk {
   bool HasClosed() const { return fHasClosed; }
   /// The signed area along the last walk. All its steps to and fro are summed up in their order, as the bits depend on
   /// it.
-  double GetArea() const;
+  double GetArea();
+  /// What a half-edge adds to it.
+  double GetAreaTerm(TIndex aHalfEdge);
   /// The centroid of the loop that the last walk has closed, given its area; of an open chain the bare sum.
-  TEntityCoordinate GetCentroid(double aArea) const;
+  TEntityCoordinate GetCentroid(double aArea);
 
   /// From now on walks pass by these half-edges (1 stands for a bridge) as if they were travelled.
   void AvoidBridges(std::vector<std::uint8_t> aIsBridge);
@@ -63,9 +65,8 @@ class TGraphWalk {
   void PutOnPath(TIndex aHalfEdge);
   void TakeOffPath(TIndex aHalfEdge);
   void FreeBlocked();
-  template <class TSum, class TTerm>
-  TSum SumUp(const TTerm& aGetTerm) const;
   void Begin(TIndex aHalfEdge);
+  TEntityCoordinate GetCentroidTerm(TIndex aHalfEdge);
   bool MayTake(TIndex aCandidate, TIndex aLast);
   bool IsSameEntity(TIndex aCandidate, TIndex aLast) const;
   TIndex FindClearlySharpest(TIndex aLast);
@@ -80,6 +81,9 @@ class TGraphWalk {
   std::vector<std::uint32_t> fTimesOnPath;  // by entity
   std::vector<double> fLeaving;             // by half-edge, unknown until it is asked for
   std::vector<double> fArriving_Arcs;       // the same
+  std::vector<double> fAreaTerms;           // by half-edge, not a number until it is asked for
+
+  std::vector<TEntityCoordinate> fCentroidTerms;  // the same, once a walk has gone to and fro
 
   TEntityCoordinate fStart;
   bool fBacktracks = false;

@@ -13,11 +13,13 @@ bool TLoopTracing::Trace(TIndex aHalfEdge, bool aNegativeToo) {
   fWalk.Walk(aHalfEdge, true);
   if (!fWalk.HasClosed()) return false;
   fArea = fWalk.GetArea();
-  const bool clearlyNegative = fArea < -fSlack;
-  if (!fWalk.PassedByBridges() || (clearlyNegative && !aNegativeToo)) return true;
   // The steps over a bridge and back leave their rounding in the sums.
-  fWalk.WalkAgainOverBridges();
-  fArea = fWalk.GetArea();
+  const bool mayPassOver = fArea < 0 && !aNegativeToo && IsSignCertain();
+  if (fWalk.PassedByBridges() && !mayPassOver) {
+    fWalk.WalkAgainOverBridges();
+    fArea = fWalk.GetArea();
+  }
+  if (fKnowsBridges) CountOffLoop();
   return true;
 }
 
@@ -26,20 +28,30 @@ void TLoopTracing::FindBridgesOnceTheyMatter() {
   if (fKnowsBridges || fWalk.StepsBack() <= halfEdges || !fGraph.IsRegular()) return;
   fKnowsBridges = true;
   fWalk.AvoidBridges(FindBridges(fGraph));
-  fSlack = GetAreaSlack();
+  CountFree();
 }
 
-// A sum is at most the sum of all magnitudes, and rounded at most six times for each half-edge: when it is walked,
-// walked again after a step back, and taken out.
-double TLoopTracing::GetAreaSlack() const {
-  constexpr double kRoundings = 16 * std::numeric_limits<double>::epsilon();
-  double magnitudes = 0;
+void TLoopTracing::CountFree() {
   for (TIndex h = 0; h < fGraph.HalfEdgeCount(); ++h) {
-    const THalfEdge& halfEdge = fGraph.HalfEdge(h);
-    magnitudes +=
-        std::abs(GetSignedArea_Entity(fGraph.From(halfEdge), fGraph.FarEnd(halfEdge), fGraph.Entity(halfEdge)));
+    if (fWalk.IsTravelled(h)) continue;
+    ++fFree;
+    fFreeMagnitudes += std::abs(fWalk.GetAreaTerm(h));
   }
-  return kRoundings * fGraph.HalfEdgeCount() * magnitudes;
+  constexpr double kRoundingOfMagnitudes = 1e-6;  // far more than adding them up and counting them off amounts to
+  fFreeMagnitudes += kRoundingOfMagnitudes * fFreeMagnitudes;
+}
+
+void TLoopTracing::CountOffLoop() {
+  fFree -= static_cast<double>(fWalk.Path().size());
+  for (const TIndex h : fWalk.Path()) fFreeMagnitudes -= std::abs(fWalk.GetAreaTerm(h));
+}
+
+// Along a walk each free half-edge is entered once, and entered again or taken out three times more for each step back,
+// of which there are no more than half-edges. No sum on the way exceeds the magnitudes of all of them, so that each of
+// these steps rounds by half an epsilon of that at most. The sum without bridges does no more.
+bool TLoopTracing::IsSignCertain() const {
+  constexpr double kRounding = 4 * std::numeric_limits<double>::epsilon();
+  return std::abs(fArea) > kRounding * (fFree + 1) * fFreeMagnitudes;
 }
 
 }  // namespace GeometryEngine::detail

@@ -24,18 +24,21 @@ class TLoopTracing {
   bool Trace(TIndex aHalfEdge, bool aNegativeToo);
 
   /// Of the loop traced last.
-  const TGraphWalk& Walk() const { return fWalk; }
+  TGraphWalk& Walk() { return fWalk; }
   double Area() const { return fArea; }
 
  private:
   void FindBridgesOnceTheyMatter();
-  double GetAreaSlack() const;
+  void CountFree();
+  void CountOffLoop();
+  bool IsSignCertain() const;
 
   const TVertexGraph& fGraph;
   TGraphWalk fWalk;
   double fArea = 0;
   bool fKnowsBridges = false;
-  double fSlack = 0;  // more than the rounding of any sum of areas
+  double fFree = 0;            // half-edges that no loop has taken, counted once bridges are known
+  double fFreeMagnitudes = 0;  // of their area terms, and somewhat more than that
 };
 
 }  // namespace GeometryEngine::detail
