@@ -12,6 +12,8 @@ constexpr const char* kExamples =
     "Examples:\n"
     "  xsec regions stator.dxf                        a table of all regions\n"
     "  xsec regions stator.dxf -o stator.svg          and a picture of them\n"
+    "  xsec check stator.dxf                          what is open or doubled, and where\n"
+    "  xsec info stator.dxf                           what the file holds\n"
     "  xsec transform pole.dxf --copies 8 -o all.dxf  the whole machine from an eighth\n"
     "  xsec diff old.json new.json                    what has changed between two drawings\n"
     "\n"
@@ -29,6 +31,8 @@ Action ParseCommandLine(int aCount, const char* const* aArguments) {
   app.footer(kExamples);
   app.require_subcommand(1);
   AddRegionsCommand(app, action);
+  AddCheckCommand(app, action);
+  AddInfoCommand(app, action);
   AddTransformCommand(app, action);
   AddDiffCommand(app, action);
   AddSchemaCommand(app, action);

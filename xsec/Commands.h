@@ -18,6 +18,8 @@ using Action = std::function<ExitCode()>;
 /// Each adds its subcommand and sets aAction when the arguments name it. Nothing is read or written before the action
 /// runs; arguments that make no sense are a UsageError while they are parsed.
 void AddRegionsCommand(CLI::App& aApp, Action& aAction);
+void AddCheckCommand(CLI::App& aApp, Action& aAction);
+void AddInfoCommand(CLI::App& aApp, Action& aAction);
 void AddTransformCommand(CLI::App& aApp, Action& aAction);
 void AddDiffCommand(CLI::App& aApp, Action& aAction);
 void AddSchemaCommand(CLI::App& aApp, Action& aAction);

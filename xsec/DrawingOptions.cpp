@@ -32,6 +32,11 @@ double CheckedTolerance(double tolerance) {
   throw UsageError(fmt::format("--tol {}: expected a length in millimetres above 0", tolerance));
 }
 
+double CheckedArea(double area) {
+  if (area >= 0 && std::isfinite(area)) return area;
+  throw UsageError(fmt::format("--sliver-area {}: expected an area in square millimetres", area));
+}
+
 std::uint8_t CheckedMachineType(int type) {
   if (0 <= type && type <= 255) return static_cast<std::uint8_t>(type);
   throw UsageError(fmt::format("--machine-type {}: expected a number from 0 to 255", type));
@@ -57,6 +62,16 @@ void AddSettingsOptions(CLI::App& command, SettingsRequest& settings) {
           "--machine-type", [&](int type) { settings.machineType = CheckedMachineType(type); },
           "The machine-type selector, 0 to 255")
       ->type_name("N");
+  command
+      .add_option_function<double>(
+          "--sliver-area", [&](double area) { settings.sliverArea = CheckedArea(area); },
+          "Regions smaller than this are slivers. Without it a square of the tolerance; regions thinner than the "
+          "tolerance always are")
+      ->type_name("MM2");
+  command.add_flag("--drop-slivers", settings.dropsSlivers, "Make slivers part of the neighbour they share most with");
+  command.add_flag_callback(
+      "--no-prepare", [&] { settings.prepares = false; },
+      "Hand the drawing to the library as it is, whatever way it lies");
 }
 
 void AddLayerOptions(CLI::App& command, DrawingOptions& options) {
@@ -134,6 +149,7 @@ void AddDrawingOptions(CLI::App& aCommand, DrawingOptions& aOptions) {
       ->type_name("X,Y");
   aCommand.add_flag("--strict", aOptions.strict, "Whatever of the drawing is not read is an error");
   AddSettingsOptions(aCommand, aOptions.settings);
+  aCommand.parse_complete_callback([&aOptions] { CheckSettings(aOptions.settings); });
 }
 
 std::pair<double, double> PairOf(const std::string& aOption, const std::string& aText) {

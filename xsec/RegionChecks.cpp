@@ -7,6 +7,7 @@
 
 #include "xsec/InnerPoint.h"
 #include "xsec/PieceGraph.h"
+#include "xsec/prepare/Slivers.h"
 
 namespace xsec {
 
@@ -89,6 +90,17 @@ void CompareAreas(std::size_t index, Detection& detection, double tolerance) {
   }
 }
 
+/// Whether the chain that begins at a loose end leads to a vertex where more than one piece goes on.
+bool LeadsToOthers(const PieceGraph& graph, std::size_t vertex, std::size_t piece) {
+  while (true) {
+    const auto& [a, b] = graph.pieces[piece];
+    vertex = a == vertex ? b : a;
+    const auto& pieces = graph.vertices[vertex];
+    if (pieces.size() != 2) return pieces.size() > 2;
+    piece = pieces[0] == piece ? pieces[1] : pieces[0];
+  }
+}
+
 /// How many loops travel each piece.
 std::vector<std::size_t> CountTravels(const TEntityTree& regionTree, std::size_t pieces) {
   std::vector<std::size_t> travels(pieces, 0);
@@ -113,11 +125,11 @@ void CompareNesting(const TEntityTree& aRegionTree, std::span<const TracedLoop> 
   }
 }
 
-void CheckRegions(Detection& aDetection, double aTolerance) {
+void CheckRegions(Detection& aDetection, const Settings& aSettings) {
   for (std::size_t i = 0; i < aDetection.regions.size(); ++i) {
-    aDetection.regions[i].sliver = aDetection.regions[i].baseArea < aTolerance * aTolerance;
-    SettleLabel(i, aDetection, aTolerance);
-    CompareAreas(i, aDetection, aTolerance);
+    aDetection.regions[i].sliver = IsSliver(aDetection.regions[i], aSettings.sliverArea, aSettings.tolerance);
+    SettleLabel(i, aDetection, aSettings.tolerance);
+    CompareAreas(i, aDetection, aSettings.tolerance);
   }
 }
 
@@ -134,6 +146,8 @@ void CheckPieces(const TEntityTree& aCoordinateTree, const TEntityTree& aRegionT
       continue;
     }
     OpenPiece open{Travel(aCoordinateTree.pEntityStorage()->EntityArray()[i], true), dangles(from), dangles(to)};
+    open.touches =
+        (open.fromDangles && LeadsToOthers(graph, from, i)) || (open.toDangles && LeadsToOthers(graph, to, i));
     open.piece.index = i;
     open.piece.source = aSources[i];
     aDiagnostics.openPieces.push_back(open);

@@ -10,6 +10,7 @@
 #include "xsec/Drawing.h"
 #include "xsec/Nesting.h"
 #include "xsec/Regions.h"
+#include "xsec/Settings.h"
 
 namespace xsec {
 
@@ -20,7 +21,7 @@ void CompareNesting(const GeometryEngine::TEntityTree& aRegionTree, std::span<co
 
 /// Sees to it that every label lies well inside its region and outside its children, moves it when it does not, marks
 /// slivers, and compares the library's areas with those of the loops.
-void CheckRegions(Detection& aDetection, double aTolerance);
+void CheckRegions(Detection& aDetection, const Settings& aSettings);
 
 /// Lists the pieces that bound no region, and counts the sides of the others that no loop was traced along.
 void CheckPieces(const GeometryEngine::TEntityTree& aCoordinateTree, const GeometryEngine::TEntityTree& aRegionTree,

@@ -9,6 +9,11 @@
 #include "xsec/RegionChecks.h"
 #include "xsec/RegionTree.h"
 #include "xsec/SourceLookup.h"
+#include "xsec/prepare/MergedLoops.h"
+#include "xsec/prepare/Prepare.h"
+#include "xsec/prepare/Slivers.h"
+#include "xsec/prepare/Turn.h"
+#include "xsec/prepare/VertexPlaces.h"
 
 namespace xsec {
 
@@ -21,12 +26,13 @@ using GeometryEngine::TTreeNode;
 constexpr std::int32_t kAllClosedLoops = 0;
 constexpr std::size_t kHeightsForInnerPoint = 5;
 constexpr double kTolerancesToHelper = 8;
+constexpr std::size_t kMostRounds = 16;  // of dropping slivers; each takes at least one of those that lie side by side
 
 /// The sweep records the ends of an entity when something begins beyond it. A short line to the right of everything
 /// else makes it do so for every entity of the drawing; the line itself meets nothing and never becomes a piece.
-GeometryEngine::TDXFEntity HelperLine(const Drawing& drawing, double tolerance) {
+GeometryEngine::TDXFEntity HelperLine(const std::vector<PreparedPiece>& prepared, double tolerance) {
   Extents box = EmptyExtents();
-  for (const DrawingEntity& entity : drawing.entities) {
+  for (const PreparedPiece& entity : prepared) {
     const auto& [x, y] = entity.geometry.CentreCoords;
     const double r = entity.geometry.radius;
     Widen(box, Bounds(Travel(entity.geometry, true)));
@@ -36,16 +42,20 @@ GeometryEngine::TDXFEntity HelperLine(const Drawing& drawing, double tolerance) 
   return GeometryEngine::TDXFEntity::Line({box.maxX + gap, box.minY}, {box.maxX + 2 * gap, box.minY});
 }
 
-void FillStorage(TEntityStorage& storage, const Drawing& drawing, double tolerance) {
-  for (const DrawingEntity& entity : drawing.entities) storage.AddEntity(entity.geometry);
-  if (!drawing.entities.empty()) storage.AddEntity(HelperLine(drawing, tolerance));
+void FillStorage(TEntityStorage& storage, const std::vector<PreparedPiece>& prepared, double tolerance) {
+  for (const PreparedPiece& piece : prepared) storage.AddEntity(piece.geometry);
+  if (!prepared.empty()) storage.AddEntity(HelperLine(prepared, tolerance));
 }
 
-void RunDriver(TEntityBaseClass& driver, TEntityStorage& storage) {
+/// What was moved on the way.
+std::vector<Cure> RunDriver(TEntityBaseClass& driver, TEntityStorage& storage, const std::vector<Point>& places,
+                            double tolerance) {
   driver.DetermineInterceptions(&storage);
+  std::vector<Cure> cures = PutVerticesBack(driver.CoordinateTree(), places, tolerance);
   driver.DetermineRegions(driver.CoordinateTree(), kAllClosedLoops);
   driver.IdentifySubRegions(driver.CoordinateTree());
   driver.RemoveDuplicatedSubRegions();
+  return cures;
 }
 
 double SquaredDistance(const Point& a, const Point& b) {
@@ -107,38 +117,99 @@ std::vector<Region> NestedRegions(const TracedLoops& loops, const Nesting& nesti
   return regions;
 }
 
-/// For each piece the entity of the drawing that it was cut from.
-std::vector<std::size_t> FindSources(const TEntityStorage& pieces, const Drawing& drawing, double tolerance) {
-  const SourceLookup lookup(drawing);
+/// For each piece of the library the entity of the drawing that it was cut from.
+std::vector<std::size_t> FindSources(const TEntityStorage& pieces, const std::vector<PreparedPiece>& prepared,
+                                     double tolerance) {
+  std::vector<TravelledPiece> origins;
+  for (const PreparedPiece& piece : prepared) origins.push_back(Travel(piece.geometry, true));
+  const SourceLookup lookup(std::move(origins));
   std::vector<std::size_t> sources;
-  for (const auto& piece : pieces.EntityArray()) sources.push_back(lookup.Find(Travel(piece, true), tolerance));
+  for (const auto& piece : pieces.EntityArray()) {
+    const std::size_t origin = lookup.Find(Travel(piece, true), tolerance);
+    sources.push_back(origin == kNone ? kNone : prepared[origin].source);
+  }
   return sources;
+}
+
+/// One run of the library over the prepared pieces.
+class Run {
+ public:
+  Run(const Drawing& drawing, const Settings& settings, const PreparedDrawing& prepared)
+      : fDrawing(drawing), fSettings(settings), fBack(Turn(prepared.turn).Back()) {
+    FillStorage(fStorage, prepared.pieces, settings.tolerance);
+    fCures = RunDriver(fDriver, fStorage, prepared.places, settings.tolerance);
+    fSources = FindSources(Pieces(), prepared.pieces, settings.tolerance);
+  }
+
+  /// Outlines are of the library's pieces still.
+  Detection Detect(const NamingRequest& naming) {
+    TracedLoops loops = ReadLoops(fDriver);
+    for (TracedLoop& face : loops.faces) SetSources(face.pieces, fSources);
+    for (TracedLoop& boundary : loops.outerBoundaries) SetSources(boundary.pieces, fSources);
+    const Nesting nesting = DetermineNesting(loops.faces, loops.outerBoundaries);
+    Detection detection;
+    detection.diagnostics.cures = fCures;
+    detection.regions = NestedRegions(loops, nesting);
+    for (Region& region : detection.regions) fBack.ApplyToLoops(region);
+    NameRegions(detection.regions, fDrawing, naming, detection.diagnostics.warnings);
+    FillFromGeometryTree(fDriver, loops.faces, detection.regions);
+    for (Region& region : detection.regions) fBack.ApplyToPoints(region);
+    CompareNesting(fDriver.RegionTree(), loops.faces, detection);
+    CheckRegions(detection, fSettings);
+    CheckPieces(fDriver.CoordinateTree(), fDriver.RegionTree(), fSources, detection.diagnostics);
+    for (OpenPiece& open : detection.diagnostics.openPieces) open.piece = fBack(open.piece);
+    for (Cure& cure : detection.diagnostics.cures) cure.place = fBack(cure.place);
+    CountCollapsed(fDrawing, detection.diagnostics);
+    return detection;
+  }
+
+  std::vector<PreparedPiece> PiecesWithout(const std::vector<std::size_t>& dropped) const {
+    std::vector<PreparedPiece> rest;
+    for (std::size_t i = 0; i < fSources.size(); ++i) {
+      const bool isDropped = std::find(dropped.begin(), dropped.end(), i) != dropped.end();
+      if (!isDropped && fSources[i] != kNone) rest.push_back({Pieces().EntityArray()[i], fSources[i]});
+    }
+    return rest;
+  }
+
+ private:
+  const TEntityStorage& Pieces() const { return *fDriver.CoordinateTree().pEntityStorage(); }
+
+  const Drawing& fDrawing;
+  const Settings& fSettings;
+  Turn fBack;  ///< from how the library has the drawing to how it was drawn
+  TEntityStorage fStorage;
+  TEntityBaseClass fDriver;
+  std::vector<Cure> fCures;
+  std::vector<std::size_t> fSources;  ///< of the library's pieces
+};
+
+void Append(std::vector<Cure>& cures, const std::vector<Cure>& more) {
+  cures.insert(cures.end(), more.begin(), more.end());
+}
+
+/// Detects, and as long as slivers are to be dropped and there are some, again without what parts them from neighbours.
+Detection DetectAmong(PreparedDrawing prepared, const Drawing& drawing, const Settings& settings,
+                      const NamingRequest& naming) {
+  for (std::size_t round = 0;; ++round) {
+    Run run(drawing, settings, prepared);
+    Detection detection = run.Detect(naming);
+    std::vector<std::size_t> dropped;
+    if (settings.dropsSlivers && round < kMostRounds) dropped = PiecesRoundSlivers(detection.regions, prepared.cures);
+    if (dropped.empty()) {
+      MergePieces(detection.regions);
+      Append(detection.diagnostics.cures, prepared.cures);
+      return detection;
+    }
+    prepared.pieces = run.PiecesWithout(dropped);
+  }
 }
 
 }  // namespace
 
 Detection DetectRegions(const Drawing& aDrawing, const Settings& aSettings, const NamingRequest& aNaming) {
-  TEntityStorage storage;
-  FillStorage(storage, aDrawing, aSettings.tolerance);
-  TEntityBaseClass driver;
-  RunDriver(driver, storage);
-
-  const TEntityStorage& pieces = *driver.CoordinateTree().pEntityStorage();
-  const std::vector<std::size_t> sources = FindSources(pieces, aDrawing, aSettings.tolerance);
-  TracedLoops loops = ReadLoops(driver);
-  for (TracedLoop& face : loops.faces) SetSources(face.pieces, sources);
-  for (TracedLoop& boundary : loops.outerBoundaries) SetSources(boundary.pieces, sources);
-  const Nesting nesting = DetermineNesting(loops.faces, loops.outerBoundaries);
-
-  Detection detection;
-  detection.regions = NestedRegions(loops, nesting);
-  NameRegions(detection.regions, aDrawing, aNaming, detection.diagnostics.warnings);
-  FillFromGeometryTree(driver, loops.faces, detection.regions);
-  CompareNesting(driver.RegionTree(), loops.faces, detection);
-  CheckRegions(detection, aSettings.tolerance);
-  CheckPieces(driver.CoordinateTree(), driver.RegionTree(), sources, detection.diagnostics);
-  CountCollapsed(aDrawing, detection.diagnostics);
-  return detection;
+  return DetectAmong(aSettings.prepares ? Prepare(aDrawing, aSettings.tolerance) : AsDrawn(aDrawing), aDrawing,
+                     aSettings, aNaming);
 }
 
 }  // namespace xsec

@@ -51,6 +51,7 @@ class Turning {
       Apply(region.label);
     }
     for (OpenPiece& open : detection.diagnostics.openPieces) Apply(open.piece);
+    for (Cure& cure : detection.diagnostics.cures) Apply(cure.place);
   }
 
  private:

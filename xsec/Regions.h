@@ -8,6 +8,7 @@
 
 #include "GeometryEngine/host/TGeometryRegionType.h"
 #include "xsec/TravelledPiece.h"
+#include "xsec/prepare/Cures.h"
 
 namespace xsec {
 
@@ -37,6 +38,7 @@ struct OpenPiece {
   TravelledPiece piece;
   bool fromDangles = false;  ///< nothing else ends where it begins
   bool toDangles = false;
+  bool touches = false;  ///< of a piece that dangles: the way on from its loose end leads to a vertex that others share
 };
 
 /// A point where an answer of the library was put right.
@@ -51,6 +53,7 @@ struct Diagnostics {
   std::vector<std::string> warnings;
   std::vector<Correction> corrections;
   std::vector<OpenPiece> openPieces;
+  std::vector<Cure> cures;    ///< what the preparation did
   std::size_t collapsed = 0;  ///< entities whose ends are the same point under the tolerance
   std::size_t lostSides = 0;  ///< sides of closed pieces that no loop was traced along
 };

@@ -9,12 +9,20 @@
 
 namespace xsec {
 
+/// A place to mark in a picture.
+struct Mark {
+  Point place;
+  std::string colour;  ///< "#rrggbb"
+  std::string text;
+};
+
 /// All that a run knows, as the outputs see it.
 struct Report {
   const Drawing& drawing;
   const Settings& settings;
   const Detection& detection;
   std::size_t copies = 1;  ///< how often the machine holds what is drawn
+  std::vector<Mark> marks{};
 };
 
 /// The net area of all regions together, which no piece of surface enters twice. UNITS: mm2

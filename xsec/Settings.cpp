@@ -77,6 +77,15 @@ double MinimumLabelArea(const Settings& aSettings) {
   return field == aSettings.fields.end() ? 0 : field->value;
 }
 
+void CheckSettings(const SettingsRequest& aRequest) {
+  for (const FieldValue& asked : aRequest.fields) {
+    if (asked.field == kLinearToleranceField && aRequest.tolerance) {
+      throw UsageError(fmt::format("--tol {} and --setting {}={} both set the linear tolerance; give one of them",
+                                   *aRequest.tolerance, asked.field, asked.value));
+    }
+  }
+}
+
 Settings ApplySettings(const SettingsRequest& aRequest, const Extents& aExtents) {
   auto& store = Kelvaralinks::dataStore;
   store.Reset();
@@ -88,7 +97,14 @@ Settings ApplySettings(const SettingsRequest& aRequest, const Extents& aExtents)
     given = given || static_cast<TInputFields>(asked.field) == ifLinearTolerance;
   }
   Kelvaralinks::InputData.MachineType = aRequest.machineType;
-  return {store.GetValue(ifLinearTolerance), given, FieldsInUse(aRequest.fields), aRequest.machineType};
+  const double tolerance = store.GetValue(ifLinearTolerance);
+  return {tolerance,
+          given,
+          FieldsInUse(aRequest.fields),
+          aRequest.machineType,
+          aRequest.prepares,
+          aRequest.sliverArea.value_or(tolerance * tolerance),
+          aRequest.dropsSlivers};
 }
 
 }  // namespace xsec

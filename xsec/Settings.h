@@ -18,11 +18,17 @@ struct FieldValue {
   double value = 0;
 };
 
+/// The field that holds the linear tolerance.
+inline constexpr std::uint16_t kLinearToleranceField = 6525;
+
 /// What the command line asks for.
 struct SettingsRequest {
   std::optional<double> tolerance;  ///< UNITS: millimetres
   std::vector<FieldValue> fields;   ///< in the order given; the last one of a field counts
   std::uint8_t machineType = 0;
+  bool prepares = true;                ///< the drawing is put so that its regions do not depend on how it lies
+  std::optional<double> sliverArea{};  ///< UNITS: mm2
+  bool dropsSlivers = false;
 };
 
 /// What a run uses.
@@ -31,6 +37,9 @@ struct Settings {
   bool toleranceGiven = false;     ///< false: it was taken from the size of the drawing
   std::vector<FieldValue> fields;  ///< every field that the library reads and every one that was asked for, ascending
   std::uint8_t machineType = 0;
+  bool prepares = true;
+  double sliverArea = 0;  ///< UNITS: mm2; regions below it are slivers. A square of the tolerance unless it is given
+  bool dropsSlivers = false;
 };
 
 /// The linear tolerance for a drawing of this size: a millionth of its diagonal.
@@ -42,6 +51,9 @@ double MinimumLabelArea(const Settings& aSettings);
 
 /// FIELD=VALUE as the command line spells it. Throws UsageError for anything else.
 FieldValue ParseFieldValue(std::string_view aText);
+
+/// Throws UsageError when the tolerance is given twice: neither may silently win.
+void CheckSettings(const SettingsRequest& aRequest);
 
 /// Puts the host's store and input-data record to their starting values, the arc resolution finer than that, then sets
 /// what the request says.

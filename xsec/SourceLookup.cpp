@@ -21,11 +21,8 @@ std::size_t Cell(double value, double min, double max, std::size_t side) {
 
 }  // namespace
 
-SourceLookup::SourceLookup(const Drawing& aDrawing) : fBox(EmptyExtents()) {
-  for (const DrawingEntity& entity : aDrawing.entities) {
-    fSources.push_back(Travel(entity.geometry, true));
-    Widen(fBox, Bounds(fSources.back()));
-  }
+SourceLookup::SourceLookup(std::vector<TravelledPiece> aSources) : fSources(std::move(aSources)), fBox(EmptyExtents()) {
+  for (const TravelledPiece& source : fSources) Widen(fBox, Bounds(source));
   fSide = static_cast<std::size_t>(std::ceil(std::sqrt(static_cast<double>(fSources.size() + 1))));
   fCells.resize(fSide * fSide);
   for (std::size_t source = 0; source < fSources.size(); ++source) {

@@ -6,16 +6,15 @@
 #include <cstddef>
 #include <vector>
 
-#include "xsec/Drawing.h"
 #include "xsec/TravelledPiece.h"
 
 namespace xsec {
 
 class SourceLookup {
  public:
-  explicit SourceLookup(const Drawing& aDrawing);
+  explicit SourceLookup(std::vector<TravelledPiece> aSources);
 
-  /// The entity of the piece's kind that passes closest to its middle, of several equally close the first; kNone when
+  /// The source of the piece's kind that passes closest to its middle, of several equally close the first; kNone when
   /// none comes near.
   std::size_t Find(const TravelledPiece& aPiece, double aTolerance) const;
 

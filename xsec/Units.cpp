@@ -97,4 +97,13 @@ std::string WarnOfAssumedUnit(const Extents& aExtents) {
       size, other);
 }
 
+std::string WarnOfUnlikelyUnit(const Drawing& aDrawing) {
+  const Extents& box = aDrawing.extents;
+  const double size = std::max(box.maxX - box.minX, box.maxY - box.minY);
+  const bool isLikely = kSmallestMachine <= size && size <= kLargestMachine;
+  if (isLikely || aDrawing.entities.empty() || aDrawing.units.source == "assumed") return "";
+  return fmt::format("drawn in {} ({}) the drawing is {:.4g} mm across", aDrawing.units.name, aDrawing.units.source,
+                     size);
+}
+
 }  // namespace xsec

@@ -21,4 +21,7 @@ std::string UnitNames();
 /// Warning when a drawing whose unit had to be assumed is of a size that another unit explains better; else empty.
 std::string WarnOfAssumedUnit(const Extents& aExtents);
 
+/// The same for a drawing that names its unit, when it comes out too small or too large for a machine; else empty.
+std::string WarnOfUnlikelyUnit(const Drawing& aDrawing);
+
 }  // namespace xsec

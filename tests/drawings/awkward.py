@@ -102,15 +102,15 @@ def places(number):
                SMALLEST + (LARGEST - SMALLEST) * place / (SIDE * SIDE - 1))
 
 
-def awkward(turn):
+def drawing(turn):
     """The drawing of all figures, turned about the origin by an angle in degrees."""
-    drawing = Drawing(f"Awkward figures, turned by {turn} degrees, millimetres",
-                      {kind[0]: number + 1 for number, kind in enumerate(KINDS)})
-    out = Turned(drawing, turn)
+    whole = Drawing(f"Awkward figures, turned by {turn} degrees, millimetres",
+                    {kind[0]: number + 1 for number, kind in enumerate(KINDS)})
+    out = Turned(whole, turn)
     for number, (name, figure, _, _) in enumerate(KINDS):
         for x, y, size in places(number):
             figure(At(out, name, x, y), size)
-    return drawing
+    return whole
 
 
 def expected():

@@ -2,11 +2,11 @@
 """Runs xsec on a drawing and holds the regions it finds against those that are known beforehand.
 
 usage: expect_regions.py sample XSEC SAMPLES-FOLDER NAME.dxf FOLDER
-       expect_regions.py awkward XSEC TURN FOLDER
+       expect_regions.py awkward|limits XSEC TURN FOLDER
 
 `sample`: each kind of region of samples/expected.json occurs as often as it says, with that net area, within a region of
-the kind that it says, and nothing else occurs. `awkward`: the figures of awkward.py, turned by TURN degrees; each must
-give its number of faces and its area. FOLDER takes what is written on the way.
+the kind that it says, and nothing else occurs. `awkward`, `limits`: the figures of awkward.py and limits.py, turned by
+TURN degrees; each must give its number of faces and its area. FOLDER takes what is written on the way.
 """
 
 import collections
@@ -17,6 +17,7 @@ import subprocess
 import sys
 
 import awkward
+import limits
 
 AREA_ERROR = 1e-9  # of the size of the area, and as many mm2
 
@@ -44,14 +45,15 @@ def kind_of(region, kinds):
     return found[0]["kind"] if len(found) == 1 else None
 
 
-def sample_faults(regions, expected):
+def sample_faults(regions, expected, quiet=False):
     kinds = expected["kinds"]
     named = {region["id"]: kind_of(region, kinds) for region in regions}
     faults = [f"region {region['uniqueName']} of {region['netArea']} mm2 is of no kind that belongs here"
               for region in regions if named[region["id"]] is None]
     counts = collections.Counter(named.values())
     for kind in kinds:
-        print(f"{kind['kind']}: {counts[kind['kind']]} of {kind['net_area']} mm2")
+        if not quiet:
+            print(f"{kind['kind']}: {counts[kind['kind']]} of {kind['net_area']} mm2")
         if counts[kind["kind"]] != kind["count"]:
             faults.append(f"{counts[kind['kind']]} regions of the kind {kind['kind']}, expected {kind['count']}")
     inside = {kind["kind"]: kind["inside"] for kind in kinds}
@@ -71,7 +73,7 @@ def check_sample(xsec, samples, name, folder):
     return sample_faults(found["regions"], expected)
 
 
-# --- awkward figures ------------------------------------------------------------------------------------------------
+# --- figures ------------------------------------------------------------------------------------------------------
 
 def figure_at(figures, width, turn, label):
     """The figure whose field on the grid holds a label point of the turned drawing."""
@@ -82,13 +84,23 @@ def figure_at(figures, width, turn, label):
 
 
 def check_awkward(xsec, turn, folder):
-    folder, turn = pathlib.Path(folder), int(turn)
-    drawing = folder / f"awkward_{turn}.dxf"
-    folder.mkdir(parents=True, exist_ok=True)
-    drawing.write_text(awkward.awkward(turn).text(), encoding="ascii", newline="\n")
-    expected = awkward.expected()
-    found = run_xsec(xsec, drawing, folder, "--tol", str(expected["tolerance"]))
+    return check_figures(awkward, xsec, int(turn), pathlib.Path(folder))
 
+
+def check_limits(xsec, turn, folder):
+    return check_figures(limits, xsec, int(turn), pathlib.Path(folder))
+
+
+def check_figures(module, xsec, turn, folder, *options, quiet=False):
+    drawing = folder / f"{module.__name__}_{turn}.dxf"
+    folder.mkdir(parents=True, exist_ok=True)
+    drawing.write_text(module.drawing(turn).text(), encoding="ascii", newline="\n")
+    expected = module.expected()
+    found = run_xsec(xsec, drawing, folder, "--tol", str(expected["tolerance"]), *options)
+    return figure_faults(found, expected, turn, quiet)
+
+
+def figure_faults(found, expected, turn, quiet):
     faces, areas, faults = collections.Counter(), collections.Counter(), []
     for region in found["regions"]:
         figure = figure_at(expected["figures"], expected["width"], turn, region["label"])
@@ -107,13 +119,13 @@ def check_awkward(xsec, turn, folder):
             faults.append(f"{place}: {faces[place]} faces, expected {figure['faces']}")
         elif not same(areas[place], figure["area"], figure["area_error"]):
             faults.append(f"{place}: {areas[place]} mm2, expected {figure['area']}")
-    for kind, wanted in wanted_of.items():
+    for kind, wanted in wanted_of.items() if not quiet else []:
         print(f"{kind}: {found_of[kind]} faces of {wanted}")
     return faults
 
 
 def main():
-    checks = {"sample": (check_sample, 6), "awkward": (check_awkward, 5)}
+    checks = {"sample": (check_sample, 6), "awkward": (check_awkward, 5), "limits": (check_limits, 5)}
     check, arguments = checks.get(sys.argv[1] if len(sys.argv) > 1 else "", (None, 0))
     if len(sys.argv) != arguments:
         sys.exit(__doc__)

@@ -19,6 +19,13 @@ using ::testing::SizeIs;
 
 constexpr double kTolerance = 1e-6;
 
+Settings SettingsAt(double tolerance) {
+  Settings settings;
+  settings.tolerance = tolerance;
+  settings.sliverArea = tolerance * tolerance;
+  return settings;
+}
+
 /// A plate with a square in it, the plate first, as a detection gives them.
 Detection PlateAndSquare() {
   Detection detection = Detect(Rectangle(0, 0, 10, 10) + Rectangle(2, 2, 4, 4));
@@ -30,7 +37,7 @@ Detection PlateAndSquare() {
 TEST(CheckRegions, MovesALabelThatLiesOutsideItsRegionAndSaysSo) {
   Detection detection = PlateAndSquare();
   detection.regions[0].label = {50, 50};
-  CheckRegions(detection, kTolerance);
+  CheckRegions(detection, SettingsAt(kTolerance));
   ASSERT_THAT(detection.diagnostics.corrections, SizeIs(1));
   EXPECT_EQ(detection.diagnostics.corrections[0].kind, Correction::Kind::Label);
   EXPECT_EQ(detection.diagnostics.corrections[0].region, 0U);
@@ -44,7 +51,7 @@ TEST(CheckRegions, MovesALabelThatLiesOutsideItsRegionAndSaysSo) {
 TEST(CheckRegions, MovesALabelThatLiesInAChild) {
   Detection detection = PlateAndSquare();
   detection.regions[0].label = {3, 3};
-  CheckRegions(detection, kTolerance);
+  CheckRegions(detection, SettingsAt(kTolerance));
   ASSERT_THAT(detection.diagnostics.corrections, SizeIs(1));
   EXPECT_FALSE(IsInside(detection.regions[1].outline, detection.regions[0].label));
 }
@@ -52,7 +59,7 @@ TEST(CheckRegions, MovesALabelThatLiesInAChild) {
 TEST(CheckRegions, MovesALabelThatHugsTheBoundary) {
   Detection detection = PlateAndSquare();
   detection.regions[0].label = {1e-5, 5};
-  CheckRegions(detection, kTolerance);
+  CheckRegions(detection, SettingsAt(kTolerance));
   ASSERT_THAT(detection.diagnostics.corrections, SizeIs(1));
   EXPECT_THAT(detection.diagnostics.corrections[0].text, HasSubstr("close to its boundary"));
   EXPECT_GT(detection.regions[0].clearance, 1);
@@ -61,7 +68,7 @@ TEST(CheckRegions, MovesALabelThatHugsTheBoundary) {
 TEST(CheckRegions, LeavesAGoodLabelWhereItIs) {
   Detection detection = PlateAndSquare();
   detection.regions[0].label = {7, 8};
-  CheckRegions(detection, kTolerance);
+  CheckRegions(detection, SettingsAt(kTolerance));
   EXPECT_THAT(detection.diagnostics.corrections, IsEmpty());
   EXPECT_THAT(detection.regions[0].label, GeometryEngine::support::IsBits(7, 8));
   EXPECT_NEAR(detection.regions[0].clearance, 2, 1e-12);
@@ -70,20 +77,20 @@ TEST(CheckRegions, LeavesAGoodLabelWhereItIs) {
 TEST(CheckRegions, WarnsOfANetAreaThatTheHolesContradict) {
   Detection detection = PlateAndSquare();
   detection.regions[0].netArea += 1e-3;
-  CheckRegions(detection, kTolerance);
+  CheckRegions(detection, SettingsAt(kTolerance));
   EXPECT_THAT(detection.diagnostics.warnings, ElementsAre(HasSubstr("region 1 is 96.001 mm2 without its children")));
 }
 
 TEST(CheckRegions, WarnsOfAnOutlineThatHoldsAnotherAreaThanWasMeasured) {
   Detection detection = PlateAndSquare();
   detection.regions[1].baseArea = detection.regions[1].netArea = 4.01;
-  CheckRegions(detection, kTolerance);
+  CheckRegions(detection, SettingsAt(kTolerance));
   EXPECT_THAT(detection.diagnostics.warnings, ElementsAre(HasSubstr("the outline of region 2 holds 4 mm2")));
 }
 
 TEST(CheckRegions, MarksSlivers) {
   Detection detection = PlateAndSquare();
-  CheckRegions(detection, 3);
+  CheckRegions(detection, SettingsAt(3));
   EXPECT_FALSE(detection.regions[0].sliver);
   EXPECT_TRUE(detection.regions[1].sliver);
 }

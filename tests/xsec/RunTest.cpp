@@ -181,6 +181,62 @@ TEST_F(Xsec, FullStandardOutputIsAnOutputNotWritten) {
   EXPECT_EQ(WEXITSTATUS(status), 4);
 }
 
+TEST_F(Xsec, CheckNamesTheGapItsPlaceAndTheToleranceThatClosesIt) {
+  const std::string drawing =
+      Drawing(DxfOf(Line(0, 0, 100, 0) + Line(100, 0, 100, 50) + Line(100, 50, 0, 50) + Line(0, 50, 0, 0.003)));
+  EXPECT_EQ(RunXsec("check " + drawing), 1) << fStderr;
+  EXPECT_THAT(fStdout, HasSubstr("open ends: 2\n"));
+  EXPECT_THAT(fStdout,
+              HasSubstr("(0, 0.003), LINE on layer \"Plate\", line 52 of the file; its chain touches nothing"));
+  EXPECT_THAT(fStdout, HasSubstr("(0, 0.003) to the end (0, 0), gap 0.003 mm, meet at a tolerance above 0.003 mm"));
+  EXPECT_THAT(fStdout, HasSubstr("--tol 0.003003 closes 5000 mm2"));
+  EXPECT_EQ(RunXsec("check " + drawing + " --tol 0.003003"), 0) << fStdout;
+  EXPECT_THAT(fStdout, HasSubstr("nothing found"));
+}
+
+TEST_F(Xsec, CheckAsJsonHoldsWhatTheTextSays) {
+  const std::string drawing = Drawing(DxfOf(Square(0, 0, 10) + Line(2, 0, 5, 0) + Line(4, 4, 4, 6)));
+  EXPECT_EQ(RunXsec("check --json " + drawing + " -o " + Out("a.svg")), 1) << fStderr;
+  const auto json = nlohmann::json::parse(fStdout);
+  EXPECT_TRUE(json["findings"]);
+  EXPECT_EQ(json["openEnds"].size(), 2U);
+  EXPECT_FALSE(json["openEnds"][0]["touches"]);
+  EXPECT_EQ(json["faults"][0]["kind"], "overlap");
+  EXPECT_EQ(json["faults"][0]["amount"], 3);
+  EXPECT_GE(json["ladder"].size(), 4U);
+  EXPECT_THAT(ReadFile(Out("a.svg")), HasSubstr("<g id=\"marks\""));
+}
+
+TEST_F(Xsec, CheckOfAWholeDrawingFindsNothing) {
+  EXPECT_EQ(RunXsec("check " + Drawing(DxfOf(Square(0, 0, 10) + Square(2, 2, 3)))), 0) << fStdout;
+  EXPECT_THAT(fStdout, HasSubstr("nothing found"));
+}
+
+TEST_F(Xsec, InfoCountsByTypeLayerAndBlock) {
+  EXPECT_EQ(RunXsec("info " + Drawing(DxfOf(Square(0, 0, 10) + "0\nTEXT\n8\nNotes\n"))), 0) << fStderr;
+  EXPECT_THAT(fStdout, HasSubstr("unit: mm, 1 mm (file)"));
+  EXPECT_THAT(fStdout, HasSubstr("x 0 to 10, y 0 to 10; 10 x 10 mm"));
+  EXPECT_THAT(fStdout, HasSubstr("  Plate                           4"));
+  EXPECT_THAT(fStdout, HasSubstr("skipped: 1 TEXT on layer \"Notes\": this type is not read"));
+}
+
+TEST_F(Xsec, ToleranceGivenTwiceIsWrongUsage) {
+  EXPECT_EQ(RunXsec("regions missing.dxf --tol 0.1 --setting 6525=0.2"), 2);
+  EXPECT_THAT(fStderr, HasSubstr("--tol 0.1 and --setting 6525=0.2 both set the linear tolerance"));
+}
+
+TEST_F(Xsec, SliverIsReportedAndOnRequestDropped) {
+  const std::string drawing = Drawing(DxfOf(Square(0, 0, 10) + Line(0, 5, 10, 5) + Line(0, 5.002, 10, 5.002)));
+  EXPECT_EQ(RunXsec("regions " + drawing + " --sliver-area 0.1 -o " + Out("a.json")), 0);
+  EXPECT_THAT(fStderr, HasSubstr("slivers"));
+  EXPECT_EQ(nlohmann::json::parse(ReadFile(Out("a.json")))["regions"].size(), 3U);
+  EXPECT_EQ(RunXsec("regions " + drawing + " --sliver-area 0.1 --drop-slivers -o " + Out("a.json")), 0);
+  const auto json = nlohmann::json::parse(ReadFile(Out("a.json")));
+  EXPECT_EQ(json["regions"].size(), 2U);
+  EXPECT_NEAR(json["totalArea"].get<double>(), 100, 1e-9);
+  EXPECT_EQ(json["diagnostics"]["cures"][0]["kind"], "sliver");
+}
+
 TEST_F(Xsec, HelpAndVersionGoToStandardOutput) {
   EXPECT_EQ(RunXsec("--help"), 0);
   EXPECT_THAT(fStdout, HasSubstr("Examples:"));

@@ -1,8 +1,10 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <map>
 
 #include "xsec/Report.h"
+#include "xsec/SourceText.h"
 
 namespace xsec {
 
@@ -52,9 +54,7 @@ std::string Place(const OpenPiece& open, const Drawing& drawing) {
   std::string place =
       fmt::format("{} to {}", end(open.piece.from, open.fromDangles), end(open.piece.to, open.toDangles));
   if (open.piece.source == kNone) return place;
-  const DrawingEntity& source = drawing.entities[open.piece.source];
-  place += fmt::format(", {} on layer \"{}\"", source.type, source.layer);
-  return source.line == 0 ? place : place + fmt::format(", line {} of the file", source.line);
+  return place + ", " + SourceText(drawing.entities[open.piece.source]);
 }
 
 void AddOpenPieces(const Report& report, Lines& lines) {
@@ -63,6 +63,14 @@ void AddOpenPieces(const Report& report, Lines& lines) {
   lines.Add("warning: pieces that bound no region: {}, loose ends among them: {}", open.size(),
             CountLooseEnds(report.detection));
   lines.AddFirst(open.size(), [&](std::size_t i) { return Place(open[i], report.drawing); });
+}
+
+void AddCures(const Report& report, Lines& lines) {
+  std::map<CureKind, std::vector<const Cure*>> kinds;
+  for (const Cure& cure : report.detection.diagnostics.cures) kinds[cure.kind].push_back(&cure);
+  for (const auto& [kind, cures] : kinds) {
+    lines.Add("prepared {} {}, first at {}", cures.size(), CureText(kind), CurePlace(*cures.front(), report.drawing));
+  }
 }
 
 void AddCorrections(const Diagnostics& diagnostics, Lines& lines) {
@@ -92,6 +100,7 @@ std::vector<std::string> DiagnosticLines(const Report& aReport) {
   AddReading(aReport.drawing, lines);
   for (const std::string& warning : aReport.drawing.warnings) lines.Add("warning: {}", warning);
   for (const std::string& warning : aReport.detection.diagnostics.warnings) lines.Add("warning: {}", warning);
+  AddCures(aReport, lines);
   AddCorrections(aReport.detection.diagnostics, lines);
   AddDegenerate(aReport.detection, lines);
   AddOpenPieces(aReport, lines);

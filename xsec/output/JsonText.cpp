@@ -124,17 +124,20 @@ Json OfSettings(const Settings& settings) {
   return json;
 }
 
+Json OfSource(const DrawingEntity& source) {
+  return {{"type", source.type},
+          {"layer", source.layer},
+          {"block", source.block},
+          {"handle", source.handle},
+          {"line", source.line}};
+}
+
 Json OfOpenPiece(const OpenPiece& open, const Drawing& drawing) {
   Json json = OfPiece(open.piece, drawing);
   json["startLoose"] = open.fromDangles;
   json["endLoose"] = open.toDangles;
   if (open.piece.source == kNone) return json;
-  const DrawingEntity& source = drawing.entities[open.piece.source];
-  json["source"] = {{"type", source.type},
-                    {"layer", source.layer},
-                    {"block", source.block},
-                    {"handle", source.handle},
-                    {"line", source.line}};
+  json["source"] = OfSource(drawing.entities[open.piece.source]);
   return json;
 }
 
@@ -146,6 +149,18 @@ Json OfSkipped(const Drawing& drawing) {
   return json;
 }
 
+Json OfCure(const Cure& cure, const Drawing& drawing) {
+  Json json;
+  json["kind"] = CureName(cure.kind);
+  json["at"] = OfPoint(cure.place);
+  json["amount"] = cure.amount;
+  json["entities"] = Json::array();
+  for (const std::size_t entity : {cure.entity, cure.other}) {
+    if (entity != kNone) json["entities"].push_back(OfSource(drawing.entities[entity]));
+  }
+  return json;
+}
+
 Json OfDiagnostics(const Report& report) {
   const Diagnostics& diagnostics = report.detection.diagnostics;
   Json json;
@@ -153,6 +168,8 @@ Json OfDiagnostics(const Report& report) {
   for (const std::string& warning : diagnostics.warnings) json["warnings"].push_back(warning);
   json["skipped"] = OfSkipped(report.drawing);
   json["flattened"] = report.drawing.flattened;
+  json["cures"] = Json::array();
+  for (const Cure& cure : diagnostics.cures) json["cures"].push_back(OfCure(cure, report.drawing));
   json["corrections"] = Json::array();
   for (const Correction& correction : diagnostics.corrections) {
     json["corrections"].push_back({{"kind", correction.kind == Correction::Kind::Label ? "label" : "nesting"},

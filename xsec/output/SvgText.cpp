@@ -79,6 +79,7 @@ class SvgPicture {
     Regions();
     Labels();
     OpenPieces();
+    Marks();
     Legend();
     return fText + "</svg>\n";
   }
@@ -193,6 +194,16 @@ class SvgPicture {
       Add("\"/>\n");
       if (one.fromDangles) AddMark(one.piece.from);
       if (one.toDangles) AddMark(one.piece.to);
+    }
+    Add("</g>\n");
+  }
+
+  void Marks() {
+    if (fReport.marks.empty()) return;
+    Add("<g id=\"marks\" fill=\"none\" stroke-width=\"{:.6g}\">\n", kOpenWidth * fUnit);
+    for (const Mark& mark : fReport.marks) {
+      Add("<circle cx=\"{:.10g}\" cy=\"{:.10g}\" r=\"{:.6g}\" stroke=\"{}\"><title>{}</title></circle>\n", mark.place.x,
+          -mark.place.y, 2 * kOpenMark * fUnit, mark.colour, Escaped(mark.text));
     }
     Add("</g>\n");
   }

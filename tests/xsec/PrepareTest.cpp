@@ -1,0 +1,98 @@
+// Drawings as the library would take them otherwise in another direction, and what the preparation makes of them.
+#include "xsec/prepare/Prepare.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include <gmock/gmock.h>
+
+#include "tests/support/Settings.h"
+#include "tests/xsec/Drawings.h"
+#include "xsec/RegionDetection.h"
+
+namespace xsec {
+namespace {
+
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+PreparedDrawing Prepared(const Drawing& drawing, double tolerance = 1e-3) {
+  const GeometryEngine::support::TSettingsGuard guard;
+  SettingsRequest request;
+  request.tolerance = tolerance;
+  return Prepare(drawing, ApplySettings(request, drawing.extents).tolerance);
+}
+
+Detection DetectAt(const Drawing& drawing, bool prepares, double tolerance = 1e-3) {
+  const GeometryEngine::support::TSettingsGuard guard;
+  SettingsRequest request;
+  request.tolerance = tolerance;
+  request.prepares = prepares;
+  return DetectRegions(drawing, ApplySettings(request, drawing.extents));
+}
+
+std::size_t Count(const std::vector<Cure>& cures, CureKind kind) {
+  return static_cast<std::size_t>(
+      std::count_if(cures.begin(), cures.end(), [&](const Cure& cure) { return cure.kind == kind; }));
+}
+
+TEST(Prepare, LeavesADrawingWithoutDifficultiesAlone) {
+  const Drawing drawing = DrawingOf(Rectangle(0, 0, 9, 9) + "L 3,0 3,9; " + Circle(6, 4, 1));
+  const PreparedDrawing prepared = Prepared(drawing);
+  EXPECT_THAT(prepared.cures, IsEmpty());
+  EXPECT_THAT(prepared.pieces, SizeIs(drawing.entities.size()));
+}
+
+TEST(Prepare, CirclesWithCentresAtOneHeightAreCutWhereTheyCross) {
+  const Drawing drawing = DrawingOf(Circle(0, 0, 4) + Circle(5, 0, 3));
+  EXPECT_THAT(DetectAt(drawing, false).regions, SizeIs(2));
+  const Detection detection = DetectAt(drawing, true);
+  EXPECT_THAT(detection.regions, SizeIs(3));
+  EXPECT_GE(Count(detection.diagnostics.cures, CureKind::OneHeight), 1U);
+  for (const TravelledPiece& piece : detection.regions[0].outline) EXPECT_NE(piece.source, kNone);
+}
+
+TEST(Prepare, ArcsOfOneCircleGetOneCentreAndRadius) {
+  const Drawing drawing = DrawingOf(
+      "A c 0,0 r 5 -10..90; A c 0,0 r 5 90..190; "
+      "A c 0.0002,0.0001 r 5.0001 170..270; A c 0.0002,0.0001 r 5.0001 270..370");
+  EXPECT_THAT(DetectAt(drawing, false).regions, IsEmpty());
+  const Detection detection = DetectAt(drawing, true);
+  ASSERT_THAT(detection.regions, SizeIs(1));
+  EXPECT_NEAR(detection.regions[0].netArea, 25 * std::numbers::pi, 0.01);
+  EXPECT_EQ(Count(detection.diagnostics.cures, CureKind::OneCircle), 2U);
+}
+
+TEST(Prepare, LinesThatLieOnEachOtherAreCutAtEachOthersEndsAndKeptOnce) {
+  const PreparedDrawing prepared = Prepared(DrawingOf("L 0,0 10,0.0003; L 4,0 6,0.0002"));
+  EXPECT_EQ(Count(prepared.cures, CureKind::Overlap), 1U);
+  EXPECT_EQ(Count(prepared.cures, CureKind::Duplicate), 1U);
+  EXPECT_THAT(prepared.pieces, SizeIs(3));
+}
+
+TEST(Prepare, CircleThatTouchesAnotherFromInsideIsARegionInEveryDirection) {
+  for (int k = 0; k < 120; ++k) {
+    const double angle = 3 * k * std::numbers::pi / 180;
+    const Drawing drawing = DrawingOf(Circle(0, 0, 5) + Circle(2 * std::cos(angle), 2 * std::sin(angle), 3));
+    EXPECT_THAT(DetectAt(drawing, true).regions, SizeIs(2)) << 3 * k << " degrees";
+  }
+}
+
+TEST(Prepare, OutlinesReadAsDrawn) {
+  const Detection detection = DetectAt(DrawingOf(Rectangle(0, 0, 8, 4) + "L 3,0 3,4; L 5,0 5,4"), true);
+  ASSERT_THAT(detection.regions, SizeIs(3));
+  for (const Region& region : detection.regions) EXPECT_THAT(region.outline, SizeIs(4));
+}
+
+TEST(Prepare, CountOfPiecesGrowsWithTheDrawingAndNoFaster) {
+  std::string grid;
+  for (int i = 0; i <= 20; ++i) {
+    const std::string at = std::to_string(i);
+    grid += "L " + at + ",0 " + at + ",20; L 0," + at + " 20," + at + "; ";
+  }
+  EXPECT_THAT(Prepared(DrawingOf(grid)).pieces, SizeIs(42));
+}
+
+}  // namespace
+}  // namespace xsec

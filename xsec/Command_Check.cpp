@@ -1,0 +1,69 @@
+#include <CLI/CLI.hpp>
+#include <memory>
+
+#include "xsec/Commands.h"
+#include "xsec/DrawingOptions.h"
+#include "xsec/RegionDetection.h"
+#include "xsec/Report.h"
+#include "xsec/Terminal.h"
+#include "xsec/check/CheckText.h"
+#include "xsec/check/Findings.h"
+#include "xsec/output/OutputFiles.h"
+
+namespace xsec {
+
+namespace {
+
+constexpr const char* kExamples =
+    "Examples:\n"
+    "  xsec check stator.dxf                 open ends, near misses, doubles, slivers, and a ladder of tolerances\n"
+    "  xsec check stator.dxf -o faults.svg   and a picture with a mark at each\n"
+    "  xsec check stator.dxf --json          the same for the next program\n"
+    "  xsec check stator.dxf --tol 0.004     what is left at a tolerance that the ladder shows\n"
+    "\n"
+    "Exit codes: 0 nothing found, 1 findings, 2 wrong usage, 3 drawing unreadable, 4 output not written.";
+
+struct CheckOptions {
+  DrawingOptions drawing;
+  std::vector<Output> outputs;
+  bool asJson = false;
+};
+
+ExitCode RunCheck(const CheckOptions& options) {
+  CheckOutputs(options.outputs);
+  const Progress progress;
+  progress.Show("reading " + options.drawing.path);
+  const Drawing drawing = LoadDrawing(options.drawing);
+  const Settings settings = ApplySettings(options.drawing.settings, drawing.extents);
+  progress.Show("finding regions");
+  const Detection detection = DetectRegions(drawing, settings);
+  Findings findings = FindFaults(drawing, settings, detection);
+  progress.Show("trying other tolerances");
+  ClimbLadder(drawing, options.drawing.settings, detection, findings);
+  Report report{drawing, settings, detection};
+  report.marks = MarksOf(report, findings);
+  WriteOutputs(options.outputs, report);
+  progress.Clear();
+  for (const Output& output : options.outputs) Tell("wrote " + output.path);
+  PrintToStandardOutput(options.asJson ? CheckJson(report, findings) : CheckText(report, findings));
+  return findings.AreNone() ? ExitCode::Fine : ExitCode::Findings;
+}
+
+}  // namespace
+
+void AddCheckCommand(CLI::App& aApp, Action& aAction) {
+  const auto options = std::make_shared<CheckOptions>();
+  CLI::App& command = *aApp.add_subcommand("check", "Say what is open, doubled or close to it, where, and what helps");
+  AddDrawingOptions(command, options->drawing);
+  command.add_flag("--json", options->asJson, "Print everything as JSON");
+  command
+      .add_option_function<std::vector<std::string>>(
+          "-o,--output", [options](const std::vector<std::string>& paths) { options->outputs = FindOutputs(paths); },
+          "Write the regions to a file as well; a .svg has a mark at every finding. May be repeated")
+      ->type_name("FILE")
+      ->allow_extra_args(false);
+  command.footer(kExamples);
+  command.callback([&aAction, options] { aAction = [options] { return RunCheck(*options); }; });
+}
+
+}  // namespace xsec

@@ -1,0 +1,79 @@
+#include <fmt/format.h>
+
+#include <CLI/CLI.hpp>
+#include <functional>
+#include <iterator>
+#include <map>
+#include <memory>
+
+#include "xsec/Commands.h"
+#include "xsec/DrawingOptions.h"
+#include "xsec/Report.h"
+#include "xsec/Settings.h"
+#include "xsec/Terminal.h"
+
+namespace xsec {
+
+namespace {
+
+constexpr const char* kExamples =
+    "Examples:\n"
+    "  xsec info stator.dxf              unit, extents, what it holds, and what would be skipped\n"
+    "  xsec info pole.dxf --units m      the same when it is drawn in metres\n"
+    "\n"
+    "Exit codes: 0 fine, 2 wrong usage, 3 drawing unreadable.";
+
+using Key = std::function<std::string(const DrawingEntity&)>;
+
+/// One entity of the file may stand for several lines and arcs, which share its line in the file.
+void AddCounts(const Drawing& drawing, std::string_view title, const Key& key, std::string& text) {
+  std::map<std::string, std::size_t> counts;
+  for (const DrawingEntity& entity : drawing.entities) ++counts[key(entity)];
+  text += fmt::format("{}\n", title);
+  for (const auto& [name, count] : counts) text += fmt::format("  {:<24} {:>8}\n", name, count);
+}
+
+std::string InfoText(const Drawing& drawing, const Settings& settings) {
+  const Extents& box = drawing.extents;
+  std::string text = fmt::format("{}\nunit: {}, {} mm ({})\n", drawing.path, drawing.units.name,
+                                 Plain(drawing.units.millimetres, 6), drawing.units.source);
+  text +=
+      fmt::format("extents: x {} to {}, y {} to {}; {} x {} mm\n", Plain(box.minX, 9), Plain(box.maxX, 9),
+                  Plain(box.minY, 9), Plain(box.maxY, 9), Plain(box.maxX - box.minX, 9), Plain(box.maxY - box.minY, 9));
+  text += fmt::format("tolerance: {} mm{}\n", Plain(settings.tolerance, 6),
+                      settings.toleranceGiven ? "" : ", a millionth of the diagonal");
+  text += fmt::format("lines and arcs, blocks placed: {}\n", drawing.entities.size());
+  AddCounts(
+      drawing, "by type in the file:", [](const DrawingEntity& e) { return e.type; }, text);
+  AddCounts(
+      drawing, "by layer:", [](const DrawingEntity& e) { return e.layer; }, text);
+  AddCounts(
+      drawing, "by block:", [](const DrawingEntity& e) { return e.block.empty() ? "(none)" : e.block; }, text);
+  for (const auto& [type, count] : drawing.flattened) {
+    text += fmt::format("turned into lines and arcs: {} {}\n", count, type);
+  }
+  for (const auto& [kind, count] : drawing.skipped) {
+    text += fmt::format("skipped: {} {} on layer \"{}\": {}\n", count, kind.type, kind.layer, kind.reason);
+  }
+  for (const std::string& warning : drawing.warnings) text += fmt::format("warning: {}\n", warning);
+  return text;
+}
+
+}  // namespace
+
+void AddInfoCommand(CLI::App& aApp, Action& aAction) {
+  const auto options = std::make_shared<DrawingOptions>();
+  CLI::App& command =
+      *aApp.add_subcommand("info", "Say what a drawing holds, in which unit, and what would be skipped");
+  AddDrawingOptions(command, *options);
+  command.footer(kExamples);
+  command.callback([&aAction, options] {
+    aAction = [options] {
+      const Drawing drawing = LoadDrawing(*options);
+      PrintToStandardOutput(InfoText(drawing, ApplySettings(options->settings, drawing.extents)));
+      return ExitCode::Fine;
+    };
+  });
+}
+
+}  // namespace xsec

@@ -1,0 +1,14 @@
+#pragma once
+
+// How messages name an entity of the drawing.
+
+#include <string>
+
+#include "xsec/Drawing.h"
+
+namespace xsec {
+
+/// Type, layer and, as far as they are known, handle and line: LINE on layer "Slot", handle 2F, line 812 of the file.
+std::string SourceText(const DrawingEntity& aEntity);
+
+}  // namespace xsec

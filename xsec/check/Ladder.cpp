@@ -1,0 +1,68 @@
+#include <algorithm>
+#include <cmath>
+
+#include "xsec/RegionDetection.h"
+#include "xsec/Report.h"
+#include "xsec/check/Findings.h"
+#include "xsec/prepare/Curves.h"
+
+namespace xsec {
+
+namespace {
+
+constexpr std::size_t kMostMisses = 5;  // near misses whose tolerances are tried
+constexpr double kJustAbove = 1.001;    // of the tolerance that has to be exceeded
+constexpr double kSameArea = 1e-3;      // of the larger area, or a few tolerances along the outline
+constexpr double kSteps[] = {0.1, 10, 100};
+
+bool IsSameRegion(const Region& a, const Region& b, double tolerance) {
+  const double slack = kSameArea * a.netArea + 2 * tolerance * Length(a.outline);
+  return std::abs(a.netArea - b.netArea) <= slack &&
+         DistanceOf(a.centroid, b.centroid) <= kSameArea * Diagonal(Bounds(a.outline)) + 2 * tolerance;
+}
+
+std::vector<double> NewAreas(const Detection& found, const Detection& before, double tolerance) {
+  std::vector<double> areas;
+  for (const Region& region : found.regions) {
+    const bool isOld = std::any_of(before.regions.begin(), before.regions.end(),
+                                   [&](const Region& old) { return IsSameRegion(region, old, tolerance); });
+    if (!isOld) areas.push_back(region.netArea);
+  }
+  return areas;
+}
+
+std::vector<double> TolerancesToTry(double own, const std::vector<NearMiss>& misses) {
+  std::vector<double> tolerances;
+  for (const double step : kSteps) tolerances.push_back(step * own);
+  for (std::size_t i = 0; i < std::min(misses.size(), kMostMisses); ++i) {
+    tolerances.push_back(kJustAbove * misses[i].tolerance);
+  }
+  std::sort(tolerances.begin(), tolerances.end());
+  tolerances.erase(std::unique(tolerances.begin(), tolerances.end()), tolerances.end());
+  return tolerances;
+}
+
+Rung RungOf(const Detection& detection, double tolerance) {
+  return {tolerance, detection.regions.size(), CountLooseEnds(detection), TotalArea(detection), {}};
+}
+
+}  // namespace
+
+void ClimbLadder(const Drawing& aDrawing, const SettingsRequest& aRequest, const Detection& aDetection,
+                 Findings& aFindings) {
+  const Settings own = ApplySettings(aRequest, aDrawing.extents);
+  aFindings.ladder.push_back(RungOf(aDetection, own.tolerance));
+  for (const double tolerance : TolerancesToTry(own.tolerance, aFindings.nearMisses)) {
+    SettingsRequest request = aRequest;
+    std::erase_if(request.fields, [](const FieldValue& field) { return field.field == kLinearToleranceField; });
+    request.tolerance = tolerance;
+    const Detection detection = DetectRegions(aDrawing, ApplySettings(request, aDrawing.extents));
+    aFindings.ladder.push_back(RungOf(detection, tolerance));
+    aFindings.ladder.back().newAreas = NewAreas(detection, aDetection, tolerance);
+  }
+  std::sort(aFindings.ladder.begin(), aFindings.ladder.end(),
+            [](const Rung& a, const Rung& b) { return a.tolerance < b.tolerance; });
+  ApplySettings(aRequest, aDrawing.extents);
+}
+
+}  // namespace xsec

@@ -1,0 +1,56 @@
+#include "xsec/prepare/Curves.h"
+
+#include <cmath>
+
+#include "GeometryEngine/host/Numerics.h"
+
+namespace xsec {
+
+using GeometryEngine::kDegreesPerRadian;
+using GeometryEngine::kRadiansPerDegree;
+using GeometryEngine::TDXFEntity;
+
+namespace {
+
+double AngleAt(const Point& centre, const Point& point) {
+  const double angle = std::atan2(point.y - centre.y, point.x - centre.x) * kDegreesPerRadian;
+  return GeometryEngine::GetAngleInRange(angle, 0, 360);
+}
+
+/// Degrees beyond the arc's start; from half of what the arc leaves of its circle on, degrees before it.
+double AngleBeyondStart(const TDXFEntity& arc, const Point& point) {
+  const double beyond = GeometryEngine::GetAngleInRange(AngleAt(arc.CentreCoords, point) - arc.startAngle, 0, 360);
+  return beyond > (arc.ArcSweep() + 360) / 2 ? beyond - 360 : beyond;
+}
+
+}  // namespace
+
+double DistanceOf(const Point& aFirst, const Point& aSecond) {
+  return std::hypot(aFirst.x - aSecond.x, aFirst.y - aSecond.y);
+}
+
+double PositionOf(const TDXFEntity& aEntity, const Point& aPoint) {
+  if (IsArc(aEntity)) return aEntity.radius * AngleBeyondStart(aEntity, aPoint) * kRadiansPerDegree;
+  const Point along = aEntity.EndCoords - aEntity.StartCoords;
+  const Point offset = aPoint - aEntity.StartCoords;
+  return (offset.x * along.x + offset.y * along.y) / std::hypot(along.x, along.y);
+}
+
+double LengthOf(const TDXFEntity& aEntity) {
+  return aEntity.EntityLength();
+}
+
+double DistanceTo(const TDXFEntity& aEntity, const Point& aPoint) {
+  return Distance(Travel(aEntity, true), aPoint);
+}
+
+TDXFEntity ArcBetween(const Point& aStart, const Point& aEnd, const Point& aCentre, double aRadius) {
+  return TDXFEntity::Arc(aStart, aEnd, aCentre, aRadius, AngleAt(aCentre, aStart), AngleAt(aCentre, aEnd));
+}
+
+TDXFEntity PieceBetween(const TDXFEntity& aEntity, const Point& aStart, const Point& aEnd) {
+  if (!IsArc(aEntity)) return TDXFEntity::Line(aStart, aEnd);
+  return ArcBetween(aStart, aEnd, aEntity.CentreCoords, aEntity.radius);
+}
+
+}  // namespace xsec

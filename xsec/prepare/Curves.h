@@ -1,0 +1,30 @@
+#pragma once
+
+// Measures along one line or arc as the drawing has it, from its start to its end.
+
+#include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
+#include "xsec/TravelledPiece.h"
+
+namespace xsec {
+
+inline bool IsArc(const GeometryEngine::TDXFEntity& aEntity) {
+  return aEntity.EntityType == GeometryEngine::DXFArc;
+}
+
+double DistanceOf(const Point& aFirst, const Point& aSecond);
+
+/// How far along the entity the point, or the point of the entity closest to it, lies. UNITS: millimetres.
+/// RANGE: points beyond the start lie below 0, points beyond the end above the length.
+double PositionOf(const GeometryEngine::TDXFEntity& aEntity, const Point& aPoint);
+
+double LengthOf(const GeometryEngine::TDXFEntity& aEntity);
+double DistanceTo(const GeometryEngine::TDXFEntity& aEntity, const Point& aPoint);
+
+/// An arc of that circle between two points on it, its angles taken from them.
+GeometryEngine::TDXFEntity ArcBetween(const Point& aStart, const Point& aEnd, const Point& aCentre, double aRadius);
+
+/// The part of the entity between two points on it, the first of them closer to its start.
+GeometryEngine::TDXFEntity PieceBetween(const GeometryEngine::TDXFEntity& aEntity, const Point& aStart,
+                                        const Point& aEnd);
+
+}  // namespace xsec

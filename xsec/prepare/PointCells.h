@@ -1,0 +1,57 @@
+#pragma once
+
+// Points by the place where they lie, found again under the tolerance.
+
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <unordered_map>
+#include <vector>
+
+#include "xsec/TravelledPiece.h"
+
+namespace xsec {
+
+/// Numbers of things that stand at points. Cells of twice the reach, so that a point's neighbours within the reach lie
+/// in at most four of them; Visit looks through all nine around it.
+class PointCells {
+ public:
+  explicit PointCells(double aReach) : fSide(2 * aReach) {}
+
+  void Add(const Point& aPoint, std::size_t aNumber) { fCells[Key(Cell(aPoint.x), Cell(aPoint.y))].push_back(aNumber); }
+
+  /// Calls `take` for the number of every thing that may be within the reach, until it answers true.
+  template <typename Take>
+  bool Visit(const Point& aPoint, Take&& take) const {
+    const std::int64_t column = Cell(aPoint.x);
+    const std::int64_t row = Cell(aPoint.y);
+    for (std::int64_t r = row - 1; r <= row + 1; ++r) {
+      for (std::int64_t c = column - 1; c <= column + 1; ++c) {
+        const auto place = fCells.find(Key(c, r));
+        if (place == fCells.end()) continue;
+        for (const std::size_t number : place->second) {
+          if (take(number)) return true;
+        }
+      }
+    }
+    return false;
+  }
+
+ private:
+  static constexpr double kLargestCell = 4e18;
+
+  std::int64_t Cell(double value) const {
+    const double cell = std::floor(value / fSide);
+    return static_cast<std::int64_t>(std::fmin(std::fmax(cell, -kLargestCell), kLargestCell));
+  }
+  // Cells may share a key; whoever visits compares the points themselves.
+  static std::uint64_t Key(std::int64_t column, std::int64_t row) {
+    constexpr std::uint64_t kSpread = 0x9E3779B97F4A7C15;
+    return static_cast<std::uint64_t>(column) * kSpread + static_cast<std::uint64_t>(row);
+  }
+
+  double fSide;
+  std::unordered_map<std::uint64_t, std::vector<std::size_t>> fCells;
+};
+
+}  // namespace xsec

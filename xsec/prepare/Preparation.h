@@ -1,0 +1,63 @@
+#pragma once
+
+// What the steps of the preparation work on, and the steps themselves, in the order in which Prepare takes them.
+//
+// A step never changes where an entity runs by more than the tolerance, and cuts rather than moves. The cuts are kept
+// beside the parts until the last step makes pieces of them, so that each step sees the entities whole.
+
+#include <cstddef>
+#include <utility>
+#include <vector>
+
+#include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
+#include "xsec/Drawing.h"
+#include "xsec/prepare/Cures.h"
+
+namespace xsec {
+
+/// How close two entities have to come to be looked at as a pair.
+inline constexpr double kReachInTolerances = 2;
+
+/// What is moved by more than this is reported; less is rounding. UNITS: tolerances
+inline constexpr double kToldMove = 1e-3;
+
+/// A line or arc of the drawing on its way through the preparation.
+struct Part {
+  GeometryEngine::TDXFEntity geometry;
+  std::size_t source = 0;       ///< the entity of the drawing
+  std::vector<Point> meetings;  ///< where others meet it, its own ends among them; in no order
+  std::vector<Point> cuts;      ///< where it has to be cut; in no order
+};
+
+/// Two parts that come close to each other, the first before the second.
+using PartPair = std::pair<std::size_t, std::size_t>;
+
+struct Preparation {
+  double tolerance = 0;
+  std::vector<Part> parts;
+  std::vector<PartPair> pairs;
+  std::vector<Cure> cures;
+
+  void Report(CureKind aKind, const Point& aPlace, std::size_t aPart, std::size_t aOther, double aAmount);
+};
+
+/// Arcs whose centres and radii are the same within the tolerance get those of the first of them.
+/// COST: linear in the arcs, as long as few circles lie within a tolerance of each other.
+void UnifyCircles(Preparation& aWork);
+
+/// The two halves of a circle begin where nothing meets it: a short stretch between a meeting and a seam would hide the
+/// order of turns there.
+void TurnSeams(Preparation& aWork);
+
+/// Finds where the parts of each pair meet. Parts that lie on each other are cut at each other's ends; a pair whose
+/// meetings the library would see otherwise in another direction is cut where it meets.
+void FindMeetings(Preparation& aWork);
+
+/// Lines that run so steeply that neighbouring meetings are closer in x than the tolerance are cut at all of them.
+void CutSteepLines(Preparation& aWork);
+
+/// Where the first chords of arcs that leave a point show another order than the arcs themselves, the arcs get first
+/// pieces of equal chord there.
+void SettleTurnOrder(Preparation& aWork);
+
+}  // namespace xsec

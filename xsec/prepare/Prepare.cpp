@@ -1,0 +1,143 @@
+#include "xsec/prepare/Prepare.h"
+
+#include <algorithm>
+#include <array>
+
+#include "xsec/prepare/Curves.h"
+#include "xsec/prepare/EntityGrid.h"
+#include "xsec/prepare/PointCells.h"
+#include "xsec/prepare/Preparation.h"
+#include "xsec/prepare/Turn.h"
+#include "xsec/prepare/VertexPlaces.h"
+
+namespace xsec {
+
+namespace {
+
+using GeometryEngine::TDXFEntity;
+
+/// Tried one after the other; no two lie a round angle apart.
+constexpr std::array kTurns = {0.0, 7.31, 23.17, 41.73, 66.91, 103.57, 137.51, 158.83};
+
+Preparation WorkOn(const Drawing& drawing, double tolerance, const Turn& turn) {
+  Preparation work;
+  work.tolerance = tolerance;
+  for (std::size_t i = 0; i < drawing.entities.size(); ++i) {
+    const TDXFEntity entity = turn(drawing.entities[i].geometry);
+    if (entity.StartCoords != entity.EndCoords) work.parts.push_back({entity, i, {}, {}});
+  }
+  return work;
+}
+
+/// The pieces of a part between its cuts.
+std::vector<TDXFEntity> PiecesOf(const Part& part) {
+  const TDXFEntity& whole = part.geometry;
+  if (part.cuts.empty()) return {whole};
+  std::vector<Point> cuts = part.cuts;
+  std::sort(cuts.begin(), cuts.end(),
+            [&](const Point& a, const Point& b) { return PositionOf(whole, a) < PositionOf(whole, b); });
+  cuts.push_back(whole.EndCoords);
+  std::vector<TDXFEntity> pieces;
+  Point from = whole.StartCoords;
+  for (const Point& to : cuts) {
+    if (to == from) continue;
+    pieces.push_back(PieceBetween(whole, from, to));
+    from = to;
+  }
+  if (!pieces.empty() && from != whole.EndCoords) return {whole};
+  return pieces;
+}
+
+/// Pieces that lie on an earlier one all along are one too many.
+class PieceCollector {
+ public:
+  explicit PieceCollector(Preparation& work) : fWork(work), fMiddles(kReachInTolerances * work.tolerance) {}
+
+  void Take(std::size_t part) {
+    for (const TDXFEntity& piece : PiecesOf(fWork.parts[part])) Add(piece, part);
+  }
+
+  std::vector<PreparedPiece> Result() && { return std::move(fPieces); }
+
+ private:
+  void Add(const TDXFEntity& piece, std::size_t part) {
+    const Point middle = MidPoint(Travel(piece, true));
+    const auto isSame = [&](std::size_t i) { return LieOnEachOther(fPieces[i].geometry, piece, middle); };
+    if (fMiddles.Visit(middle, isSame)) {
+      fWork.Report(CureKind::Duplicate, middle, part, kNone, LengthOf(piece));
+      return;
+    }
+    fMiddles.Add(middle, fPieces.size());
+    fPieces.push_back({piece, fWork.parts[part].source});
+  }
+
+  bool LieOnEachOther(const TDXFEntity& a, const TDXFEntity& b, const Point& middle) const {
+    const bool areEndsSame = (a.StartCoords == b.StartCoords && a.EndCoords == b.EndCoords) ||
+                             (a.StartCoords == b.EndCoords && a.EndCoords == b.StartCoords);
+    return areEndsSame && DistanceOf(MidPoint(Travel(a, true)), middle) < fWork.tolerance;
+  }
+
+  Preparation& fWork;
+  PointCells fMiddles;
+  std::vector<PreparedPiece> fPieces;
+};
+
+}  // namespace
+
+void Preparation::Report(CureKind aKind, const Point& aPlace, std::size_t aPart, std::size_t aOther, double aAmount) {
+  const std::size_t other = aOther == kNone ? kNone : parts[aOther].source;
+  cures.push_back({aKind, aPlace, parts[aPart].source, other, aAmount});
+}
+
+PreparedDrawing AsDrawn(const Drawing& aDrawing) {
+  PreparedDrawing prepared;
+  for (std::size_t i = 0; i < aDrawing.entities.size(); ++i) {
+    prepared.pieces.push_back({aDrawing.entities[i].geometry, i});
+  }
+  return prepared;
+}
+
+namespace {
+
+PreparedDrawing PrepareTurned(const Drawing& aDrawing, double aTolerance, double aTurn) {
+  Preparation work = WorkOn(aDrawing, aTolerance, Turn(aTurn));
+  UnifyCircles(work);
+  work.pairs = NearPairs(work.parts, kReachInTolerances * aTolerance);
+  TurnSeams(work);
+  FindMeetings(work);
+  CutSteepLines(work);
+  SettleTurnOrder(work);
+  PieceCollector collector(work);
+  for (std::size_t i = 0; i < work.parts.size(); ++i) collector.Take(i);
+  PreparedDrawing prepared;
+  prepared.pieces = std::move(collector).Result();
+  for (const MeetingPlace& place : FindPlaces(work)) prepared.places.push_back(place.point);
+  prepared.cures = std::move(work.cures);
+  prepared.turn = aTurn;
+  return prepared;
+}
+
+std::size_t CountSteepLines(const PreparedDrawing& prepared) {
+  return static_cast<std::size_t>(std::count_if(prepared.cures.begin(), prepared.cures.end(),
+                                                [](const Cure& cure) { return cure.kind == CureKind::SteepLine; }));
+}
+
+}  // namespace
+
+PreparedDrawing Prepare(const Drawing& aDrawing, double aTolerance) {
+  PreparedDrawing best = PrepareTurned(aDrawing, aTolerance, kTurns.front());
+  std::vector<Cure> steep;
+  for (const Cure& cure : best.cures) {
+    if (cure.kind == CureKind::SteepLine) steep.push_back(cure);
+  }
+  for (std::size_t i = 1; i < kTurns.size() && CountSteepLines(best) > 0; ++i) {
+    PreparedDrawing turned = PrepareTurned(aDrawing, aTolerance, kTurns[i]);
+    if (CountSteepLines(turned) < CountSteepLines(best)) best = std::move(turned);
+  }
+  const Turn back = Turn(best.turn).Back();
+  for (Cure& cure : best.cures) cure.place = back(cure.place);
+  if (CountSteepLines(best) == 0) best.cures.insert(best.cures.end(), steep.begin(), steep.end());
+  return best;
+}
+
+}  // namespace xsec

@@ -1,0 +1,116 @@
+#include "xsec/prepare/VertexPlaces.h"
+
+#include <algorithm>
+
+#include "xsec/prepare/Curves.h"
+#include "xsec/prepare/PointCells.h"
+
+namespace xsec {
+
+namespace {
+
+using GeometryEngine::TDXFEntity;
+using GeometryEngine::TTreeNode;
+
+class PlaceCollector {
+ public:
+  explicit PlaceCollector(double tolerance) : fKnown(tolerance) {}
+
+  void Add(const Point& point, std::size_t part) {
+    auto& parts = fPlaces[PlaceOf(point)].parts;
+    if (std::find(parts.begin(), parts.end(), part) == parts.end()) parts.push_back(part);
+  }
+
+  std::vector<MeetingPlace> Result() && { return std::move(fPlaces); }
+
+ private:
+  std::size_t PlaceOf(const Point& point) {
+    std::size_t first = fPlaces.size();
+    fKnown.Visit(point, [&](std::size_t place) {
+      if (fPlaces[place].point == point) first = std::min(first, place);
+      return false;
+    });
+    if (first == fPlaces.size()) {
+      fKnown.Add(point, first);
+      fPlaces.push_back({point, {}});
+    }
+    return first;
+  }
+
+  PointCells fKnown;
+  std::vector<MeetingPlace> fPlaces;
+};
+
+/// The closest of some points that is the same as one of others, for each of these; kNone where none is.
+std::vector<std::size_t> ClosestOf(const std::vector<Point>& points, const std::vector<Point>& others,
+                                   double tolerance) {
+  PointCells cells(tolerance);
+  for (std::size_t i = 0; i < points.size(); ++i) cells.Add(points[i], i);
+  std::vector<std::size_t> closest;
+  for (const Point& other : others) {
+    std::size_t best = kNone;
+    cells.Visit(other, [&](std::size_t i) {
+      const bool isSame = points[i] == other;
+      if (isSame && (best == kNone || DistanceOf(points[i], other) < DistanceOf(points[best], other))) best = i;
+      return false;
+    });
+    closest.push_back(best);
+  }
+  return closest;
+}
+
+bool IsSameBits(const Point& a, const Point& b) {
+  return a.x == b.x && a.y == b.y;
+}
+
+void MoveEnds(TDXFEntity& piece, const Point& from, const Point& to) {
+  const Point start = IsSameBits(piece.StartCoords, from) ? to : piece.StartCoords;
+  const Point end = IsSameBits(piece.EndCoords, from) ? to : piece.EndCoords;
+  const TDXFEntity moved = PieceBetween(piece, start, end);
+  piece.StartCoords = moved.StartCoords;
+  piece.EndCoords = moved.EndCoords;
+  piece.startAngle = moved.startAngle;
+  piece.endAngle = moved.endAngle;
+}
+
+void MoveVertex(TTreeNode& vertex, GeometryEngine::TEntityStorage& pieces, const Point& to) {
+  const Point from = vertex.Coordinates();
+  for (const TTreeNode* end : vertex.Children()) {
+    MoveEnds(*pieces.GetEntityFromIndex_Pointer(end->EntityIndex()), from, to);
+  }
+  vertex.Coordinates(to);
+}
+
+}  // namespace
+
+std::vector<MeetingPlace> FindPlaces(const Preparation& aWork) {
+  PlaceCollector places(aWork.tolerance);
+  for (std::size_t i = 0; i < aWork.parts.size(); ++i) {
+    places.Add(aWork.parts[i].geometry.StartCoords, i);
+    places.Add(aWork.parts[i].geometry.EndCoords, i);
+  }
+  for (std::size_t i = 0; i < aWork.parts.size(); ++i) {
+    for (const Point& meeting : aWork.parts[i].meetings) places.Add(meeting, i);
+  }
+  return std::move(places).Result();
+}
+
+std::vector<Cure> PutVerticesBack(GeometryEngine::TEntityTree& aGraph, const std::vector<Point>& aPlaces,
+                                  double aTolerance) {
+  std::vector<Point> vertices;
+  for (const TTreeNode* vertex : aGraph.RootNode()->Children()) vertices.push_back(vertex->Coordinates());
+  const std::vector<std::size_t> placeOf = ClosestOf(aPlaces, vertices, aTolerance);
+  const std::vector<std::size_t> vertexAt = ClosestOf(vertices, aPlaces, aTolerance);
+  std::vector<Cure> cures;
+  for (std::size_t i = 0; i < vertices.size(); ++i) {
+    if (placeOf[i] == kNone || vertexAt[placeOf[i]] != i) continue;
+    const Point& place = aPlaces[placeOf[i]];
+    if (IsSameBits(place, vertices[i])) continue;
+    MoveVertex(*aGraph.RootNode()->GetNode(GeometryEngine::ToIndex(i)), *aGraph.pEntityStorage(), place);
+    const double moved = DistanceOf(place, vertices[i]);
+    if (moved > kToldMove * aTolerance) cures.push_back({CureKind::Vertex, place, kNone, kNone, moved});
+  }
+  return cures;
+}
+
+}  // namespace xsec
