@@ -197,7 +197,7 @@ Detection DetectAmong(PreparedDrawing prepared, const Drawing& drawing, const Se
     std::vector<std::size_t> dropped;
     if (settings.dropsSlivers && round < kMostRounds) dropped = PiecesRoundSlivers(detection.regions, prepared.cures);
     if (dropped.empty()) {
-      MergePieces(detection.regions);
+      MergePieces(detection);
       Append(detection.diagnostics.cures, prepared.cures);
       return detection;
     }
