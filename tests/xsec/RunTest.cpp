@@ -213,11 +213,11 @@ TEST_F(Xsec, CheckOfAWholeDrawingFindsNothing) {
 }
 
 TEST_F(Xsec, InfoCountsByTypeLayerAndBlock) {
-  EXPECT_EQ(RunXsec("info " + Drawing(DxfOf(Square(0, 0, 10) + "0\nTEXT\n8\nNotes\n"))), 0) << fStderr;
+  EXPECT_EQ(RunXsec("info " + Drawing(DxfOf(Square(0, 0, 10) + "0\nHATCH\n8\nNotes\n"))), 0) << fStderr;
   EXPECT_THAT(fStdout, HasSubstr("unit: mm, 1 mm (file)"));
   EXPECT_THAT(fStdout, HasSubstr("x 0 to 10, y 0 to 10; 10 x 10 mm"));
   EXPECT_THAT(fStdout, HasSubstr("  Plate                           4"));
-  EXPECT_THAT(fStdout, HasSubstr("skipped: 1 TEXT on layer \"Notes\": this type is not read"));
+  EXPECT_THAT(fStdout, HasSubstr("skipped: 1 HATCH on layer \"Notes\": this type is not read"));
 }
 
 TEST_F(Xsec, ToleranceGivenTwiceIsWrongUsage) {
