@@ -121,8 +121,7 @@ void RunDetection(const TEntityArray& aDrawing, std::int32_t aRegionType, bool a
   driver.DetermineInterceptions(&drawing);
   aBetween();
   driver.DetermineRegions(driver.CoordinateTree(), aRegionType);
-  const std::span<TTreeNode* const> regions = driver.RegionTree().RootNode()->Children();
-  for (const TTreeNode* region : regions) {
+  for (const TTreeNode* region : driver.RegionTree().RootNode()->Children()) {
     CheckRegion(driver.RegionTree(), *region, aRegionType);
     if (aSteady) CheckIsConnected(driver.RegionTree(), *region);
   }
@@ -131,7 +130,7 @@ void RunDetection(const TEntityArray& aDrawing, std::int32_t aRegionType, bool a
   driver.IdentifySubRegions(driver.CoordinateTree());
   aBetween();
   driver.RemoveDuplicatedSubRegions();
-  CheckSubRegions(regions);
+  CheckSubRegions(driver.RegionTree().RootNode()->Children());
   aBetween();
   HandOver(driver, aBetween);
 }

@@ -21,10 +21,11 @@ TDXFEntity RandomLine(Random& aRandom, double aLength) {
 TDXFEntity RandomArc(Random& aRandom, double aRadius) {
   // One after the other: compilers differ in which argument of a call they compute first.
   const double start = aRandom.Between(0, 360);
-  const double x = aRandom.Between(0, kSize);
-  const double y = aRandom.Between(0, kSize);
+  const double sweep = aRandom.Between(30, 180);
   const double radius = aRadius * aRandom.Between(0.3, 1);
-  return CreateEntity_Arc(x, y, radius, start, start + aRandom.Between(30, 180));
+  const double y = aRandom.Between(0, kSize);
+  const double x = aRandom.Between(0, kSize);
+  return CreateEntity_Arc(x, y, radius, start, start + sweep);
 }
 
 /// A corner of a regular polygon; the same bits whenever it is asked for, so that loops close for the polygons too.

@@ -20,10 +20,12 @@ using support::TDetection;
 namespace {
 
 constexpr std::size_t kSmallStack = 256 * 1024;  // bytes
-constexpr std::int32_t kLoopLength = 10000;      // entities
-constexpr std::int32_t kChainLength = 1000;      // entities
+constexpr std::int32_t kLoopLength = 100000;     // entities
+constexpr std::int32_t kChainLength = 100000;    // entities
+// A host's own walk looks up each vertex among all: it is followed along fewer.
+constexpr std::int32_t kChainLength_OwnWalk = 1000;
 constexpr double kPi = 3.141592653589793;
-constexpr double kRadius = 1000;
+constexpr double kRadius = 10000;
 
 TEntityCoordinate CornerOf(std::int32_t aIndex) {
   const double angle = 2 * kPi * (aIndex % kLoopLength) / kLoopLength;
@@ -38,13 +40,13 @@ TEntityArray MakeLoop() {
 }
 
 /// A zigzag along the x axis, with all of its ends recorded.
-TEntityArray MakeChain() {
+TEntityArray MakeChain(std::int32_t aLength) {
   TEntityArray chain;
   const auto point = [](std::int32_t i) {
     return TEntityCoordinate{static_cast<double>(i), static_cast<double>(i % 2)};
   };
-  for (std::int32_t i = 0; i < kChainLength; ++i) chain.push_back(TDXFEntity::Line(point(i), point(i + 1)));
-  chain.push_back(TDXFEntity::Line({10.0 * kChainLength, 0}, {10.0 * kChainLength + 1, 0}));
+  for (std::int32_t i = 0; i < aLength; ++i) chain.push_back(TDXFEntity::Line(point(i), point(i + 1)));
+  chain.push_back(TDXFEntity::Line({10.0 * aLength, 0}, {10.0 * aLength + 1, 0}));
   return chain;
 }
 
@@ -59,7 +61,7 @@ class LongDrawings : public testing::Test {
 
 }  // namespace
 
-TEST_F(LongDrawings, LoopOfTenThousandEntitiesIsDetectedUnderASmallStack) {
+TEST_F(LongDrawings, LoopOfAHundredThousandEntitiesIsDetectedUnderASmallStack) {
   RunWithStack(kSmallStack, [] {
     TDetection detection(MakeLoop());
     detection.driver.DetermineRegions(detection.driver.CoordinateTree(), 0);
@@ -68,9 +70,9 @@ TEST_F(LongDrawings, LoopOfTenThousandEntitiesIsDetectedUnderASmallStack) {
   });
 }
 
-TEST_F(LongDrawings, ChainOfAThousandEntitiesIsDetectedUnderASmallStack) {
+TEST_F(LongDrawings, ChainOfAHundredThousandEntitiesIsDetectedUnderASmallStack) {
   RunWithStack(kSmallStack, [] {
-    TDetection detection(MakeChain());
+    TDetection detection(MakeChain(kChainLength));
     detection.driver.DetectOrphanEntities(detection.driver.CoordinateTree());
     const std::vector<support::TLoop> chains = support::GetLoops(detection.driver);
     ASSERT_EQ(chains.size(), 1U);
@@ -80,7 +82,7 @@ TEST_F(LongDrawings, ChainOfAThousandEntitiesIsDetectedUnderASmallStack) {
 
 TEST_F(LongDrawings, ChainOfAThousandEntitiesIsSteppedBackFromUnderASmallStack) {
   RunWithStack(kSmallStack, [] {
-    TDetection detection(MakeChain());
+    TDetection detection(MakeChain(kChainLength_OwnWalk));
     TEntityTree& tree = detection.driver.CoordinateTree();
     TTreeNode* vertex = tree.Search_L1_Coords({0, 0});
     ASSERT_NE(vertex, nullptr);
@@ -88,13 +90,13 @@ TEST_F(LongDrawings, ChainOfAThousandEntitiesIsSteppedBackFromUnderASmallStack) 
     walk.fBacktracking = true;
     FindNextRegionEntity(tree, vertex, vertex->GetNode(0), walk);
     EXPECT_TRUE(walk.fPath.empty());
-    EXPECT_EQ(walk.fBlocked.size(), static_cast<std::size_t>(kChainLength)) << "every entity is a dead end";
+    EXPECT_EQ(walk.fBlocked.size(), static_cast<std::size_t>(kChainLength_OwnWalk)) << "every entity is a dead end";
   });
 }
 
-TEST_F(LongDrawings, ChainOfAThousandEntitiesBoundsNoRegionUnderASmallStack) {
+TEST_F(LongDrawings, ChainOfAHundredThousandEntitiesBoundsNoRegionUnderASmallStack) {
   RunWithStack(kSmallStack, [] {
-    TDetection detection(MakeChain());
+    TDetection detection(MakeChain(kChainLength));
     detection.driver.DetermineRegions(detection.driver.CoordinateTree(), 0);
     EXPECT_EQ(detection.driver.RegionTree().RootNode()->Count(), 0);
   });
