@@ -25,7 +25,7 @@ constexpr std::int32_t kChainLength = 100000;    // entities
 // A host's own walk looks up each vertex among all: it is followed along fewer.
 constexpr std::int32_t kChainLength_OwnWalk = 1000;
 constexpr double kPi = 3.141592653589793;
-constexpr double kRadius = 10000;
+constexpr double kRadius = 1e7;  // so large that no edge is within the tolerance of upright
 
 TEntityCoordinate CornerOf(std::int32_t aIndex) {
   const double angle = 2 * kPi * (aIndex % kLoopLength) / kLoopLength;
