@@ -183,10 +183,9 @@ class TwinDetection {
     fRecord.Section("searches in trees");
     const Tree& graph = fDriver.CoordinateTree();
     const Tree& intercepts = fDriver.InterceptTree();
-    for (int i = 0; i < 4; ++i) {
+    for (std::size_t i = 0; i < std::min<std::size_t>(4, fDrawing.entities.size()); ++i) {
       const TEntityCoordinate point = AnyPoint();
-      const TDXFEntity& entity = fDrawing.entities[static_cast<std::size_t>(i)];
-      const Node* drawn = intercepts.Search_L1_Entities(entity);
+      const Node* drawn = intercepts.Search_L1_Entities(fDrawing.entities[i]);
       fRecord.Add("vertex", PlaceOf(graph.Search_L1_Coords(point)));
       fRecord.Add("drawn entity", PlaceOf(drawn));
       if (drawn != nullptr) fRecord.Add("point of entity", PlaceOf(intercepts.Search_L2_Coordinates(point, drawn)));
