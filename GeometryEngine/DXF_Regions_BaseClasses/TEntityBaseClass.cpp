@@ -9,11 +9,6 @@ namespace GeometryEngine {
 
 namespace {
 
-constexpr const char* kTreeName_Coordinates = "Coordinates_SlotPole";
-constexpr const char* kTreeName_Coordinates_Duplicated = "Coordinates_Symmetry";
-constexpr const char* kTreeName_Intercepts = "Intercepts";
-constexpr const char* kTreeName_Regions = "Regions";
-
 TEntityArray GetRegionEntities(const TEntityTree& aRegionTree, const TTreeNode& aRegion) {
   TEntityArray entities;
   entities.reserve(static_cast<std::size_t>(aRegion.Count()));
@@ -24,12 +19,28 @@ TEntityArray GetRegionEntities(const TEntityTree& aRegionTree, const TTreeNode& 
 }  // namespace
 
 TEntityBaseClass::TEntityBaseClass()
-    : fCoordinateTree(kTreeName_Coordinates),
-      fCoordinateTree_Duplicated(kTreeName_Coordinates_Duplicated),
-      fInterceptTree(kTreeName_Intercepts),
-      fRegionTree(kTreeName_Regions) {}
+    : fCoordinateTree(CreateCoordinateTree()),
+      fCoordinateTree_Duplicated(CreateCoordinateTree_Duplicated()),
+      fInterceptTree(CreateInterceptTree()),
+      fRegionTree(CreateRegionTree()) {}
 
 TEntityBaseClass::~TEntityBaseClass() = default;
+
+TEntityTree TEntityBaseClass::CreateCoordinateTree() {
+  return TEntityTree("Coordinates_SlotPole");
+}
+
+TEntityTree TEntityBaseClass::CreateCoordinateTree_Duplicated() {
+  return TEntityTree("Coordinates_Symmetry");
+}
+
+TEntityTree TEntityBaseClass::CreateInterceptTree() {
+  return TEntityTree("Intercepts");
+}
+
+TEntityTree TEntityBaseClass::CreateRegionTree() {
+  return TEntityTree("Regions");
+}
 
 TEntityTree& TEntityBaseClass::CoordinateTree() {
   return fCoordinateTree;

@@ -118,6 +118,11 @@ class GEOMETRYENGINE_API TEntityBaseClass {
   void AddRegionEntities(TTreeNode_Geometry* aRegion, TIndex aRegionIndex);
 
  private:
+  static TEntityTree CreateCoordinateTree();
+  static TEntityTree CreateCoordinateTree_Duplicated();
+  static TEntityTree CreateInterceptTree();
+  static TEntityTree CreateRegionTree();
+
   // Which regions are listed by some region, as of a count of the region tree's changes.
   struct TListedRegions {
     std::uint64_t fNestingChanges = 0;
