@@ -179,6 +179,17 @@ TEST_F(Fingerprints_Limits, FaceThatPassesAVertexTwiceLeavesItsHoleOutOrTakesItI
   EXPECT_THAT(Turned(drawing, 90, kFaces), ElementsAre(IsLoop(3, 7.5), IsLoop(4, 64)));
 }
 
+// Two crossings of the first line lie 0.005 mm apart, with one x within the tolerance, so that they stand by height: it
+// runs to and fro there. A walk that comes upon a piece from its other side goes looking for another way round, and
+// what it takes on that way is missing in other faces.
+TEST_F(Fingerprints_Limits, CloseCrossingsOfASteepLineThatFallsCostFacesFarAroundKept) {
+  const TEntityArray drawing = support::ParseEntities(
+      "L 5.05,0 4.95,10; L 0,5 10,5; L 0,4.505 10,5.505; L 3.11,0 3.81,10; L 3.11,0 7.31,10; L 2.11,0 6.31,10;"
+      "L 2.11,0 5.31,10; L 0,0.63 10,9.57; L 0,0.63 10,2.57");
+  EXPECT_EQ(Turned(drawing, 90, kFaces).size(), 23U);
+  EXPECT_EQ(Turned(drawing, 0, kFaces).size(), 3U);
+}
+
 // A line of slope 3 that passes a circle of radius 1 at half the tolerance, as the upper side of a square: the
 // discriminant is 10 times the difference of the squares there, and a ninth of that on a line of slope -1/3.
 TEST_F(Fingerprints_Limits, LineThatAllButTouchesAnArcMeetsItInOneDirectionAndMissesItInAnotherKept) {

@@ -169,6 +169,30 @@ TEntityArray Uprights(Random& aRandom) {
   return entities;
 }
 
+/// Steep lines that fall, crossed by pairs of lines so close to each other that both points of a pair have one x within
+/// the tolerance, in a mesh of others: such points come in the wrong order, and walks go astray between them.
+TEntityArray FallingLines(Random& aRandom) {
+  TEntityArray entities;
+  const double t = OneOf(aRandom, {0.001, 0.5});
+  const double lean = OneOf(aRandom, {10.0, 50.0}) * t;
+  for (int i = Whole(aRandom, 1, 3); i > 0; --i) {
+    const double x = aRandom.Between(20, 80);
+    entities.push_back(CreateEntity_Line(x + lean, -10, x - lean, 110));
+    const TEntityCoordinate crossing{x, aRandom.Between(30, 70)};
+    for (const double gap : {0.0, aRandom.Between(0.1, 0.9) * 60 * t / lean}) {
+      const TEntityCoordinate foot{crossing.x, crossing.y + gap};
+      const double direction = aRandom.Between(-45, 45);
+      entities.push_back(CreateEntity_Line(OnCircle(foot, -90, direction), OnCircle(foot, 90, direction)));
+    }
+  }
+  for (int i = Whole(aRandom, 2, 7); i > 0; --i) {
+    const TEntityCoordinate from = AnyPoint(aRandom);
+    const double direction = aRandom.Between(0, 180);
+    entities.push_back(CreateEntity_Line(OnCircle(from, -70, direction), OnCircle(from, 70, direction)));
+  }
+  return entities;
+}
+
 /// One line or arc that very many others meet, some of them at the same place within the tolerance.
 TEntityArray Comb(Random& aRandom) {
   const double t = OneOf(aRandom, {0.001, 0.001, 0.5});
@@ -255,6 +279,7 @@ constexpr Kind kTwinKinds[] = {
     {"arcs on a grid", GridArcs},
     {"circles and rays", CirclesAndRays},
     {"uprights", Uprights},
+    {"falling lines", FallingLines},
     {"comb", Comb},
     {"loops on trees", LoopsOnTrees},
     {"touchings", Touchings},

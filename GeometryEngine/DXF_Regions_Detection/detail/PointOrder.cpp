@@ -16,6 +16,8 @@ double GetSortAngle(double aAngle) {
 
 }  // namespace
 
+// KEPT: on a steep line that falls the points within a tolerance of one another in x stand in the wrong order; the
+// order of all points is settled by x, the direction in which hosts read them.
 bool ComesBefore_Line(const TEntityCoordinate& aPoint, const TEntityCoordinate& aListed) {
   return ValueMoreThan_DXFTolerance(aPoint.x, aListed.x) ||
          (ValuesSame_DXFTolerance(aPoint.x, aListed.x) && aPoint.y > aListed.y);
