@@ -15,10 +15,9 @@ namespace xsec {
 namespace {
 
 constexpr int kDeepestNesting = 16;
-constexpr std::uint64_t kMostSteps = 2'000'000;  // entities handed to the maker
 
 struct BlockLoad {
-  std::uint64_t steps = 0;  // entities of the block and of those in it, placed once; stops at kMostSteps + 1
+  std::uint64_t steps = 0;  // entities of the block and of those in it, placed once; stops at one above the most
   int depth = 1;            // 1 for a block without inserts
 };
 
@@ -31,30 +30,23 @@ struct Visit {
 
 using Loads = std::map<const SourceBlock*, BlockLoad>;
 
-std::uint64_t Capped(std::uint64_t steps) {
-  return std::min(steps, kMostSteps + 1);
-}
-
-// No product overflows: a block's steps are at most two million and one, columns times rows below 2^62, and the
-// division comes first.
-std::uint64_t StepsOfInsert(const SourceInsert& insert, std::uint64_t stepsOfBlock) {
+// No product overflows: columns times rows stay below 2^62, and the division comes first.
+std::uint64_t StepsOfInsert(const SourceInsert& insert, std::uint64_t stepsOfBlock, std::uint64_t most) {
   const std::uint64_t instances = std::uint64_t{insert.columns} * insert.rows;
-  return instances > kMostSteps / (stepsOfBlock + 1) ? kMostSteps + 1 : instances * (stepsOfBlock + 1);
+  return instances > most / (stepsOfBlock + 1) ? most + 1 : instances * (stepsOfBlock + 1);
 }
 
-void AddStep(BlockLoad& load, const SourceInsert* insert, const BlockLoad* inner) {
-  if (insert == nullptr || inner == nullptr) {
-    load.steps = Capped(load.steps + 1);
-    return;
-  }
-  load.steps = Capped(load.steps + StepsOfInsert(*insert, inner->steps));
-  load.depth = std::max(load.depth, inner->depth + 1);
+void AddStep(BlockLoad& load, const SourceInsert* insert, const BlockLoad* inner, std::uint64_t most) {
+  const bool isBlock = insert != nullptr && inner != nullptr;
+  load.steps = std::min(load.steps + (isBlock ? StepsOfInsert(*insert, inner->steps, most) : 1), most + 1);
+  if (isBlock) load.depth = std::max(load.depth, inner->depth + 1);
 }
 
 // Walks through the blocks in depth first, with a stack of its own: how deep they nest is up to the file.
 class BlockWalk {
  public:
-  BlockWalk(const SourceDrawing& aSource, const std::string& aPath) : fSource(aSource), fPath(aPath) {}
+  BlockWalk(const SourceDrawing& aSource, const std::string& aPath, std::uint64_t aMost)
+      : fSource(aSource), fPath(aPath), fMost(aMost) {}
 
   // The load of entities outside blocks; finds the loads of all blocks on the way.
   void Run() {
@@ -92,9 +84,9 @@ class BlockWalk {
     const auto* insert = std::get_if<SourceInsert>(&entity.shape);
     const SourceBlock* inner = insert == nullptr ? nullptr : Find(*insert);
     if (inner == nullptr) {
-      AddStep(aVisit.load, nullptr, nullptr);
+      AddStep(aVisit.load, nullptr, nullptr, fMost);
     } else if (const auto known = fLoads.find(inner); known != fLoads.end()) {
-      AddStep(aVisit.load, insert, &known->second);
+      AddStep(aVisit.load, insert, &known->second, fMost);
     } else {
       CheckIsNotOpen(*inner, entity.line);
       fStack.push_back(Visit{inner, 0, {}});
@@ -131,25 +123,26 @@ class BlockWalk {
                          fmt::format("block {} nests {} deep, more than {}", block->name, inner.depth, kDeepestNesting),
                          "explode some of its blocks");
       }
-      AddStep(load, insert, &inner);
-      if (load.steps > kMostSteps) {
+      AddStep(load, insert, &inner, fMost);
+      if (load.steps > fMost) {
         throw InputError(fPath, entity.line,
-                         fmt::format("placing block {} here makes more than {} entities", block->name, kMostSteps),
-                         "check the numbers of columns and rows");
+                         fmt::format("placing block {} here makes more than {} entities", block->name, fMost),
+                         "check the numbers of columns and rows, or allow more with --max-entities");
       }
     }
   }
 
   const SourceDrawing& fSource;
   const std::string& fPath;
+  std::uint64_t fMost;  // entities handed to the maker
   Loads fLoads;
   std::vector<Visit> fStack;
 };
 
 }  // namespace
 
-void CheckBlocks(const SourceDrawing& aSource, const std::string& aPath) {
-  BlockWalk(aSource, aPath).Run();
+void CheckBlocks(const SourceDrawing& aSource, const std::string& aPath, std::uint64_t aMostEntities) {
+  BlockWalk(aSource, aPath, aMostEntities).Run();
 }
 
 }  // namespace xsec

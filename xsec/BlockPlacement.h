@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "xsec/EntityMaker.h"
@@ -8,8 +9,8 @@
 namespace xsec {
 
 /// Throws InputError when a block contains itself, directly or through others, when blocks nest deeper than 16, or when
-/// placing them all would take more than 2,000,000 steps. So what PlaceAll does is bounded.
-void CheckBlocks(const SourceDrawing& aSource, const std::string& aPath);
+/// placing them all would make more than so many entities. So what PlaceAll does is bounded.
+void CheckBlocks(const SourceDrawing& aSource, const std::string& aPath, std::uint64_t aMostEntities);
 
 /// Hands every entity of the drawing to the maker, those of blocks once for each place that they stand in.
 /// REQUIRES: CheckBlocks has passed.

@@ -21,7 +21,8 @@ constexpr const char* kExamples =
     "  xsec check stator.dxf --json          the same for the next program\n"
     "  xsec check stator.dxf --tol 0.004     what is left at a tolerance that the ladder shows\n"
     "\n"
-    "Exit codes: 0 nothing found, 1 findings, 2 wrong usage, 3 drawing unreadable, 4 output not written.";
+    "Exit codes: 0 nothing found, 1 findings, 2 wrong usage, 3 drawing unreadable, 4 output not written,\n"
+    "7 a limit is reached.";
 
 struct CheckOptions {
   DrawingOptions drawing;

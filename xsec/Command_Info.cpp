@@ -21,7 +21,7 @@ constexpr const char* kExamples =
     "  xsec info stator.dxf              unit, extents, what it holds, and what would be skipped\n"
     "  xsec info pole.dxf --units m      the same when it is drawn in metres\n"
     "\n"
-    "Exit codes: 0 fine, 2 wrong usage, 3 drawing unreadable.";
+    "Exit codes: 0 fine, 2 wrong usage, 3 drawing unreadable, 7 a limit is reached.";
 
 using Key = std::function<std::string(const DrawingEntity&)>;
 

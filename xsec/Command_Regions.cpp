@@ -26,7 +26,8 @@ constexpr const char* kExamples =
     "  xsec regions pole.dxf --rules pole.json -o pole.geo -o pole.fem\n"
     "                                                 names and materials by rules, for gmsh and FEMM\n"
     "\n"
-    "Exit codes: 0 fine, 2 wrong usage, 3 drawing unreadable, 4 output not written, 5 no closed region found.";
+    "Exit codes: 0 fine, 2 wrong usage, 3 drawing unreadable, 4 output not written, 5 no closed region found,\n"
+    "7 a limit is reached.";
 
 struct RegionsOptions {
   DrawingOptions drawing;

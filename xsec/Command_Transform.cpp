@@ -32,7 +32,7 @@ constexpr const char* kExamples =
     "regions that are found in the result.\n"
     "\n"
     "Exit codes: 0 fine, 2 wrong usage, 3 drawing unreadable, 4 output not written, 5 no closed region found,\n"
-    "6 an outline that cannot be offset.";
+    "6 an outline that cannot be offset, 7 a limit is reached.";
 
 struct TransformOptions {
   DrawingOptions drawing;

@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "xsec/DrawingExtents.h"
-#include "xsec/DxfReader.h"
 #include "xsec/DxfText.h"
 #include "xsec/Errors.h"
 #include "xsec/Units.h"
@@ -19,6 +18,11 @@
 namespace xsec {
 
 namespace {
+
+constexpr std::uint64_t kMebibyte = 1024 * 1024;             // bytes
+constexpr std::uint64_t kMostMebibytes = 1024 * 1024;        // a tebibyte
+constexpr std::uint64_t kMostEntitiesAsked = 1'000'000'000;  // far more than any memory holds
+constexpr std::uint64_t kMostSeconds = 31'536'000;           // a year
 
 DrawingUnits UnitsOf(const std::string& name) {
   auto units = FindUnit(name);
@@ -85,6 +89,32 @@ void AddLayerOptions(CLI::App& command, DrawingOptions& options) {
       ->allow_extra_args(false);
 }
 
+/// An option that takes a number from 1 to `most` and hands it to `keep`.
+template <typename Keep>
+void AddLimitOption(CLI::App& command, const std::string& name, const char* unit, const std::string& description,
+                    std::uint64_t most, Keep keep) {
+  const auto check = [name, most, keep](std::int64_t value) {
+    if (value < 1 || static_cast<std::uint64_t>(value) > most) {
+      throw UsageError(fmt::format("{} {}: expected a number from 1 to {}", name, value, most));
+    }
+    keep(static_cast<std::uint64_t>(value));
+  };
+  command.add_option_function<std::int64_t>(name, check, description)->type_name(unit)->group("Limits");
+}
+
+void AddLimitOptions(CLI::App& command, DrawingOptions& options) {
+  AddLimitOption(command, "--max-entities", "N",
+                 fmt::format("Refuse drawings of more lines and arcs. Without it {}", options.reading.mostEntities),
+                 kMostEntitiesAsked, [&](std::uint64_t count) { options.reading.mostEntities = count; });
+  AddLimitOption(command, "--max-file", "MIB",
+                 fmt::format("Refuse larger files. Without it {} MiB", options.reading.largestFile / kMebibyte),
+                 kMostMebibytes, [&](std::uint64_t size) { options.reading.largestFile = size * kMebibyte; });
+  AddLimitOption(command, "--max-memory", "MIB", "Give up when more memory is needed", kMostMebibytes,
+                 [&](std::uint64_t size) { options.limits.memory = size * kMebibyte; });
+  AddLimitOption(command, "--max-seconds", "S", "Give up when more processor time is needed", kMostSeconds,
+                 [&](std::uint64_t seconds) { options.limits.seconds = seconds; });
+}
+
 bool FitsAny(const std::string& layer, const std::vector<std::string>& patterns) {
   return std::any_of(patterns.begin(), patterns.end(),
                      [&](const std::string& pattern) { return FitsPattern(layer, pattern); });
@@ -137,18 +167,21 @@ void AddDrawingOptions(CLI::App& aCommand, DrawingOptions& aOptions) {
   aCommand.add_option("DRAWING", aOptions.path, "The drawing, a DXF file in ASCII")->required()->type_name("");
   aCommand
       .add_option_function<std::string>(
-          "--units", [&](const std::string& name) { aOptions.units = UnitsOf(name); },
+          "--units", [&](const std::string& name) { aOptions.reading.units = UnitsOf(name); },
           "The unit the drawing is drawn in, whatever it says itself: " + UnitNames())
       ->type_name("U");
   AddLayerOptions(aCommand, aOptions);
   aCommand
       .add_option_function<std::string>(
           "--origin",
-          [&](const std::string& text) { std::tie(aOptions.originX, aOptions.originY) = PairOf("--origin", text); },
+          [&](const std::string& text) {
+            std::tie(aOptions.reading.originX, aOptions.reading.originY) = PairOf("--origin", text);
+          },
           "The point that becomes the origin, the axis of the machine, in millimetres")
       ->type_name("X,Y");
   aCommand.add_flag("--strict", aOptions.strict, "Whatever of the drawing is not read is an error");
   AddSettingsOptions(aCommand, aOptions.settings);
+  AddLimitOptions(aCommand, aOptions);
   aCommand.parse_complete_callback([&aOptions] { CheckSettings(aOptions.settings); });
 }
 
@@ -164,7 +197,8 @@ std::pair<double, double> PairOf(const std::string& aOption, const std::string& 
 }
 
 Drawing LoadDrawing(const DrawingOptions& aOptions) {
-  Drawing drawing = ReadDrawing(aOptions.path, {aOptions.units, std::nullopt, aOptions.originX, aOptions.originY});
+  LimitProcess(aOptions.limits);
+  Drawing drawing = ReadDrawing(aOptions.path, aOptions.reading);
   TakeLayers(aOptions, drawing);
   if (aOptions.strict) RefuseSkipped(drawing);
   return drawing;

@@ -8,6 +8,8 @@
 #include <vector>
 
 #include "xsec/Drawing.h"
+#include "xsec/DxfReader.h"
+#include "xsec/ProcessLimits.h"
 #include "xsec/Settings.h"
 
 namespace CLI {
@@ -18,13 +20,12 @@ namespace xsec {
 
 struct DrawingOptions {
   std::string path;
-  std::optional<DrawingUnits> units;
+  ReadOptions reading;
   std::vector<std::string> layers;          ///< patterns of those that are taken; none for all
   std::vector<std::string> excludedLayers;  ///< patterns of those that are not
-  double originX = 0;                       ///< UNITS: millimetres
-  double originY = 0;
-  bool strict = false;  ///< whatever is not read is an error
+  bool strict = false;                      ///< whatever is not read is an error
   SettingsRequest settings;
+  ProcessLimits limits;
 };
 
 /// Binds the options to where they are kept, which must outlive the parsing. Values that make no sense are a UsageError

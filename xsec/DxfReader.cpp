@@ -85,14 +85,14 @@ void AddWarnings(const SourceDrawing& source, Drawing& drawing) {
 Drawing ReadDrawingText(std::string_view aText, const std::string& aPath, const ReadOptions& aOptions) {
   CheckDxfText(aText, aPath);
   const SourceDrawing source = ParseDxf(aText, aPath);
-  CheckBlocks(source, aPath);
+  CheckBlocks(source, aPath, aOptions.mostEntities);
   Drawing drawing;
   drawing.path = aPath;
   drawing.units = UnitsOf(source, aOptions);
   drawing.layerColours = source.layerColours;
   drawing.warnings = source.warnings;
   const SnappingOff guard;
-  EntityMaker maker(drawing, aOptions.flattenTolerance);
+  EntityMaker maker(drawing, aOptions.flattenTolerance, aOptions.mostEntities);
   PlaceAll(source,
            Affine::Shift(-aOptions.originX, -aOptions.originY) *
                Affine::Stretch(drawing.units.millimetres, drawing.units.millimetres),
@@ -103,7 +103,7 @@ Drawing ReadDrawingText(std::string_view aText, const std::string& aPath, const 
 }
 
 Drawing ReadDrawing(const std::string& aPath, const ReadOptions& aOptions) {
-  return ReadDrawingText(LoadFile(aPath), aPath, aOptions);
+  return ReadDrawingText(LoadFile(aPath, aOptions.largestFile), aPath, aOptions);
 }
 
 }  // namespace xsec

@@ -1,10 +1,13 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "xsec/Drawing.h"
+#include "xsec/DxfText.h"
 
 /// From a DXF file to lines and arcs in millimetres.
 ///
@@ -24,6 +27,10 @@ struct ReadOptions {
   /// UNITS: millimetres. The point that becomes the origin.
   double originX = 0;
   double originY = 0;
+  /// Lines and arcs that the drawing may have once its blocks are placed.
+  std::uint64_t mostEntities = 2'000'000;
+  /// UNITS: bytes.
+  std::size_t largestFile = kLargestFile;
 };
 
 /// Reads a file. Throws InputError with file, line and advice when it cannot be read.

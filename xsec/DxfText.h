@@ -60,7 +60,9 @@ class DxfPairReader {
 /// open and close, blocks that open and close, EOF at the end and nothing behind it.
 void CheckDxfText(std::string_view aText, const std::string& aPath);
 
-/// The bytes of a file. Throws InputError for one that is missing, a directory, unreadable or above 512 MiB.
-std::string LoadFile(const std::string& aPath);
+inline constexpr std::size_t kLargestFile = std::size_t{512} * 1024 * 1024;  // bytes
+
+/// The bytes of a file. Throws InputError for one that is missing, a directory, unreadable or above so many bytes.
+std::string LoadFile(const std::string& aPath, std::size_t aLargest = kLargestFile);
 
 }  // namespace xsec

@@ -16,7 +16,6 @@ namespace xsec {
 
 namespace {
 
-constexpr std::size_t kMostEntities = 2'000'000;
 constexpr double kStraightBulge = 1e-9;     // the arc leaves its chord by no more than half of this share of the chord
 constexpr double kFlattenTolerance = 0.01;  // millimetres
 constexpr double kFlattenShare = 1e-3;      // of the curve's size, when that is less
@@ -122,8 +121,8 @@ std::int32_t PlacedColour(const SourceEntity& aEntity, const Placement& aPlaceme
   return aEntity.colour == 0 && !aPlacement.block.empty() ? aPlacement.colour : aEntity.colour;
 }
 
-EntityMaker::EntityMaker(Drawing& aDrawing, std::optional<double> aTolerance)
-    : fDrawing(aDrawing), fTolerance(aTolerance) {}
+EntityMaker::EntityMaker(Drawing& aDrawing, std::optional<double> aTolerance, std::uint64_t aMostEntities)
+    : fDrawing(aDrawing), fTolerance(aTolerance), fMostEntities(aMostEntities) {}
 
 void EntityMaker::Make(const SourceEntity& aEntity, const Placement& aPlacement) {
   fTemplate = DrawingEntity{};
@@ -309,11 +308,11 @@ void EntityMaker::Add(const GeometryEngine::TDXFEntity& aGeometry) {
   if (isArc && !(aGeometry.radius > 0)) {
     return SkipThis(kNoRadius);
   }
-  if (fDrawing.entities.size() >= kMostEntities) {
+  if (fDrawing.entities.size() >= fMostEntities) {
     throw InputError(
         fDrawing.path, fTemplate.line,
-        fmt::format("the drawing has more than {} lines and arcs once its blocks are placed", kMostEntities),
-        "leave out what does not belong to the cross-section");
+        fmt::format("the drawing has more than {} lines and arcs once its blocks are placed", fMostEntities),
+        "leave out what does not belong to the cross-section, or allow more with --max-entities");
   }
   fTemplate.geometry = aGeometry;
   fDrawing.entities.push_back(fTemplate);

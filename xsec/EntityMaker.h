@@ -26,9 +26,9 @@ struct Placement {
 class EntityMaker {
  public:
   /// aTolerance: see ReadOptions::flattenTolerance. The drawing must outlive the maker.
-  EntityMaker(Drawing& aDrawing, std::optional<double> aTolerance);
+  EntityMaker(Drawing& aDrawing, std::optional<double> aTolerance, std::uint64_t aMostEntities);
 
-  /// Any shape but an insert. Throws InputError when the drawing would hold more than 2,000,000 lines and arcs.
+  /// Any shape but an insert. Throws InputError when the drawing would hold more than the most lines and arcs.
   void Make(const SourceEntity& aEntity, const Placement& aPlacement);
   void Skip(const SourceEntity& aEntity, const Placement& aPlacement, const std::string& aReason);
 
@@ -53,6 +53,7 @@ class EntityMaker {
 
   Drawing& fDrawing;
   std::optional<double> fTolerance;
+  std::uint64_t fMostEntities;
   DrawingEntity fTemplate;    // what the pieces of the present entity have in common
   bool fIsFlattened = false;  // the present entity had to be made of chords
 };

@@ -15,7 +15,8 @@ enum class ExitCode : int {
   OutputNotWritten = 4,
   NoClosedRegion = 5,
   CannotBeOffset = 6,
-  UnexpectedFault = 70,  ///< nothing the user can help: the memory is used up, or there is a mistake in the program
+  LimitReached = 7,      ///< the memory or the time that there is, or that was given, is used up
+  UnexpectedFault = 70,  ///< nothing the user can help: there is a mistake in the program
 };
 
 /// The drawing cannot be read. what() is one line for people: "FILE:LINE: what is wrong; what to do".

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <exception>
+#include <new>
 
 #include "xsec/CommandLine.h"
 #include "xsec/Terminal.h"
@@ -25,6 +26,9 @@ ExitCode AnswerToException() {
   } catch (const OutputError& error) {
     Tell(error.what());
     return ExitCode::OutputNotWritten;
+  } catch (const std::bad_alloc&) {
+    Tell("the memory is used up; leave out what does not belong to the cross-section, or give more by --max-memory");
+    return ExitCode::LimitReached;
   } catch (const std::exception& error) {
     Tell(fmt::format("unexpected fault: {}", error.what()));
     return ExitCode::UnexpectedFault;

@@ -28,6 +28,11 @@ std::string DxfOf(const std::string& entities) {
          "0\nENDSEC\n0\nEOF\n";
 }
 
+/// With a block "b".
+std::string DxfOf(const std::string& block, const std::string& entities) {
+  return "0\nSECTION\n2\nBLOCKS\n0\nBLOCK\n2\nb\n10\n0\n20\n0\n" + block + "0\nENDBLK\n0\nENDSEC\n" + DxfOf(entities);
+}
+
 std::string Line(double x1, double y1, double x2, double y2) {
   std::ostringstream text;
   text << "0\nLINE\n8\nPlate\n10\n" << x1 << "\n20\n" << y1 << "\n11\n" << x2 << "\n21\n" << y2 << "\n";
@@ -250,6 +255,30 @@ TEST_F(Xsec, HelpAndVersionGoToStandardOutput) {
 TEST_F(Xsec, ShowsNoProgressWhereNobodyWatches) {
   EXPECT_EQ(RunXsec("regions " + Drawing(DxfOf(Square(0, 0, 10)))), 0);
   EXPECT_EQ(fStderr.find('\r'), std::string::npos);
+}
+
+// A block without lines placed 400 million times takes time and no memory; one with a line takes both.
+TEST_F(Xsec, LimitsOfTheProcessEndItWithACodeOfTheirOwn) {
+  const std::string array = "0\nINSERT\n2\nb\n70\n20000\n71\n20000\n44\n1\n45\n1\n";
+  EXPECT_EQ(RunXsec("info --max-entities 1000000000 --max-seconds 1 " + Drawing(DxfOf("", array))), 7);
+  EXPECT_EQ(fStderr, "xsec: the time given by --max-seconds is used up\n");
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)  // which take all the address space there is
+  const std::string line = Line(0, 0, 1, 1);
+  EXPECT_EQ(RunXsec("info --max-entities 1000000000 --max-memory 400 " + Drawing(DxfOf(line, array))), 7);
+  EXPECT_THAT(fStderr, StartsWith("xsec: the memory is used up; "));
+#endif
+}
+
+TEST_F(Xsec, LimitsOfTheDrawingAreOptions) {
+  const std::string drawing = Drawing(DxfOf(Square(0, 0, 10)));
+  EXPECT_EQ(RunXsec("regions --max-entities 4 --max-file 1 " + drawing), 0);
+  EXPECT_EQ(RunXsec("regions --max-entities 3 " + drawing), 3);
+  EXPECT_THAT(fStderr, HasSubstr("more than 3 lines and arcs"));
+  const std::string large = Drawing(std::string(2 << 20, ' '));
+  EXPECT_EQ(RunXsec("regions --max-file 1 " + large), 3);
+  EXPECT_THAT(fStderr, HasSubstr("the file has more than 1 MiB"));
+  EXPECT_EQ(RunXsec("regions --max-entities 0 " + drawing), 2);
+  EXPECT_THAT(fStderr, HasSubstr("--max-entities 0: expected a number from 1 to "));
 }
 
 TEST_F(Xsec, InterruptLeavesWholeFilesOrNone) {

@@ -106,13 +106,13 @@ class TemporaryFile {
   std::string fName;
 };
 
-/// Keeps interrupts waiting while it lives.
+/// Keeps interrupts, and the end of the time given, waiting while it lives.
 class HeldSignals {
  public:
   HeldSignals() {
     sigset_t signals;
     sigemptyset(&signals);
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) sigaddset(&signals, signal);
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGXCPU}) sigaddset(&signals, signal);
     ::pthread_sigmask(SIG_BLOCK, &signals, &fBefore);
   }
   ~HeldSignals() { ::pthread_sigmask(SIG_SETMASK, &fBefore, nullptr); }
