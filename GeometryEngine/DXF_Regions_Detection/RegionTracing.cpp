@@ -59,7 +59,7 @@ class TTreeWalk {
   }
 
   bool Backtracks() const { return fWalk.fBacktracking; }
-  bool IsStart(const TEntityCoordinate& aPoint) const { return aPoint == fWalk.fStart; }
+  bool IsStart(const detail::TTurn<TStep>& aTurn) const { return aTurn.fFarEnd == fWalk.fStart; }
   bool IsOnPath(const TStep& aStep) const {
     return IsEntityInRegionPath(fTree, fWalk.fPath, aStep.fEntityEnd->EntityIndex());
   }

@@ -11,66 +11,81 @@ namespace GeometryEngine::detail {
 
 namespace {
 
-constexpr TIndex kUnclear = -2;  // in place of a half-edge: the angles proper have to decide
-
-// Directions as numbers from 0 to 4 that grow with the angle from the x axis, cheaper than the angle.
-constexpr double kUnknown = -1;
-constexpr double kHalfTurn = 2;
-constexpr double kFullTurn = 4;
-constexpr double kClearDifference = 1e-9;  // far more than rounding can do to these numbers or to the angles proper
-
-/// Two directions differ by at least half as much as their angles in radians.
-/// DEGENERATE: not a number for the vector (0, 0), and where infinite components leave the angle to a convention.
-double DirectionOf(const TVector_Single& aVector) {
-  const auto x = static_cast<double>(aVector.x);
-  const auto y = static_cast<double>(aVector.y);
-  const double slope = y / (std::abs(x) + std::abs(y));
-  if (x < 0) return kHalfTurn - slope;
-  return slope < 0 ? kFullTurn + slope : slope;
-}
+constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
+constexpr std::size_t kFirstLook = 32;  // half-edges blocked by a walk before it looks whether it may close
+constexpr std::size_t kLaterLooks = 2;  // times as many
+constexpr std::size_t kNever = std::numeric_limits<std::size_t>::max();
 
 }  // namespace
 
 TGraphWalk::TGraphWalk(const TVertexGraph& aGraph)
     : fGraph(aGraph),
-      fIsTravelled(At(aGraph.HalfEdgeCount())),
-      fTimesOnPath(At(aGraph.EntityCount()), 0),
-      fLeaving(At(aGraph.HalfEdgeCount()), kUnknown),
-      fArriving_Arcs(At(aGraph.HalfEdgeCount()), kUnknown),
-      fAreaTerms(At(aGraph.HalfEdgeCount()), std::numeric_limits<double>::quiet_NaN()) {
-  for (TIndex h = 0; h < aGraph.HalfEdgeCount(); ++h) fIsTravelled[At(h)] = aGraph.Node(h).Travelled() ? 1 : 0;
+      fOrder(aGraph),
+      fWayBack(aGraph),
+      fMarks(At(aGraph.HalfEdgeCount())),
+      fTimesOnPath(aGraph.IsRegular() ? 0 : At(aGraph.EntityCount()), 0),
+      fAreaTerms(At(aGraph.HalfEdgeCount()), kNotANumber) {
+  for (TIndex h = 0; h < aGraph.HalfEdgeCount(); ++h) fMarks[At(h)] = aGraph.HalfEdge(h).fIsTravelled ? kTaken : 0;
+  if (aGraph.IsRegular()) MarkDeadEnds();
+}
+
+void TGraphWalk::MarkDeadEnds() {
+  for (TIndex h = 0; h < fGraph.HalfEdgeCount(); ++h) {
+    const THalfEdge& halfEdge = fGraph.HalfEdge(h);
+    if (fGraph.IsDangling(halfEdge.fVertex)) fMarks[At(halfEdge.fTwin)] |= kDeadEnd;
+  }
 }
 
 void TGraphWalk::Walk(TIndex aHalfEdge, bool aBacktracking) {
-  for (const TIndex h : fPath) TakeOffPath(h);
+  KeepMarks();
   fPath.clear();
-  fBacktracks = aBacktracking;
-  fAvoidsBridges = !fIsBridge.empty();
-  Begin(aHalfEdge);
-}
-
-void TGraphWalk::WalkAgainOverBridges() {
-  const TIndex first = fPath.front();
-  for (const TIndex h : fPath) {
-    TakeOffPath(h);
-    fIsTravelled[At(h)] = 0;
-  }
-  fPath.clear();
-  fAvoidsBridges = false;
-  Begin(first);
-}
-
-void TGraphWalk::Begin(TIndex aHalfEdge) {
   fBlocked.clear();
+  fPassed.clear();
   fSteps.clear();
+  fFirst = aHalfEdge;
   fStart = fGraph.From(fGraph.HalfEdge(aHalfEdge));
+  fBacktracks = aBacktracking;
   fHasClosed = false;
-  fPassedByBridges = false;
+  fNextLook = fGraph.IsRegular() ? kFirstLook : kNever;
   WalkToEnd(*this, aHalfEdge);
 }
 
-void TGraphWalk::AvoidBridges(std::vector<std::uint8_t> aIsBridge) {
-  fIsBridge = std::move(aIsBridge);
+// The path that the last walk has left.
+void TGraphWalk::KeepMarks() {
+  for (const TIndex h : fPath) {
+    TakeOffPath(h);
+    Unmark(h, kWalked);
+    fMarks[At(h)] |= kTaken;
+  }
+}
+
+void TGraphWalk::AvoidBridges(std::span<const std::uint8_t> aIsBridge) {
+  fAvoidsBridges = true;
+  for (std::size_t h = 0; h < aIsBridge.size(); ++h) {
+    if (aIsBridge[h] != 0) fMarks[h] |= kBridge;
+  }
+}
+
+// Beyond a bridge nothing was touched by the walk, so that it makes no difference when these steps are taken.
+void TGraphWalk::AddStepsOverBridges() {
+  const std::vector<TIndex> walked = std::exchange(fSteps, {});
+  std::vector<TIndex> loop = std::exchange(fPath, {});
+  fAvoidsBridges = false;
+  fNextLook = kNever;
+  std::size_t copied = 0;
+  const auto copyUpTo = [&](std::size_t aEnd) {
+    fSteps.insert(fSteps.end(), &walked[copied], walked.data() + aEnd);
+    copied = aEnd;
+  };
+  for (const auto& [steps, bridge] : fPassed) {
+    copyUpTo(steps);
+    const TIndex before = fSteps.back();
+    WalkToEnd(*this, bridge);
+    fSteps.insert(fSteps.end(), {~bridge, ~before, before});
+  }
+  copyUpTo(walked.size());
+  fAvoidsBridges = true;
+  fPath = std::move(loop);
 }
 
 double TGraphWalk::GetArea() {
@@ -90,7 +105,6 @@ double TGraphWalk::GetAreaTerm(TIndex aHalfEdge) {
 }
 
 TEntityCoordinate TGraphWalk::GetCentroid(double aArea) {
-  constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
   const bool repeatsTerms = fSteps.size() > fPath.size();
   if (repeatsTerms && fCentroidTerms.empty()) fCentroidTerms.resize(fAreaTerms.size(), {kNotANumber, kNotANumber});
   TEntityCoordinate sum;
@@ -116,46 +130,54 @@ TEntityCoordinate TGraphWalk::GetCentroidTerm(TIndex aHalfEdge) {
 
 void TGraphWalk::WriteMarks() const {
   for (TIndex h = 0; h < fGraph.HalfEdgeCount(); ++h) {
-    if (IsTravelled(h)) fGraph.Node(h).Travelled(true);
+    if (IsTravelled(h) && !fGraph.HalfEdge(h).fIsTravelled) fGraph.Node(h).Travelled(true);
   }
 }
 
-void TGraphWalk::PutOnPath(TIndex aHalfEdge) {
-  fIsTravelled[At(aHalfEdge)] = 1;
+void TGraphWalk::Enter(TIndex aHalfEdge) {
+  fMarks[At(aHalfEdge)] |= kWalked | kOnPath;
   fPath.push_back(aHalfEdge);
+  fSteps.push_back(aHalfEdge);
+  if (fGraph.IsRegular()) return;
   const TIndex entity = fGraph.HalfEdge(aHalfEdge).fEntityIndex;
   if (IsIndexWithin(entity, fTimesOnPath.size())) ++fTimesOnPath[At(entity)];
 }
 
 void TGraphWalk::TakeOffPath(TIndex aHalfEdge) {
+  Unmark(aHalfEdge, kOnPath);
+  if (fGraph.IsRegular()) return;
   const TIndex entity = fGraph.HalfEdge(aHalfEdge).fEntityIndex;
   if (IsIndexWithin(entity, fTimesOnPath.size())) --fTimesOnPath[At(entity)];
 }
 
-void TGraphWalk::Enter(TIndex aHalfEdge) {
-  PutOnPath(aHalfEdge);
-  fSteps.push_back(aHalfEdge);
-}
-
+// Asked about half-edges that are free: in a regular graph the entity has but one other.
 bool TGraphWalk::IsOnPath(TIndex aHalfEdge) const {
-  const TIndex entity = fGraph.HalfEdge(aHalfEdge).fEntityIndex;
+  const THalfEdge& halfEdge = fGraph.HalfEdge(aHalfEdge);
+  if (fGraph.IsRegular()) return (fMarks[At(halfEdge.fTwin)] & kOnPath) != 0;
+  const TIndex entity = halfEdge.fEntityIndex;
   if (IsIndexWithin(entity, fTimesOnPath.size())) return fTimesOnPath[At(entity)] > 0;
   return std::ranges::any_of(fPath, [&](TIndex h) { return fGraph.HalfEdge(h).fEntityIndex == entity; });
 }
 
-bool TGraphWalk::IsStart(const TEntityCoordinate& aPoint) const {
-  return AreSame(aPoint, fStart, fGraph.Tolerance());
+// Vertices of a regular graph are all apart.
+bool TGraphWalk::IsStart(const TTurn<TIndex>& aTurn) const {
+  if (fGraph.IsRegular()) {
+    return fGraph.HalfEdge(aTurn.fHalfEdge).fFarVertex == fGraph.HalfEdge(fFirst).fVertex;
+  }
+  return AreSame(aTurn.fFarEnd, fStart, fGraph.Tolerance());
 }
 
 void TGraphWalk::FreeBlocked() {
-  for (const TIndex h : fBlocked) fIsTravelled[At(h)] = 0;
+  for (const TIndex h : fBlocked) Unmark(h, kWalked);
+  fBlocked.clear();
 }
 
 void TGraphWalk::Close(const TTurn<TIndex>& aLast) {
   fLastVertex = fGraph.FarEnd(fGraph.HalfEdge(fPath.back()));
-  fLastFarEnd = aLast.fFarEnd;
+  fLastFarEnd = fGraph.IsRegular() ? fStart : aLast.fFarEnd;
   if (fBacktracks) FreeBlocked();
-  PutOnPath(aLast.fHalfEdge);
+  Enter(aLast.fHalfEdge);
+  fSteps.pop_back();  // its terms come last of all, whatever else is added
   fHasClosed = true;
 }
 
@@ -163,12 +185,7 @@ TIndex TGraphWalk::StepBack() {
   const TIndex last = fPath.back();
   fBlocked.push_back(last);
   ++fStepsBack;
-  if (fPath.size() < 2) {
-    FreeBlocked();
-    TakeOffPath(last);
-    fPath.clear();
-    return kNone;
-  }
+  if (fPath.size() < 2 || IsLost()) return GiveUp();
   const TIndex previous = fPath[fPath.size() - 2];
   fSteps.push_back(~last);
   fSteps.push_back(~previous);
@@ -178,101 +195,85 @@ TIndex TGraphWalk::StepBack() {
   return previous;
 }
 
-TTurn<TIndex> TGraphWalk::FindSharpestTurn() {
-  const TIndex last = fPath.back();
-  const THalfEdge& halfEdge = fGraph.HalfEdge(last);
-  if (halfEdge.fFarVertex == kNotFound) return {kNone, {}};
-  const TIndex clear = halfEdge.fIsExact ? FindClearlySharpest(last) : kUnclear;
-  if (clear == kUnclear) return FindByAngle(last);
-  if (clear == kNone) return {kNone, {}};
-  return {clear, fGraph.FarEnd(fGraph.HalfEdge(clear))};
+TIndex TGraphWalk::GiveUp() {
+  for (const TIndex h : fPath) {
+    TakeOffPath(h);
+    Unmark(h, kWalked);
+  }
+  fPath.clear();
+  FreeBlocked();
+  return kNone;
 }
 
-bool TGraphWalk::MayTake(TIndex aCandidate, TIndex aLast) {
-  if (IsTravelled(aCandidate) || IsSameEntity(aCandidate, aLast)) return false;
-  if (!fAvoidsBridges || !IsBridge(aCandidate)) return true;
-  fPassedByBridges = true;
+// Looking takes no longer than walking has taken so far.
+bool TGraphWalk::IsLost() {
+  if (fBlocked.size() < fNextLook) return false;
+  const auto isOpen = [this](TIndex aHalfEdge) { return (fMarks[At(aHalfEdge)] & (kTaken | kBridge)) == 0; };
+  const bool mayClose = fWayBack.MayExist(fFirst, fNextLook, isOpen);
+  fNextLook *= kLaterLooks;
+  return !mayClose;
+}
+
+TTurn<TIndex> TGraphWalk::FindSharpestTurn() {
+  const TIndex last = fPath.back();
+  const THalfEdge& arriving = fGraph.HalfEdge(last);
+  if (arriving.fFarVertex == kNotFound) return {kNone, {}};
+  const TIndex first = fOrder.FirstTurn(last);
+  if (first == TTurnOrder::kUnclear) return FindByAngle(last);
+  for (TIndex h = first; h != arriving.fTwin; h = fOrder.Clockwise(h)) {
+    if (!MayTake(h)) continue;
+    return {h, fGraph.IsRegular() ? TEntityCoordinate{} : fGraph.FarEnd(fGraph.HalfEdge(h))};
+  }
+  return {kNone, {}};
+}
+
+bool TGraphWalk::MayTake(TIndex aCandidate) {
+  const std::uint8_t marks = fMarks[At(aCandidate)];
+  if (marks == 0) return true;
+  if ((marks & (kTaken | kWalked)) != 0) return false;
+  if ((marks & kDeadEnd) != 0 && fBacktracks) {
+    StepIntoDeadEnd(aCandidate);
+    return false;
+  }
+  if (!fAvoidsBridges || (marks & kBridge) == 0) return true;
+  PassBy(aCandidate);
   return false;
 }
 
-bool TGraphWalk::IsSameEntity(TIndex aCandidate, TIndex aLast) const {
-  const THalfEdge& candidate = fGraph.HalfEdge(aCandidate);
-  const THalfEdge& last = fGraph.HalfEdge(aLast);
-  if (fGraph.IsRegular()) {
-    if (candidate.fEntityIndex == last.fEntityIndex) return true;
-    if (candidate.fFarVertex != last.fVertex) return false;
-  }
-  return fGraph.Entity(candidate) == fGraph.Entity(last);
+// What entering it and stepping back from it comes to.
+void TGraphWalk::StepIntoDeadEnd(TIndex aHalfEdge) {
+  const TIndex last = fPath.back();
+  fSteps.insert(fSteps.end(), {aHalfEdge, ~aHalfEdge, ~last, last});
+  fMarks[At(aHalfEdge)] |= kWalked;
+  fBlocked.push_back(aHalfEdge);
 }
 
-// The sharpest turn where directions leave no doubt about it, or where there are no two to choose from. The walk
-// has arrived on the vertex to the bit, so that what leaves it does so in the directions that are remembered.
-TIndex TGraphWalk::FindClearlySharpest(TIndex aLast) {
-  const TIndex vertex = fGraph.HalfEdge(aLast).fFarVertex;
-  TIndex best = kNone;
-  double bestTurn = kUnknown;
-  for (TIndex h = fGraph.FirstHalfEdge(vertex); h < fGraph.EndOfHalfEdges(vertex); ++h) {
-    if (!MayTake(h, aLast)) continue;
-    if (!fGraph.HalfEdge(h).fIsExact) return kUnclear;
-    if (best == kNone) {
-      best = h;
-      continue;
-    }
-    if (bestTurn == kUnknown) bestTurn = GetClearTurn(aLast, best);
-    const double turn = GetClearTurn(aLast, h);
-    if (!(std::abs(turn - bestTurn) > kClearDifference)) return kUnclear;
-    if (turn < bestTurn) continue;
-    best = h;
-    bestTurn = turn;
-  }
-  return best;
-}
-
-// How far it is to the left from where the walk came from; not a number for what leaves just there, where rounding
-// decides between a turn of nothing and a full one.
-double TGraphWalk::GetClearTurn(TIndex aLast, TIndex aCandidate) {
-  const double difference = DirectionLeaving(aCandidate) - DirectionArriving(aLast);
-  const double turn = difference < 0 ? difference + kFullTurn : difference;
-  const bool isClear = turn > kClearDifference && turn < kFullTurn - kClearDifference;
-  return isClear ? turn : std::numeric_limits<double>::quiet_NaN();
+void TGraphWalk::PassBy(TIndex aBridge) {
+  fPassed.push_back({fSteps.size(), aBridge});
+  fMarks[At(aBridge)] |= kWalked;
+  fBlocked.push_back(aBridge);
 }
 
 TTurn<TIndex> TGraphWalk::FindByAngle(TIndex aLast) {
+  for (;;) {
+    const TTurn<TIndex> best = FindSharpestAngle(aLast);
+    if (best.fHalfEdge == kNone || MayTake(best.fHalfEdge)) return best;
+  }
+}
+
+TTurn<TIndex> TGraphWalk::FindSharpestAngle(TIndex aLast) const {
   const THalfEdge& last = fGraph.HalfEdge(aLast);
   const TEntityCoordinate vertex = fGraph.FarEnd(last);
   const TVector_Single arriving = GetEntityVector(fGraph.From(last), vertex, fGraph.Entity(last), kVector_Arriving);
   TTurn<TIndex> best{kNone, {}};
   for (TIndex h = fGraph.FirstHalfEdge(last.fFarVertex); h < fGraph.EndOfHalfEdges(last.fFarVertex); ++h) {
-    if (!MayTake(h, aLast)) continue;
-    const TEntityCoordinate farEnd = fGraph.FarEndFrom(vertex, fGraph.HalfEdge(h));
-    const TDXFEntity& entity = fGraph.Entity(fGraph.HalfEdge(h));
-    const TTurn<TIndex> turn{h, farEnd, GetTurnAngle(arriving, vertex, farEnd, entity)};
+    const THalfEdge& candidate = fGraph.HalfEdge(h);
+    if (IsTravelled(h) || fGraph.AreSameEntity(last, candidate)) continue;
+    const TEntityCoordinate farEnd = fGraph.FarEndFrom(vertex, candidate);
+    const TTurn<TIndex> turn{h, farEnd, GetTurnAngle(arriving, vertex, farEnd, fGraph.Entity(candidate))};
     if (IsSharper(turn, best, vertex)) best = turn;
   }
   return best;
-}
-
-double TGraphWalk::DirectionLeaving(TIndex aHalfEdge) {
-  double& direction = fLeaving[At(aHalfEdge)];
-  if (direction == kUnknown) direction = GetDirection(aHalfEdge, kVector_Leaving);
-  return direction;
-}
-
-// Of a line it is opposite to the one in which it leaves.
-double TGraphWalk::DirectionArriving(TIndex aHalfEdge) {
-  if (fGraph.HalfEdge(aHalfEdge).fIsLine) {
-    const double leaving = DirectionLeaving(aHalfEdge);
-    return leaving < kHalfTurn ? leaving + kHalfTurn : leaving - kHalfTurn;
-  }
-  double& direction = fArriving_Arcs[At(aHalfEdge)];
-  if (direction == kUnknown) direction = GetDirection(aHalfEdge, kVector_Arriving);
-  return direction;
-}
-
-double TGraphWalk::GetDirection(TIndex aHalfEdge, std::int32_t aMode) const {
-  const THalfEdge& halfEdge = fGraph.HalfEdge(aHalfEdge);
-  const TDXFEntity& entity = fGraph.Entity(halfEdge);
-  return DirectionOf(GetEntityVector(fGraph.From(halfEdge), fGraph.FarEnd(halfEdge), entity, aMode));
 }
 
 }  // namespace GeometryEngine::detail

@@ -7,13 +7,18 @@
 #include <span>
 #include <vector>
 
+#include "GeometryEngine/DXF_Regions_Detection/detail/TTurnOrder.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TVertexGraph.h"
+#include "GeometryEngine/DXF_Regions_Detection/detail/TWayBack.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/WalkRule.h"
 
 namespace GeometryEngine::detail {
 
 /// Walks one after the other through one graph. Marks of travel are kept here from walk to walk, and taken over from
 /// the tree at first; they are the walk's own until `WriteMarks` puts them into the tree.
+///
+/// A walk that steps back time and again looks whether any way leads to its start at all, and is over when there is
+/// none: it would only step back over all of its path.
 ///
 /// REQUIRES: a graph that outlives the walk.
 class TGraphWalk {
@@ -38,16 +43,16 @@ class TGraphWalk {
   TEntityCoordinate GetCentroid(double aArea);
 
   /// From now on walks pass by these half-edges (1 stands for a bridge) as if they were travelled.
-  void AvoidBridges(std::vector<std::uint8_t> aIsBridge);
-  bool IsBridge(TIndex aHalfEdge) const { return !fIsBridge.empty() && fIsBridge[At(aHalfEdge)] != 0; }
-  /// True when the last walk came by a bridge that it might have turned into.
-  bool PassedByBridges() const { return fPassedByBridges; }
-  /// Walks the last walk's loop once more, over bridges and back.
-  void WalkAgainOverBridges();
+  void AvoidBridges(std::span<const std::uint8_t> aIsBridge);
+  bool IsBridge(TIndex aHalfEdge) const { return (fMarks[At(aHalfEdge)] & kBridge) != 0; }
+  /// True when the last walk came by a bridge that it would have turned into.
+  bool PassedByBridges() const { return !fPassed.empty(); }
+  /// Puts the steps over these bridges and back among those of the last walk. REQUIRES: a walk that has closed.
+  void AddStepsOverBridges();
   /// How often all walks together have stepped back.
   std::size_t StepsBack() const { return fStepsBack; }
 
-  bool IsTravelled(TIndex aHalfEdge) const { return fIsTravelled[At(aHalfEdge)] != 0; }
+  bool IsTravelled(TIndex aHalfEdge) const { return (fMarks[At(aHalfEdge)] & (kTaken | kWalked)) != 0; }
   void WriteMarks() const;
 
   // The rules' view of the walk (WalkRule.h) --------------------------------------------------------------------------
@@ -55,45 +60,57 @@ class TGraphWalk {
   void Enter(TIndex aHalfEdge);
   TTurn<TIndex> FindSharpestTurn();
   bool IsOnPath(TIndex aHalfEdge) const;
-  bool IsStart(const TEntityCoordinate& aPoint) const;
+  bool IsStart(const TTurn<TIndex>& aTurn) const;
   void Close(const TTurn<TIndex>& aLast);
   TIndex StepBack();
   bool Backtracks() const { return fBacktracks; }
 
  private:
+  static constexpr std::uint8_t kTaken = 1;   // travelled before the walk in hand
+  static constexpr std::uint8_t kWalked = 2;  // by the walk in hand: on its path, stepped back from or passed by
+  static constexpr std::uint8_t kOnPath = 4;
+  static constexpr std::uint8_t kBridge = 8;
+  static constexpr std::uint8_t kDeadEnd = 16;  // leads to a vertex that nothing else leaves
+
+  /// A bridge that was passed by, and after how many steps.
+  struct TPassed {
+    std::size_t fSteps;
+    TIndex fBridge;
+  };
+
   static std::size_t At(TIndex aIndex) { return static_cast<std::size_t>(aIndex); }
-  void PutOnPath(TIndex aHalfEdge);
+  void KeepMarks();
   void TakeOffPath(TIndex aHalfEdge);
+  void Unmark(TIndex aHalfEdge, std::uint8_t aMarks) { fMarks[At(aHalfEdge)] &= static_cast<std::uint8_t>(~aMarks); }
   void FreeBlocked();
-  void Begin(TIndex aHalfEdge);
-  TEntityCoordinate GetCentroidTerm(TIndex aHalfEdge);
-  bool MayTake(TIndex aCandidate, TIndex aLast);
-  bool IsSameEntity(TIndex aCandidate, TIndex aLast) const;
-  TIndex FindClearlySharpest(TIndex aLast);
+  TIndex GiveUp();
+  bool IsLost();
+  void MarkDeadEnds();
+  bool MayTake(TIndex aCandidate);
+  void StepIntoDeadEnd(TIndex aHalfEdge);
+  void PassBy(TIndex aBridge);
   TTurn<TIndex> FindByAngle(TIndex aLast);
-  double GetClearTurn(TIndex aLast, TIndex aCandidate);
-  double DirectionLeaving(TIndex aHalfEdge);
-  double DirectionArriving(TIndex aHalfEdge);
-  double GetDirection(TIndex aHalfEdge, std::int32_t aMode) const;
+  TTurn<TIndex> FindSharpestAngle(TIndex aLast) const;
+  TEntityCoordinate GetCentroidTerm(TIndex aHalfEdge);
 
   const TVertexGraph& fGraph;
-  std::vector<std::uint8_t> fIsTravelled;   // by half-edge
-  std::vector<std::uint32_t> fTimesOnPath;  // by entity
-  std::vector<double> fLeaving;             // by half-edge, unknown until it is asked for
-  std::vector<double> fArriving_Arcs;       // the same
-  std::vector<double> fAreaTerms;           // by half-edge, not a number until it is asked for
-
+  TTurnOrder fOrder;
+  TWayBack fWayBack;
+  std::vector<std::uint8_t> fMarks;               // by half-edge
+  std::vector<std::uint32_t> fTimesOnPath;        // by entity, unless the graph is regular
+  std::vector<double> fAreaTerms;                 // by half-edge, not a number until it is asked for
   std::vector<TEntityCoordinate> fCentroidTerms;  // the same, once a walk has gone to and fro
 
   TEntityCoordinate fStart;
+  TIndex fFirst = kNone;
   bool fBacktracks = false;
   bool fAvoidsBridges = false;
-  bool fPassedByBridges = false;
   bool fHasClosed = false;
-  std::vector<std::uint8_t> fIsBridge;  // by half-edge, once bridges are avoided
   std::size_t fStepsBack = 0;
+  std::size_t fNextLook = 0;  // so many half-edges blocked, and the walk looks whether there is a way to its start
   std::vector<TIndex> fPath;
   std::vector<TIndex> fBlocked;
+  std::vector<TPassed> fPassed;
   std::vector<TIndex> fSteps;     // half-edges whose terms were added, and the complements of those taken out again
   TEntityCoordinate fLastVertex;  // where the loop's last half-edge begins,
   TEntityCoordinate fLastFarEnd;  // and where it ends

@@ -12,11 +12,10 @@ bool TLoopTracing::Trace(TIndex aHalfEdge, bool aNegativeToo) {
   if (fWalk.IsBridge(aHalfEdge)) return false;
   fWalk.Walk(aHalfEdge, true);
   if (!fWalk.HasClosed()) return false;
-  fArea = fWalk.GetArea();
-  // The steps over a bridge and back leave their rounding in the sums.
-  const bool mayPassOver = fArea < 0 && !aNegativeToo && IsSignCertain();
-  if (fWalk.PassedByBridges() && !mayPassOver) {
-    fWalk.WalkAgainOverBridges();
+  const bool mayPassOver = !aNegativeToo && fKnowsBridges && IsSurelyNegative();
+  if (!mayPassOver) {
+    // The steps over a bridge and back leave their rounding in the sums.
+    if (fWalk.PassedByBridges()) fWalk.AddStepsOverBridges();
     fArea = fWalk.GetArea();
   }
   if (fKnowsBridges) CountOffLoop();
@@ -24,8 +23,9 @@ bool TLoopTracing::Trace(TIndex aHalfEdge, bool aNegativeToo) {
 }
 
 void TLoopTracing::FindBridgesOnceTheyMatter() {
+  constexpr std::size_t kFewSteps = 16;  // half-edges for one step back
   const auto halfEdges = static_cast<std::size_t>(fGraph.HalfEdgeCount());
-  if (fKnowsBridges || fWalk.StepsBack() <= halfEdges || !fGraph.IsRegular()) return;
+  if (fKnowsBridges || kFewSteps * fWalk.StepsBack() <= halfEdges || !fGraph.IsRegular()) return;
   fKnowsBridges = true;
   fWalk.AvoidBridges(FindBridges(fGraph));
   CountFree();
@@ -46,12 +46,15 @@ void TLoopTracing::CountOffLoop() {
   for (const TIndex h : fWalk.Path()) fFreeMagnitudes -= std::abs(fWalk.GetAreaTerm(h));
 }
 
-// Along a walk each free half-edge is entered once, and entered again or taken out three times more for each step back,
-// of which there are no more than half-edges. No sum on the way exceeds the magnitudes of all of them, so that each of
-// these steps rounds by half an epsilon of that at most. The sum without bridges does no more.
-bool TLoopTracing::IsSignCertain() const {
+// Whether the sum along the whole walk is negative, as the one along its path is but for rounding. Along a walk each
+// free half-edge is entered once, and entered again or taken out three times more for each step back, of which there
+// are no more than half-edges. No sum on the way exceeds the magnitudes of all of them, so that each of these steps
+// rounds by half an epsilon of that at most. The sum along the path does no more.
+bool TLoopTracing::IsSurelyNegative() {
   constexpr double kRounding = 4 * std::numeric_limits<double>::epsilon();
-  return std::abs(fArea) > kRounding * (fFree + 1) * fFreeMagnitudes;
+  fArea = 0;
+  for (const TIndex h : fWalk.Path()) fArea += fWalk.GetAreaTerm(h);
+  return fArea < -kRounding * (fFree + 1) * fFreeMagnitudes;
 }
 
 }  // namespace GeometryEngine::detail

@@ -9,9 +9,9 @@ namespace GeometryEngine::detail {
 
 /// Walks that close, one after the other, and what they add up to.
 ///
-/// A bridge of the graph can't be on a loop. Once the walks have stepped back as often as there are half-edges, bridges
-/// are looked for, and walks neither start on one nor turn into one: what lies beyond would be walked in vain, by one
-/// walk after the other. docs/numerics.md says why that changes no answer.
+/// A bridge of the graph can't be on a loop. Once the walks have stepped back often, bridges are looked for, and walks
+/// neither start on one nor turn into one: what lies beyond would be walked in vain, by one walk after the other.
+/// docs/numerics.md says why that changes no answer.
 ///
 /// REQUIRES: a graph that outlives the tracing.
 /// COST: few steps for each half-edge, and the steps that kept loops make beyond bridges and back.
@@ -31,7 +31,7 @@ class TLoopTracing {
   void FindBridgesOnceTheyMatter();
   void CountFree();
   void CountOffLoop();
-  bool IsSignCertain() const;
+  bool IsSurelyNegative();
 
   const TVertexGraph& fGraph;
   TGraphWalk fWalk;

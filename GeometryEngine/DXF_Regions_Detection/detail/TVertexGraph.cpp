@@ -108,6 +108,7 @@ void TVertexGraph::ReadTree(const TEntityTree& aTree) {
       THalfEdge& halfEdge = fHalfEdges.emplace_back();
       halfEdge.fVertex = ToIndex(fPoints.size());
       halfEdge.fEntityIndex = node->EntityIndex();
+      halfEdge.fIsTravelled = node->Travelled();
       fNodes.push_back(node);
     }
     fPoints.push_back(vertex->Coordinates());
@@ -124,6 +125,7 @@ void TVertexGraph::FindFarVertices() {
     const TEntityCoordinate farEnd = FarEndFrom(From(halfEdge), halfEdge);
     const TIndex twin = twins.Of(h, halfEdge.fEntityIndex);
     const bool leadsToTwin = twin != kNotFound && HasSameBits(From(HalfEdge(twin)), farEnd);
+    if (leadsToTwin) halfEdge.fTwin = twin;
     halfEdge.fFarVertex = leadsToTwin ? search.FindFirst(HalfEdge(twin).fVertex) : search.FindFirst(farEnd);
     halfEdge.fIsLine = Entity(halfEdge).EntityType == DXFLine;
     halfEdge.fIsExact = IsExact(halfEdge, farEnd);
@@ -150,6 +152,13 @@ bool TVertexGraph::JoinsVertices(const THalfEdge& aHalfEdge) const {
 const TDXFEntity& TVertexGraph::Entity(const THalfEdge& aHalfEdge) const {
   static const TDXFEntity empty;
   return IsIndexWithin(aHalfEdge.fEntityIndex, fEntities.size()) ? fEntities[At(aHalfEdge.fEntityIndex)] : empty;
+}
+
+bool TVertexGraph::AreSameEntity(const THalfEdge& aArriving, const THalfEdge& aLeaving) const {
+  // A piece with an infinite coordinate is not the same as itself.
+  if (IsRegular() && aLeaving.fEntityIndex == aArriving.fEntityIndex) return true;
+  if (IsRegular() && aLeaving.fFarVertex != aArriving.fVertex) return false;
+  return Entity(aLeaving) == Entity(aArriving);
 }
 
 TEntityCoordinate TVertexGraph::FarEnd(const THalfEdge& aHalfEdge) const {

@@ -18,6 +18,8 @@ struct THalfEdge {
   TIndex fVertex = kNotFound;     ///< the vertex that it leaves
   TIndex fFarVertex = kNotFound;  ///< the first vertex that is the same as its far end; kNotFound without one
   TIndex fEntityIndex = kNotFound;
+  TIndex fTwin = kNotFound;   ///< the piece's other half-edge, if it begins at the far end to the bit; else kNotFound
+  bool fIsTravelled = false;  ///< when the graph was read
   bool fIsLine = false;
   /// The far end is the far vertex's point to the bit, and all numbers of the piece are finite and below 1e150, so that
   /// its directions are numbers and the piece equals itself.
@@ -40,8 +42,10 @@ class TVertexGraph {
   /// The half-edges that leave a vertex are those from its first one up to the first one of the next vertex.
   TIndex FirstHalfEdge(TIndex aVertex) const { return fFirst[At(aVertex)]; }
   TIndex EndOfHalfEdges(TIndex aVertex) const { return fFirst[At(aVertex) + 1]; }
+  /// How many half-edges leave a vertex.
+  TIndex Degree(TIndex aVertex) const { return EndOfHalfEdges(aVertex) - FirstHalfEdge(aVertex); }
   /// True for a vertex that a single half-edge leaves.
-  bool IsDangling(TIndex aVertex) const { return EndOfHalfEdges(aVertex) - FirstHalfEdge(aVertex) == 1; }
+  bool IsDangling(TIndex aVertex) const { return Degree(aVertex) == 1; }
 
   const THalfEdge& HalfEdge(TIndex aHalfEdge) const { return fHalfEdges[At(aHalfEdge)]; }
   TTreeNode& Node(TIndex aHalfEdge) const { return *fNodes[At(aHalfEdge)]; }
@@ -50,6 +54,9 @@ class TVertexGraph {
   TEntityCoordinate FarEnd(const THalfEdge& aHalfEdge) const;
   /// The far end of a half-edge of this vertex, were it entered at this point.
   TEntityCoordinate FarEndFrom(const TEntityCoordinate& aPoint, const THalfEdge& aHalfEdge) const;
+
+  /// Whether a walk that has arrived by a half-edge would, with one that leaves its far vertex, take the same entity.
+  bool AreSameEntity(const THalfEdge& aArriving, const THalfEdge& aLeaving) const;
 
   /// The linear tolerance that the graph was read under.
   double Tolerance() const { return fTolerance; }

@@ -39,7 +39,7 @@ bool IsSharper(const TTurn<THalfEdge>& aTurn, const TTurn<THalfEdge>& aBest, con
 /// - `Enter(halfEdge)`: marks it as travelled, puts it on the path and its terms into the sums;
 /// - `FindSharpestTurn()`: where to go from the far end of the half-edge entered last; none at a dead end;
 /// - `IsOnPath(halfEdge)`: whether an end of its entity is on the path already;
-/// - `IsStart(point)`, `Close(turn)`: whether the loop closes there, and its last half-edge;
+/// - `IsStart(turn)`, `Close(turn)`: whether it leads to where the loop closes, and the loop's last half-edge;
 /// - `StepBack()`: takes two half-edges off the path and answers the first of them, to be entered again;
 /// - `Backtracks()`, and `fNone`, which stands for no half-edge.
 template <class TWalk, class THalfEdge>
@@ -51,7 +51,7 @@ THalfEdge WalkOn(TWalk& aWalk, const THalfEdge& aHalfEdge) {
   if (deadEnd || (aWalk.Backtracks() && aWalk.IsOnPath(best.fHalfEdge))) return aWalk.StepBack();
   // KEPT: a loop closes where it first comes back to its start. One that passes a vertex twice is traced as a whole
   // from every other vertex, but falls apart at that one; hosts index regions by what this rule yields.
-  if (aWalk.IsStart(best.fFarEnd)) {
+  if (aWalk.IsStart(best)) {
     aWalk.Close(best);
     return TWalk::kNone;
   }
