@@ -38,6 +38,7 @@ void TTreeNode_Geometry::SpreadOutputs(std::int32_t aCopies, const TPlaceCopy& a
   const TEntityCoordinate label = GetRegionCoordinate_Single();
   TEntityCoordinate sum;
   TCoordinateArray labels;
+  labels.reserve(static_cast<std::size_t>(aCopies));  // all at once, so that too many fail before they fill the memory
   for (std::int32_t k = 0; k < aCopies; ++k) {
     sum = sum + aPlaceCopy(fCentroid, k);
     labels.push_back(aPlaceCopy(label, k));

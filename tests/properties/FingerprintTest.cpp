@@ -25,6 +25,7 @@ using testing::ElementsAre;
 
 constexpr std::int32_t kFaces = 1;     // anticlockwise loops
 constexpr std::int32_t kOutlines = 2;  // clockwise loops
+constexpr double kDrawingArea = 1e6;   // of the square that a random drawing fills
 
 /// The equation of two crossing circles' common chord has a slope of the centres' distance across by their distance in
 /// height; beyond this one it costs digits (see below for what comes of it).
@@ -99,6 +100,38 @@ TEST_P(Fingerprints_OfRandomDrawings, MirrorWithTheDrawing) {
   const double y = fRandom.Between(-500, 500);
   ExpectToFollow(MirroredAbout(CreateEntity_Line(x, 0, x, 1)));
   ExpectToFollow(MirroredAbout(CreateEntity_Line(0, y, 1, y)));
+}
+
+/// A line or an arc in two, cut somewhere in its middle half.
+std::pair<TDXFEntity, TDXFEntity> Split(const TDXFEntity& aEntity, double aPart) {
+  if (aEntity.EntityType == DXFLine) {
+    const TEntityCoordinate cut = aEntity.StartCoords + aPart * (aEntity.EndCoords - aEntity.StartCoords);
+    return {CreateEntity_Line(aEntity.StartCoords, cut), CreateEntity_Line(cut, aEntity.EndCoords)};
+  }
+  const auto [xc, yc] = aEntity.CentreCoords;
+  const double cut = aEntity.startAngle + aPart * aEntity.ArcSweep();
+  return {CreateEntity_Arc(xc, yc, aEntity.radius, aEntity.startAngle, cut),
+          CreateEntity_Arc(xc, yc, aEntity.radius, cut, aEntity.endAngle)};
+}
+
+std::vector<double> AreasOf(const std::vector<Fingerprint>& aLoops) {
+  std::vector<double> areas;
+  for (const Fingerprint& loop : aLoops) areas.push_back(loop.area);
+  std::ranges::sort(areas);
+  return areas;
+}
+
+TEST_P(Fingerprints_OfRandomDrawings, KeepTheirAreasWhenEntitiesAreSplit) {
+  const std::vector<double> expected = AreasOf(Fingerprints(fDrawing, kFaces));
+  TEntityArray drawing;
+  for (const TDXFEntity& entity : fDrawing) {
+    const auto [first, second] = Split(entity, fRandom.Between(0.25, 0.75));
+    drawing.push_back(first);
+    drawing.push_back(second);
+  }
+  const std::vector<double> areas = AreasOf(Fingerprints(drawing, kFaces));
+  ASSERT_EQ(areas.size(), expected.size());
+  for (std::size_t i = 0; i < areas.size(); ++i) EXPECT_NEAR(areas[i], expected[i], 1e-9 * kDrawingArea) << i;
 }
 
 INSTANTIATE_TEST_SUITE_P(Drawings, Fingerprints_OfRandomDrawings,

@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <cstdlib>
+#include <limits>
 #include <new>
 
 namespace {
@@ -11,6 +12,7 @@ thread_local std::int64_t made = 0;
 thread_local std::int64_t left = 0;  // allocations until the one that fails; 0: none does
 thread_local bool for_good = false;
 thread_local bool has_failed = false;
+thread_local std::size_t largest = std::numeric_limits<std::size_t>::max();  // bytes
 
 bool Fails() {
   if (has_failed && for_good) return true;
@@ -20,7 +22,7 @@ bool Fails() {
 }
 
 void* Allocate(std::size_t aSize) {
-  if (Fails()) return nullptr;
+  if (Fails() || aSize > largest) return nullptr;
   void* memory = std::malloc(aSize == 0 ? 1 : aSize);
   if (memory == nullptr) return nullptr;
   ++made;
@@ -81,6 +83,14 @@ TFailingAllocation::~TFailingAllocation() {
 
 bool TFailingAllocation::HasFailed() const {
   return has_failed;
+}
+
+TLargestAllocation::TLargestAllocation(std::size_t aBytes) {
+  largest = aBytes;
+}
+
+TLargestAllocation::~TLargestAllocation() {
+  largest = std::numeric_limits<std::size_t>::max();
 }
 
 }  // namespace GeometryEngine::support

@@ -3,6 +3,7 @@
 // The memory of this test program is counted, and can be made to run out: Allocations.cpp replaces operator new, for
 // the library too.
 
+#include <cstddef>
 #include <cstdint>
 
 namespace GeometryEngine::support {
@@ -26,6 +27,16 @@ class TFailingAllocation {
 
   /// Whether that many allocations have been asked for.
   bool HasFailed() const;
+};
+
+/// While it lives, the calling thread's allocations of more bytes than these throw std::bad_alloc, as in a host with
+/// little memory.
+class TLargestAllocation {
+ public:
+  explicit TLargestAllocation(std::size_t aBytes);
+  ~TLargestAllocation();
+  TLargestAllocation(const TLargestAllocation&) = delete;
+  TLargestAllocation& operator=(const TLargestAllocation&) = delete;
 };
 
 }  // namespace GeometryEngine::support
