@@ -29,6 +29,9 @@ class TLoopTracing {
 
  private:
   void FindBridgesOnceTheyMatter();
+  void FindMiddle();
+  double GetMagnitude(TIndex aHalfEdge);
+  double GetTermAboutMiddle(TIndex aHalfEdge);
   void CountFree();
   void CountOffLoop();
   bool IsSurelyNegative();
@@ -38,7 +41,9 @@ class TLoopTracing {
   double fArea = 0;
   bool fKnowsBridges = false;
   double fFree = 0;            // half-edges that no loop has taken, counted once bridges are known
-  double fFreeMagnitudes = 0;  // of their area terms, and somewhat more than that
+  double fFreeMagnitudes = 0;  // of the area terms of their pieces about the middle, and somewhat more than that
+  TEntityCoordinate fMiddle;   // of the drawing
+  double fFromMiddle = 0;      // what the area about the origin may differ by from that about the middle, at most
 };
 
 }  // namespace GeometryEngine::detail
