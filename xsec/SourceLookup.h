@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <vector>
 
+#include "xsec/CellGrid.h"
 #include "xsec/TravelledPiece.h"
 
 namespace xsec {
@@ -19,14 +20,8 @@ class SourceLookup {
   std::size_t Find(const TravelledPiece& aPiece, double aTolerance) const;
 
  private:
-  void Insert(std::size_t aSource);
-  /// The cells that the box touches; what lies outside the grid belongs to its outermost cells.
-  std::vector<std::size_t> CellsOf(const Extents& aBox) const;
-
   std::vector<TravelledPiece> fSources;
-  Extents fBox;
-  std::size_t fSide = 1;                         ///< cells along each axis
-  std::vector<std::vector<std::size_t>> fCells;  ///< indexes of the entities whose box touches the cell, ascending
+  CellGrid fGrid;
 };
 
 }  // namespace xsec

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "xsec/CellGrid.h"
 #include "xsec/TravelledPiece.h"
 
 namespace xsec {
@@ -36,14 +37,8 @@ class PointGrid {
   std::vector<std::size_t> FindAlong(const TravelledPiece& aPiece, double aDistance) const;
 
  private:
-  std::size_t Column(double aX) const;
-  std::size_t Row(double aY) const;
-  std::size_t SlicesOf(const TravelledPiece& aPiece) const;
-
   const std::vector<Point>& fPoints;
-  Extents fBox;
-  std::size_t fSide = 1;
-  std::vector<std::vector<std::size_t>> fCells;
+  CellGrid fGrid;
 };
 
 }  // namespace xsec
