@@ -2,9 +2,13 @@
 
 #include <algorithm>
 #include <functional>
+#include <limits>
 #include <numeric>
+#include <optional>
+#include <unordered_map>
 
 #include "xsec/BoxIndex.h"
+#include "xsec/OutlineIndex.h"
 
 namespace xsec {
 
@@ -19,11 +23,6 @@ std::vector<std::size_t> ByArea(std::span<const TracedLoop> faces) {
   return order;
 }
 
-bool HasPiece(const TracedLoop& loop, std::size_t piece) {
-  return std::any_of(loop.pieces.begin(), loop.pieces.end(),
-                     [&](const TravelledPiece& own) { return own.index == piece; });
-}
-
 const TravelledPiece& LongestPiece(const TracedLoop& loop) {
   return *std::max_element(loop.pieces.begin(), loop.pieces.end(),
                            [](const TravelledPiece& a, const TravelledPiece& b) { return Length(a) < Length(b); });
@@ -33,20 +32,24 @@ const TravelledPiece& LongestPiece(const TracedLoop& loop) {
 class Faces {
  public:
   explicit Faces(std::span<const TracedLoop> faces)
-      : fFaces(faces), fByArea(ByArea(faces)), fIndex(BoxesOf(faces, fByArea)) {}
+      : fFaces(faces), fByArea(ByArea(faces)), fIndex(BoxesOf(faces, fByArea)), fOutlines(faces.size()) {
+    for (std::size_t face = 0; face < faces.size(); ++face) {
+      for (const TravelledPiece& piece : faces[face].pieces) fSides.emplace(piece.index, face);
+    }
+  }
 
   const std::vector<std::size_t>& InOrder() const { return fByArea; }
 
-  /// The first face in the order, from a place on, that holds the point and `fits`.
-  template <typename Fits>
-  std::size_t FindFirst(const Point& point, std::size_t from, Fits&& fits) const {
+  /// The smallest face, from a place in the order on, that holds the point and has no part in the piece; its area is
+  /// above the least.
+  std::size_t FindRound(const Point& point, std::size_t from, std::size_t piece, double leastArea) {
     std::vector<std::size_t> places = fIndex.Find(point);
     std::erase_if(places, [&](std::size_t place) { return place < from; });
     std::make_heap(places.begin(), places.end(), std::greater<>());
     while (!places.empty()) {
       std::pop_heap(places.begin(), places.end(), std::greater<>());
       const std::size_t face = fByArea[places.back()];
-      if (fits(fFaces[face]) && IsInside(fFaces[face].pieces, point)) return face;
+      if (fFaces[face].area > leastArea && !HasPiece(face, piece) && IsInside(face, point)) return face;
       places.pop_back();
     }
     return kNone;
@@ -59,29 +62,38 @@ class Faces {
     return boxes;
   }
 
+  bool HasPiece(std::size_t face, std::size_t piece) const {
+    const auto [begin, end] = fSides.equal_range(piece);
+    return std::any_of(begin, end, [&](const auto& side) { return side.second == face; });
+  }
+
+  bool IsInside(std::size_t face, const Point& point) {
+    if (!fOutlines[face]) fOutlines[face].emplace(fFaces[face].pieces);
+    return fOutlines[face]->IsInside(point);
+  }
+
   std::span<const TracedLoop> fFaces;
   std::vector<std::size_t> fByArea;
   BoxIndex fIndex;
+  std::unordered_multimap<std::size_t, std::size_t> fSides;  ///< from each piece to the faces along it
+  std::vector<std::optional<OutlineIndex>> fOutlines;        ///< of the faces that were asked
 };
 
 /// Faces that share a piece lie beside each other. That is asked too because the inner point of a sliver may have to be
 /// the middle of its first piece.
-std::size_t FindParent(const Faces& faces, std::size_t place, const TracedLoop& face) {
-  return faces.FindFirst(face.inner, place + 1,
-                         [&](const TracedLoop& round) { return !HasPiece(round, face.pieces.front().index); });
+std::size_t FindParent(Faces& faces, std::size_t place, const TracedLoop& face) {
+  return faces.FindRound(face.inner, place + 1, face.pieces.front().index, -std::numeric_limits<double>::infinity());
 }
 
-std::size_t FindHoleOwner(const Faces& faces, const TracedLoop& boundary) {
+std::size_t FindHoleOwner(Faces& faces, const TracedLoop& boundary) {
   const TravelledPiece& longest = LongestPiece(boundary);
-  return faces.FindFirst(MidPoint(longest), 0, [&](const TracedLoop& round) {
-    return round.area > -boundary.area && !HasPiece(round, longest.index);
-  });
+  return faces.FindRound(MidPoint(longest), 0, longest.index, -boundary.area);
 }
 
 }  // namespace
 
 Nesting DetermineNesting(std::span<const TracedLoop> aFaces, std::span<const TracedLoop> aOuterBoundaries) {
-  const Faces faces(aFaces);
+  Faces faces(aFaces);
   Nesting nesting;
   nesting.parents.assign(aFaces.size(), kNone);
   for (std::size_t place = 0; place < aFaces.size(); ++place) {

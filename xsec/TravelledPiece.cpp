@@ -205,7 +205,11 @@ Extents Bounds(const Loop& aLoop) {
 bool IsInside(const Loop& aLoop, const Point& aPoint) {
   std::vector<double> crossings;
   for (const TravelledPiece& piece : aLoop) AddCrossings(piece, aPoint.y, crossings);
-  return std::count_if(crossings.begin(), crossings.end(), [&](double x) { return x > aPoint.x; }) % 2 != 0;
+  return IsInside(crossings, aPoint);
+}
+
+bool IsInside(const std::vector<double>& aCrossings, const Point& aPoint) {
+  return std::count_if(aCrossings.begin(), aCrossings.end(), [&](double x) { return x > aPoint.x; }) % 2 != 0;
 }
 
 bool Contains(const Extents& aBox, const Point& aPoint) {

@@ -57,6 +57,8 @@ double Distance(const Loop& aLoop, const Point& aPoint);
 Extents Bounds(const Loop& aLoop);
 /// Whether the loop winds round the point; on the loop itself the answer is either.
 bool IsInside(const Loop& aLoop, const Point& aPoint);
+/// The same from where the loop crosses the horizontal line through the point, as AddCrossings gives it.
+bool IsInside(const std::vector<double>& aCrossings, const Point& aPoint);
 
 bool Contains(const Extents& aBox, const Point& aPoint);
 void Widen(Extents& aBox, const Extents& aOther);

@@ -1,5 +1,7 @@
 #include "xsec/Nesting.h"
 
+#include <string>
+
 #include <gmock/gmock.h>
 
 #include "tests/support/Geometry.h"
@@ -45,6 +47,22 @@ TEST(DetermineNesting, HoleBelongsToTheFaceRoundItNeverToTheFaceWithinIt) {
   const Nesting nesting = DetermineNesting(faces, boundaries);
   EXPECT_THAT(nesting.parents, ElementsAre(1, kNone));
   EXPECT_THAT(nesting.holeOwners, ElementsAre(1, kNone));
+}
+
+/// The outline of a comb of 100 teeth with a bar along their feet, which is long enough to be indexed.
+TEST(DetermineNesting, LongOutlineHoldsWhatStandsInItsTeethAndNotWhatStandsBetweenThem) {
+  const auto line = [](int x1, int y1, int x2, int y2) {
+    const auto at = [](int x, int y) { return std::to_string(x) + "," + std::to_string(y); };
+    return "L " + at(x1, y1) + " " + at(x2, y2) + "; ";
+  };
+  std::string comb = line(0, 0, 0, -1) + line(0, -1, 200, -1) + line(200, -1, 200, 0);
+  for (int x = 198; x >= 0; x -= 2) {
+    comb += line(x + 2, 0, x + 1, 0) + line(x + 1, 0, x + 1, 5) + line(x + 1, 5, x, 5) + line(x, 5, x, 0);
+  }
+  comb.resize(comb.size() - 2);
+  const std::vector<TracedLoop> faces = {FaceOf(comb, 8, {0.5, 1}), FaceOf(Rectangle(4.2, 2, 4.8, 3), 0, {4.5, 2.5}),
+                                         FaceOf(Rectangle(5.2, 2, 5.8, 3), 4, {5.5, 2.5})};
+  EXPECT_THAT(DetermineNesting(faces, {}).parents, ElementsAre(kNone, 0, kNone));
 }
 
 TEST(DetermineNesting, SliverIsNoChildOfTheFaceBesideIt) {
