@@ -2,12 +2,9 @@
 
 #include <optional>
 
-namespace xsec {
+#include "xsec/Point.h"
 
-struct Point {
-  double x = 0;
-  double y = 0;
-};
+namespace xsec {
 
 /// A map of the plane that keeps lines straight: p -> (xx p.x + xy p.y + x, yx p.x + yy p.y + y).
 struct Affine {

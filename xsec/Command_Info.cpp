@@ -9,7 +9,9 @@
 #include "xsec/Commands.h"
 #include "xsec/DrawingOptions.h"
 #include "xsec/Report.h"
+#include "xsec/Sector.h"
 #include "xsec/Settings.h"
+#include "xsec/SourceText.h"
 #include "xsec/Terminal.h"
 
 namespace xsec {
@@ -33,6 +35,15 @@ void AddCounts(const Drawing& drawing, std::string_view title, const Key& key, s
   for (const auto& [name, count] : counts) text += fmt::format("  {:<24} {:>8}\n", name, count);
 }
 
+/// A drawing of a part of the machine says how many of it make a whole.
+std::string SectorText(const Drawing& drawing) {
+  const double across = AngleAcross(drawing);
+  const std::size_t copies = CopiesOfSector(across);
+  return copies == 0
+             ? ""
+             : fmt::format("sector: {} degrees about the origin, --copies {} make a whole\n", Plain(across, 6), copies);
+}
+
 std::string InfoText(const Drawing& drawing, const Settings& settings) {
   const Extents& box = drawing.extents;
   std::string text = fmt::format("{}\nunit: {}, {} mm ({})\n", drawing.path, drawing.units.name,
@@ -40,6 +51,7 @@ std::string InfoText(const Drawing& drawing, const Settings& settings) {
   text +=
       fmt::format("extents: x {} to {}, y {} to {}; {} x {} mm\n", Plain(box.minX, 9), Plain(box.maxX, 9),
                   Plain(box.minY, 9), Plain(box.maxY, 9), Plain(box.maxX - box.minX, 9), Plain(box.maxY - box.minY, 9));
+  text += SectorText(drawing);
   text += fmt::format("tolerance: {} mm{}\n", Plain(settings.tolerance, 6),
                       settings.toleranceGiven ? "" : ", a millionth of the diagonal");
   text += fmt::format("lines and arcs, blocks placed: {}\n", drawing.entities.size());
@@ -52,8 +64,8 @@ std::string InfoText(const Drawing& drawing, const Settings& settings) {
   for (const auto& [type, count] : drawing.flattened) {
     text += fmt::format("turned into lines and arcs: {} {}\n", count, type);
   }
-  for (const auto& [kind, count] : drawing.skipped) {
-    text += fmt::format("skipped: {} {} on layer \"{}\": {}\n", count, kind.type, kind.layer, kind.reason);
+  for (const auto& [kind, tally] : drawing.skipped) {
+    text += fmt::format("skipped: {}\n", SkippedText(kind, tally));
   }
   for (const std::string& warning : drawing.warnings) text += fmt::format("warning: {}\n", warning);
   return text;

@@ -46,6 +46,16 @@ struct SkippedKind {
   auto operator<=>(const SkippedKind&) const = default;
 };
 
+/// How many, and where the file has the first of them.
+struct Tally {
+  std::size_t count = 0;
+  std::size_t line = 0;  ///< 0 when unknown
+
+  void Add(std::size_t aLine) {
+    if (count++ == 0) line = aLine;
+  }
+};
+
 struct Extents {
   double minX = 0;
   double minY = 0;
@@ -59,8 +69,9 @@ struct Drawing {
   DrawingUnits units;
   std::vector<DrawingEntity> entities;
   std::vector<DrawingText> texts;
-  std::map<SkippedKind, std::size_t> skipped;
+  std::map<SkippedKind, Tally> skipped;
   std::map<std::string, std::size_t> flattened;  ///< type -> how many were turned into lines and arcs
+  Tally interpolated;                            ///< splines given by nothing but points that they pass through
   std::map<std::string, std::int32_t> layerColours;
   std::vector<std::string> warnings;
   Extents extents;  ///< of the true geometry, millimetres

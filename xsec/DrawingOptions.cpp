@@ -12,6 +12,7 @@
 #include "xsec/DrawingExtents.h"
 #include "xsec/DxfText.h"
 #include "xsec/Errors.h"
+#include "xsec/SourceText.h"
 #include "xsec/Units.h"
 #include "xsec/naming/Rules.h"
 
@@ -31,9 +32,9 @@ DrawingUnits UnitsOf(const std::string& name) {
   return *units;
 }
 
-double CheckedTolerance(double tolerance) {
-  if (tolerance > 0 && std::isfinite(tolerance)) return tolerance;
-  throw UsageError(fmt::format("--tol {}: expected a length in millimetres above 0", tolerance));
+double CheckedLength(const char* option, double length) {
+  if (length > 0 && std::isfinite(length)) return length;
+  throw UsageError(fmt::format("{} {}: expected a length in millimetres above 0", option, length));
 }
 
 double CheckedArea(double area) {
@@ -49,7 +50,7 @@ std::uint8_t CheckedMachineType(int type) {
 void AddSettingsOptions(CLI::App& command, SettingsRequest& settings) {
   command
       .add_option_function<double>(
-          "--tol", [&](double value) { settings.tolerance = CheckedTolerance(value); },
+          "--tol", [&](double value) { settings.tolerance = CheckedLength("--tol", value); },
           "Linear tolerance: ends closer than this meet. Without it a millionth of the drawing's diagonal")
       ->type_name("MM");
   command
@@ -153,9 +154,8 @@ void TakeLayers(const DrawingOptions& options, Drawing& drawing) {
 void RefuseSkipped(const Drawing& drawing) {
   if (drawing.skipped.empty()) return;
   std::string kinds;
-  for (const auto& [kind, count] : drawing.skipped) {
-    kinds += fmt::format("{}{} {} on layer \"{}\" ({})", kinds.empty() ? "" : ", ", count, kind.type, kind.layer,
-                         kind.reason);
+  for (const auto& [kind, tally] : drawing.skipped) {
+    kinds += fmt::format("{}{}", kinds.empty() ? "" : ", ", SkippedText(kind, tally));
   }
   throw InputError(drawing.path, 0, "not everything is read: " + kinds,
                    "leave out --strict to go on without, or the layers with --exclude-layer");
@@ -179,6 +179,12 @@ void AddDrawingOptions(CLI::App& aCommand, DrawingOptions& aOptions) {
           },
           "The point that becomes the origin, the axis of the machine, in millimetres")
       ->type_name("X,Y");
+  aCommand
+      .add_option_function<double>(
+          "--flatten", [&](double value) { aOptions.reading.flattenTolerance = CheckedLength("--flatten", value); },
+          "The furthest that an ellipse or a spline may lie from the lines and arcs it is made into. Without it "
+          "0.01 mm or a thousandth of the curve's size, whichever is less")
+      ->type_name("MM");
   aCommand.add_flag("--strict", aOptions.strict, "Whatever of the drawing is not read is an error");
   AddSettingsOptions(aCommand, aOptions.settings);
   AddLimitOptions(aCommand, aOptions);

@@ -16,7 +16,7 @@ namespace xsec {
 
 namespace {
 
-constexpr int kClosedFlag = 1;           // of polylines
+constexpr int kClosedFlag = 1;           // of polylines and splines
 constexpr int kMeshFlags = 16 | 64;      // of polylines: meshes and polyface meshes
 constexpr int kWorldPolylineFlag = 8;    // of polylines: points in the drawing's own axes
 constexpr int kFrameFlag = 16;           // of vertices: control point of a fitted curve, not on it
@@ -223,6 +223,9 @@ void DxfCollector::addSpline(const DL_SplineData& aData) {
   }
   SourceSpline spline;
   spline.degree = aData.degree;
+  spline.fit.startTangent = {aData.tangentStartX, aData.tangentStartY};
+  spline.fit.endTangent = {aData.tangentEndX, aData.tangentEndY};
+  spline.fit.isClosed = (aData.flags & kClosedFlag) != 0;
   Add(std::move(spline));
 }
 
@@ -230,6 +233,12 @@ void DxfCollector::addControlPoint(const DL_ControlPointData& aData) {
   if (auto* spline = fOpen == nullptr ? nullptr : std::get_if<SourceSpline>(&fOpen->shape)) {
     spline->points.push_back({{aData.x, aData.y}, aData.w});
     NoteHeight(aData.z);
+  }
+}
+
+void DxfCollector::addFitPoint(const DL_FitPointData& aData) {
+  if (auto* spline = fOpen == nullptr ? nullptr : std::get_if<SourceSpline>(&fOpen->shape)) {
+    spline->fit.points.push_back({aData.x, aData.y});
   }
 }
 

@@ -34,6 +34,7 @@ class DxfCollector : public DL_CreationAdapter {
   void addEllipse(const DL_EllipseData& aData) override;
   void addSpline(const DL_SplineData& aData) override;
   void addControlPoint(const DL_ControlPointData& aData) override;
+  void addFitPoint(const DL_FitPointData& aData) override;
   void addKnot(const DL_KnotData& aData) override;
   void addInsert(const DL_InsertData& aData) override;
   void addText(const DL_TextData& aData) override;

@@ -110,10 +110,10 @@ void DxfFeed::TakeCounts() {
     const auto [vertices] = CountCodes(fReader, std::array{10});
     Write(90, fmt::format("{}", vertices));
   } else if (fCurrent.type == "SPLINE") {
-    const auto [knots, points] = CountCodes(fReader, std::array{40, 10});
+    const auto [knots, points, fitPoints] = CountCodes(fReader, std::array{40, 10, 11});
     Write(72, fmt::format("{}", knots));
     Write(73, fmt::format("{}", points));
-    Write(74, "0");
+    Write(74, fmt::format("{}", fitPoints));
   }
 }
 

@@ -50,6 +50,14 @@ std::string WarnOfUnknownUnit(const SourceDrawing& source) {
   return number == 0 ? "" : fmt::format("$INSUNITS is {}, which stands for no unit; taken as millimetres", number);
 }
 
+std::string WarnOfInterpolated(const Tally& splines) {
+  return splines.count == 0 ? ""
+                            : fmt::format(
+                                  "splines given by nothing but points to pass through: {}, first on line {}; taken "
+                                  "as cubic splines with knots as far apart as the points, other programs may differ",
+                                  splines.count, splines.line);
+}
+
 DrawingUnits UnitsOf(const SourceDrawing& source, const ReadOptions& options) {
   if (options.units) {
     DrawingUnits units = *options.units;
@@ -74,6 +82,7 @@ void AddWarnings(const SourceDrawing& source, Drawing& drawing) {
   if (drawing.entities.empty()) {
     return warn(WarnOfUnplacedBlocks(source));
   }
+  warn(WarnOfInterpolated(drawing.interpolated));
   if (drawing.units.source == "assumed") {
     warn(WarnOfUnknownUnit(source));
     warn(WarnOfAssumedUnit(drawing.extents));

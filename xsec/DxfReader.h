@@ -20,9 +20,9 @@ namespace xsec {
 struct ReadOptions {
   /// Wins over what the file says. An empty source becomes "--units".
   std::optional<DrawingUnits> units;
-  /// UNITS: millimetres. The furthest that a flattened curve may lie from its chords. Without a value it is 0.01 mm or
-  /// a thousandth of the curve's own size, whichever is less, so that a drawing in metres that names no unit keeps its
-  /// curves.
+  /// UNITS: millimetres. The furthest that a curve may lie from the lines and arcs it is made into. Without a value it
+  /// is 0.01 mm or a thousandth of the curve's own size, whichever is less, so that a drawing in metres that names no
+  /// unit keeps its curves.
   std::optional<double> flattenTolerance;
   /// UNITS: millimetres. The point that becomes the origin.
   double originX = 0;

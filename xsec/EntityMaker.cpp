@@ -9,6 +9,7 @@
 
 #include "GeometryEngine/GeometryCreation_Drawing/EntityConstruction.h"
 #include "GeometryEngine/host/Numerics.h"
+#include "xsec/Bulge.h"
 #include "xsec/Errors.h"
 #include "xsec/Flattening.h"
 
@@ -33,10 +34,6 @@ bool IsFinite(const Point& point) {
   return std::isfinite(point.x) && std::isfinite(point.y);
 }
 
-bool IsFinite(const GeometryEngine::TEntityCoordinate& point) {
-  return std::isfinite(point.x) && std::isfinite(point.y);
-}
-
 // Equality of bits; two points that are merely close are two points.
 bool IsSame(const Point& a, const Point& b) {
   return a.x == b.x && a.y == b.y;
@@ -48,17 +45,6 @@ double Normalised(double degrees) {
 
 double Length(const Point& vector) {
   return std::hypot(vector.x, vector.y);
-}
-
-// The circle through two points that a bulge stands for.
-Point CentreOf(const Point& from, const Point& to, double bulge) {
-  const double share = (1 - bulge * bulge) / (4 * bulge);
-  return {(from.x + to.x) / 2 - share * (to.y - from.y), (from.y + to.y) / 2 + share * (to.x - from.x)};
-}
-
-// The middle of the arc that a bulge stands for.
-Point ApexOf(const Point& from, const Point& to, double bulge) {
-  return {(from.x + to.x) / 2 + bulge / 2 * (to.y - from.y), (from.y + to.y) / 2 - bulge / 2 * (to.x - from.x)};
 }
 
 SourceEllipse Placed(const SourceEllipse& ellipse, const Affine& map) {
@@ -141,11 +127,11 @@ void EntityMaker::Make(const SourceEntity& aEntity, const Placement& aPlacement)
 }
 
 void EntityMaker::Skip(const SourceEntity& aEntity, const Placement& aPlacement, const std::string& aReason) {
-  ++fDrawing.skipped[{aEntity.type, PlacedLayer(aEntity, aPlacement), aReason}];
+  fDrawing.skipped[{aEntity.type, PlacedLayer(aEntity, aPlacement), aReason}].Add(aEntity.line);
 }
 
 void EntityMaker::SkipThis(const std::string& aReason) {
-  ++fDrawing.skipped[{fTemplate.type, fTemplate.layer, aReason}];
+  fDrawing.skipped[{fTemplate.type, fTemplate.layer, aReason}].Add(fTemplate.line);
 }
 
 void EntityMaker::MakeShape(const SourceSkipped& aShape, const Affine& /*aMap*/) {
@@ -204,17 +190,17 @@ void EntityMaker::MakeShape(const SourcePolyline& aShape, const Affine& aMap) {
 void EntityMaker::AddSegment(const SourceVertex& aFrom, const SourceVertex& aTo, const Affine& aMap) {
   const Point from = aMap.Apply(aFrom.point);
   const Point to = aMap.Apply(aTo.point);
+  if (const auto similarity = AsSimilarity(aMap)) {
+    return AddStretch({from, similarity->isMirrored ? -aFrom.bulge : aFrom.bulge}, to);
+  }
   if (std::abs(aFrom.bulge) < kStraightBulge) {
     return AddLine(from, to);
   }
-  if (const auto similarity = AsSimilarity(aMap)) {
-    return AddBulge(from, to, similarity->isMirrored ? -aFrom.bulge : aFrom.bulge);
-  }
   const SourceEllipse curve = Placed(EllipseOf(ArcOfBulge(aFrom.point, aTo.point, aFrom.bulge)), aMap);
-  std::vector<Point> points = FlattenEllipse(curve, ToleranceFor(Length(curve.major) + Length(curve.minor)));
-  points.front() = aFrom.bulge > 0 ? from : to;
-  points.back() = aFrom.bulge > 0 ? to : from;
-  AddChords(points);
+  ArcPath path = FlattenEllipse(curve, ToleranceFor(Length(curve.major) + Length(curve.minor)));
+  path.front().point = aFrom.bulge > 0 ? from : to;
+  path.back().point = aFrom.bulge > 0 ? to : from;
+  AddPath(path);
 }
 
 // Arcs run anticlockwise, so a clockwise one is given from its end.
@@ -266,27 +252,37 @@ void EntityMaker::MakeShape(const SourceEllipse& aShape, const Affine& aMap) {
   if (const auto arc = ArcOfEllipse(placed)) {
     return AddArc(arc->centre, arc->radius, arc->start, arc->sweep);
   }
-  AddChords(FlattenEllipse(placed, ToleranceFor(2 * std::max(Length(placed.major), Length(placed.minor)))));
+  AddPath(FlattenEllipse(placed, ToleranceFor(2 * std::max(Length(placed.major), Length(placed.minor)))));
 }
 
 void EntityMaker::MakeShape(const SourceSpline& aShape, const Affine& aMap) {
-  if (const std::string reason = WhySplineCannotBeFlattened(aShape); !reason.empty()) {
+  const SourceSpline spline = aShape.points.empty() ? SplineThrough(aShape.fit) : aShape;
+  if (const std::string reason = WhySplineCannotBeFlattened(spline); !reason.empty()) {
     return SkipThis(reason);
   }
-  SourceSpline placed = aShape;
+  if (aShape.points.empty() && !aShape.fit.points.empty()) fDrawing.interpolated.Add(fTemplate.line);
+  SourceSpline placed = spline;
   for (SourceControlPoint& point : placed.points) {
     point.point = aMap.Apply(point.point);
   }
-  AddChords(FlattenSpline(
+  AddPath(FlattenSpline(
       placed, ToleranceFor(SizeOf(placed.points, [](const SourceControlPoint& point) { return point.point; }))));
 }
 
-void EntityMaker::AddChords(const std::vector<Point>& aPoints) {
+void EntityMaker::AddPath(const ArcPath& aPath) {
   fIsFlattened = true;
-  for (std::size_t i = 0; i + 1 < aPoints.size(); ++i) {
-    if (!IsSame(aPoints[i], aPoints[i + 1])) {
-      AddLine(aPoints[i], aPoints[i + 1]);
+  for (std::size_t i = 0; i + 1 < aPath.size(); ++i) {
+    if (!IsSame(aPath[i].point, aPath[i + 1].point)) {
+      AddStretch(aPath[i], aPath[i + 1].point);
     }
+  }
+}
+
+void EntityMaker::AddStretch(const SourceVertex& aFrom, const Point& aTo) {
+  if (std::abs(aFrom.bulge) < kStraightBulge) {
+    AddLine(aFrom.point, aTo);
+  } else {
+    AddBulge(aFrom.point, aTo, aFrom.bulge);
   }
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "xsec/Affine.h"
+#include "xsec/CurvePiece.h"
 #include "xsec/Drawing.h"
 #include "xsec/SourceDrawing.h"
 
@@ -22,7 +23,8 @@ struct Placement {
 /// Makes lines and arcs of one entity of the file after the other and adds them to a drawing.
 ///
 /// Points that entities share in the file stay the same bits. Arcs longer than a half circle become two equal ones.
-/// Arcs that a placement stretches, ellipses and splines become chords. What is degenerate is counted as skipped.
+/// Arcs that a placement stretches, ellipses and splines become shorter arcs and lines. What is degenerate is counted
+/// as skipped.
 class EntityMaker {
  public:
   /// aTolerance: see ReadOptions::flattenTolerance. The drawing must outlive the maker.
@@ -45,7 +47,8 @@ class EntityMaker {
   void AddSegment(const SourceVertex& aFrom, const SourceVertex& aTo, const Affine& aMap);
   void AddBulge(const Point& aFrom, const Point& aTo, double aBulge);
   void AddArc(const Point& aCentre, double aRadius, double aStart, double aSweep);
-  void AddChords(const std::vector<Point>& aPoints);
+  void AddPath(const ArcPath& aPath);
+  void AddStretch(const SourceVertex& aFrom, const Point& aTo);
   void AddLine(const Point& aFrom, const Point& aTo);
   void Add(const GeometryEngine::TDXFEntity& aGeometry);
   void SkipThis(const std::string& aReason);
@@ -55,7 +58,7 @@ class EntityMaker {
   std::optional<double> fTolerance;
   std::uint64_t fMostEntities;
   DrawingEntity fTemplate;    // what the pieces of the present entity have in common
-  bool fIsFlattened = false;  // the present entity had to be made of chords
+  bool fIsFlattened = false;  // the present entity is no line or arc by itself
 };
 
 /// The layer that an entity has where it is placed.

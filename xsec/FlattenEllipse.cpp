@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -8,45 +7,35 @@ namespace xsec {
 
 namespace {
 
-constexpr double kMostChords = 100000;
-constexpr double kLeastChordsPerTurn = 8;  // so that a coarse tolerance still shows a curve
+constexpr double kMostPerPiece = std::numbers::pi / 2;  // radians
+constexpr double kRounding = 1e-9;                      // of a piece: what a whole number of them may exceed it by
 
-Point At(const SourceEllipse& ellipse, double parameter) {
-  const double cosine = std::cos(parameter);
-  const double sine = std::sin(parameter);
+Point At(const SourceEllipse& ellipse, double parameter, double reach = 1) {
+  const double cosine = reach * std::cos(parameter);
+  const double sine = reach * std::sin(parameter);
   return {ellipse.centre.x + cosine * ellipse.major.x + sine * ellipse.minor.x,
           ellipse.centre.y + cosine * ellipse.major.y + sine * ellipse.minor.y};
 }
 
-// The map that makes an ellipse of the unit circle stretches nothing by more than this.
-double LongestHalfAxis(const SourceEllipse& ellipse) {
-  return std::hypot(std::hypot(ellipse.major.x, ellipse.major.y), std::hypot(ellipse.minor.x, ellipse.minor.y));
-}
-
-// The furthest that an arc of the unit circle lies from its chord is 1 - cos(step / 2); an ellipse stretches that by no
-// more than its longest half axis.
-double ChordCount(const SourceEllipse& ellipse, double tolerance) {
-  const double share = std::clamp(tolerance / LongestHalfAxis(ellipse), 0.0, 1.0);
-  const double step = 2 * std::acos(1 - share);
-  const double least = std::ceil(kLeastChordsPerTurn * ellipse.sweep / (2 * std::numbers::pi));
-  const double count = std::max(std::ceil(ellipse.sweep / step), least);
-  return std::isfinite(count) ? std::min(count, kMostChords) : kMostChords;
+// An arc of the unit circle is a rational quadratic piece, with the crossing of its end tangents in between; its image
+// under the map that makes the ellipse of the circle is the piece with the images of those points.
+CurvePiece PieceOf(const SourceEllipse& ellipse, const Point& from, double middle, double half, const Point& to) {
+  return {Lifted(from, 1), Lifted(At(ellipse, middle, 1 / std::cos(half)), std::cos(half)), Lifted(to, 1)};
 }
 
 }  // namespace
 
-std::vector<Point> FlattenEllipse(const SourceEllipse& aEllipse, double aTolerance) {
-  const auto count = static_cast<std::size_t>(std::max(ChordCount(aEllipse, aTolerance), 1.0));
-  std::vector<Point> points;
-  points.reserve(count + 1);
-  for (std::size_t i = 0; i <= count; ++i) {
-    points.push_back(
-        At(aEllipse, aEllipse.start + aEllipse.sweep * static_cast<double>(i) / static_cast<double>(count)));
+ArcPath FlattenEllipse(const SourceEllipse& aEllipse, double aTolerance) {
+  const int count = static_cast<int>(std::ceil(std::abs(aEllipse.sweep) / kMostPerPiece - kRounding));
+  const double half = aEllipse.sweep / (2 * std::max(count, 1));
+  ArcPath path{{At(aEllipse, aEllipse.start), 0}};
+  const Point first = path.front().point;
+  for (int i = 0; i < count; ++i) {
+    const bool isClosing = i + 1 == count && aEllipse.sweep >= 2 * std::numbers::pi;
+    const Point to = isClosing ? first : At(aEllipse, aEllipse.start + 2 * (i + 1) * half);
+    FollowByArcs(PieceOf(aEllipse, path.back().point, aEllipse.start + (2 * i + 1) * half, half, to), aTolerance, path);
   }
-  if (aEllipse.sweep >= 2 * std::numbers::pi) {
-    points.back() = points.front();
-  }
-  return points;
+  return path;
 }
 
 }  // namespace xsec

@@ -5,18 +5,19 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <utility>
 
 #include "GeometryEngine/host/Numerics.h"
 #include "xsec/DrawingExtents.h"
 #include "xsec/RegionDetection.h"
+#include "xsec/Sector.h"
 
 namespace xsec {
 
 namespace {
 
 constexpr double kFullTurn = 360;
-constexpr double kNoPart = 1e-15;      // of a radius, by rounding
-constexpr double kSectorSlack = 1e-3;  // degrees that a sector may exceed its share of the circle
+constexpr double kNoPart = 1e-15;  // of a radius, by rounding
 
 /// A turn about the origin.
 class Turning {
@@ -67,35 +68,6 @@ class Turning {
   double fCosine;
   double fSine;
 };
-
-/// The largest gap between the directions in which the drawing lies from the origin decides how wide it is.
-double AngleAcross(const Drawing& drawing) {
-  std::vector<double> angles;
-  for (const DrawingEntity& entity : drawing.entities) {
-    const TravelledPiece piece = Travel(entity.geometry, true);
-    const Point middle = MidPoint(piece);
-    for (const Point& point : {piece.from, middle, piece.to}) {
-      if (std::hypot(point.x, point.y) > kSectorSlack) {
-        angles.push_back(std::atan2(point.y, point.x) * GeometryEngine::kDegreesPerRadian);
-      }
-    }
-  }
-  if (angles.empty()) return 0;
-  std::sort(angles.begin(), angles.end());
-  double gap = angles.front() + kFullTurn - angles.back();
-  for (std::size_t i = 0; i + 1 < angles.size(); ++i) gap = std::max(gap, angles[i + 1] - angles[i]);
-  return kFullTurn - gap;
-}
-
-void WarnOfOverlappingCopies(const Drawing& drawing, std::size_t copies, Diagnostics& diagnostics) {
-  const double share = kFullTurn / static_cast<double>(copies);
-  const double across = AngleAcross(drawing);
-  if (copies < 2 || across <= share + kSectorSlack) return;
-  diagnostics.warnings.push_back(fmt::format(
-      "the drawing spans {:.5g} degrees about the origin, but {} copies leave {:.5g} for each; give the axis "
-      "with --origin X,Y, or fewer --copies",
-      across, copies, share));
-}
 
 /// The nearest region round this one that stays.
 std::size_t KeptParent(const std::vector<Region>& regions, const std::vector<std::size_t>& places, std::size_t index) {
@@ -165,7 +137,9 @@ Detection FindRegions(const Drawing& aDrawing, const Settings& aSettings, const 
     detection = DetectRegions(Turned(aDrawing, aRequest.turn), aSettings, aRequest.naming);
     Turning(-aRequest.turn).Apply(detection);
   }
-  WarnOfOverlappingCopies(aDrawing, aRequest.copies, detection.diagnostics);
+  if (std::string text = WarnOfCopies(aDrawing, aRequest.copies); !text.empty()) {
+    detection.diagnostics.warnings.push_back(std::move(text));
+  }
   if (aRequest.minimumArea > 0) LeaveOutSmall(detection, aRequest.minimumArea);
   return detection;
 }

@@ -13,6 +13,7 @@ namespace xsec {
 struct Mark {
   Point place;
   std::string colour;  ///< "#rrggbb"
+  std::string kind;    ///< what the legend says of all marks like this
   std::string text;
 };
 

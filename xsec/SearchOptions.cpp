@@ -6,7 +6,6 @@
 #include <cmath>
 #include <map>
 
-#include "GeometryEngine/host/TInputFields.h"
 #include "xsec/Errors.h"
 
 namespace xsec {
@@ -54,12 +53,8 @@ void AddSearchOptions(CLI::App& aCommand, SearchOptions& aOptions, SettingsReque
       ->type_name("MM2");
   aCommand
       .add_option_function<double>(
-          "--min-label-area",
-          [&](double area) {
-            const auto field = static_cast<std::uint16_t>(Maindataenum::TInputFields::ifMinimumLabelArea);
-            aSettings.fields.push_back({field, CheckedArea("--min-label-area", area)});
-          },
-          "Write no names into smaller regions")
+          "--min-label-area", [&](double area) { aSettings.minimumLabelArea = CheckedArea("--min-label-area", area); },
+          "Write no names into the picture of smaller regions, holes counted in")
       ->type_name("MM2");
   aCommand
       .add_option_function<double>(

@@ -70,13 +70,6 @@ FieldValue ParseFieldValue(std::string_view aText) {
       fmt::format("--setting {}: expected FIELD=VALUE, a field number from 0 to 65535 and a number", aText));
 }
 
-double MinimumLabelArea(const Settings& aSettings) {
-  const auto field = std::find_if(aSettings.fields.begin(), aSettings.fields.end(), [](const FieldValue& value) {
-    return static_cast<TInputFields>(value.field) == ifMinimumLabelArea;
-  });
-  return field == aSettings.fields.end() ? 0 : field->value;
-}
-
 void CheckSettings(const SettingsRequest& aRequest) {
   for (const FieldValue& asked : aRequest.fields) {
     if (asked.field == kLinearToleranceField && aRequest.tolerance) {
@@ -104,7 +97,8 @@ Settings ApplySettings(const SettingsRequest& aRequest, const Extents& aExtents)
           aRequest.machineType,
           aRequest.prepares,
           aRequest.sliverArea.value_or(tolerance * tolerance),
-          aRequest.dropsSlivers};
+          aRequest.dropsSlivers,
+          aRequest.minimumLabelArea};
 }
 
 }  // namespace xsec

@@ -29,6 +29,7 @@ struct SettingsRequest {
   bool prepares = true;                ///< the drawing is put so that its regions do not depend on how it lies
   std::optional<double> sliverArea{};  ///< UNITS: mm2
   bool dropsSlivers = false;
+  double minimumLabelArea = 0;  ///< UNITS: mm2; regions of a smaller area have no name written into them
 };
 
 /// What a run uses.
@@ -40,14 +41,12 @@ struct Settings {
   bool prepares = true;
   double sliverArea = 0;  ///< UNITS: mm2; regions below it are slivers. A square of the tolerance unless it is given
   bool dropsSlivers = false;
+  double minimumLabelArea = 0;  ///< UNITS: mm2, of the picture; where labels are does not depend on it
 };
 
 /// The linear tolerance for a drawing of this size: a millionth of its diagonal.
 /// DEGENERATE: 1e-4 mm for a drawing without size.
 double DefaultTolerance(const Extents& aExtents);
-
-/// Regions of a smaller area have no name written into them. UNITS: mm2
-double MinimumLabelArea(const Settings& aSettings);
 
 /// FIELD=VALUE as the command line spells it. Throws UsageError for anything else.
 FieldValue ParseFieldValue(std::string_view aText);

@@ -50,10 +50,19 @@ struct SourceControlPoint {
   double weight = 1;
 };
 
+/// Points that a spline passes through.
+struct SourceFit {
+  std::vector<Point> points;
+  Point startTangent;  ///< of any length; (0, 0) when there is none
+  Point endTangent;
+  bool isClosed = false;
+};
+
 struct SourceSpline {
   std::size_t degree = 3;
   std::vector<double> knots;
   std::vector<SourceControlPoint> points;
+  SourceFit fit;  ///< says what the spline is only where there are no control points
 };
 
 /// Instances of a block in columns and rows.

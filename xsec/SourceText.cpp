@@ -12,4 +12,10 @@ std::string SourceText(const DrawingEntity& aEntity) {
   return text;
 }
 
+std::string SkippedText(const SkippedKind& aKind, const Tally& aTally) {
+  std::string text = fmt::format("{} {} on layer \"{}\": {}", aTally.count, aKind.type, aKind.layer, aKind.reason);
+  if (aTally.line != 0) text += fmt::format("; first on line {} of the file", aTally.line);
+  return text;
+}
+
 }  // namespace xsec

@@ -9,10 +9,9 @@
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 #include "xsec/Drawing.h"
+#include "xsec/Point.h"
 
 namespace xsec {
-
-using Point = GeometryEngine::TEntityCoordinate;
 
 inline constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 

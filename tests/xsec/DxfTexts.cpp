@@ -60,7 +60,7 @@ GeometryEngine::TEntityArray GeometryOf(const Drawing& aDrawing) {
 std::size_t SkippedCount(const Drawing& aDrawing, std::string_view aType, std::string_view aLayer,
                          std::string_view aReason) {
   const auto place = aDrawing.skipped.find({std::string(aType), std::string(aLayer), std::string(aReason)});
-  return place == aDrawing.skipped.end() ? 0 : place->second;
+  return place == aDrawing.skipped.end() ? 0 : place->second.count;
 }
 
 std::string RefusalOf(std::string_view aText) {

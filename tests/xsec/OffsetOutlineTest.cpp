@@ -89,6 +89,30 @@ TEST(OffsetOutline, NeckThatClosesPartsTheOutline) {
   EXPECT_NEAR(found.regions[1].netArea, 24, 1e-4);
 }
 
+/// What an offset is refused with.
+std::string RefusalOf(double distance, std::string_view entities) {
+  try {
+    OffsetBy(distance, entities);
+  } catch (const OffsetError& error) {
+    return error.what();
+  }
+  return "";
+}
+
+TEST(Offset, NeighboursThatWouldOverlapAreRefusedWithThePlace) {
+  const std::string apart = Rectangle(0, 0, 4, 4) + "; " + Rectangle(6, 0, 10, 4);
+  EXPECT_EQ(RefusalOf(0.9, apart), "");
+  EXPECT_THAT(RefusalOf(1.5, apart), HasSubstr("region 1 (0) overlaps region 2 (0_1) at (5, 2)"));
+  EXPECT_THAT(RefusalOf(0.5, Rectangle(0, 0, 4, 4) + "; L 2,0 2,4"), HasSubstr(" at (2, "));
+  EXPECT_EQ(RefusalOf(-0.5, Rectangle(0, 0, 4, 4) + "; L 2,0 2,4"), "");
+}
+
+TEST(Offset, RegionsWithinRegionsMoveWithThem) {
+  const std::string nested = Rectangle(0, 0, 10, 10) + "; " + Rectangle(1, 1, 9, 9);
+  EXPECT_EQ(RefusalOf(3, nested), "");
+  EXPECT_EQ(RefusalOf(-3, nested), "");
+}
+
 TEST(WindingNumber, CountsTurnsRoundAPointAlsoBetweenArcAndChord) {
   const auto half = [](double start, double end) {
     return Travel(GeometryEngine::CreateEntity_Arc(0, 0, 2, start, end), true);

@@ -44,7 +44,7 @@ Drawing PlateWithDisc() {
   Drawing drawing =
       DrawingOf({{"Plate \"A\" & <B>", Rectangle(0, 0, 10, 6) + "L 10,6 12,8"}, {"Disc", Circle(4, 3, 2)}});
   drawing.path = "folder/plate & disc.dxf";
-  drawing.skipped[{"TEXT", "Notes", "not read"}] = 3;
+  drawing.skipped[{"TEXT", "Notes", "not read"}] = {3, 41};
   drawing.flattened["SPLINE"] = 2;
   drawing.warnings.push_back("odd size");
   return drawing;
@@ -153,7 +153,7 @@ TEST(JsonText, TellsWhatWasLeftOutAndWhatIsOpen) {
   const json diagnostics = Carried(PlateWithDisc()).AsJson()["diagnostics"];
   EXPECT_EQ(diagnostics["warnings"], json({"odd size"}));
   EXPECT_EQ(diagnostics["skipped"],
-            json::array({{{"type", "TEXT"}, {"layer", "Notes"}, {"reason", "not read"}, {"count", 3}}}));
+            json::array({{{"type", "TEXT"}, {"layer", "Notes"}, {"reason", "not read"}, {"count", 3}, {"firstLine", 41}}}));
   EXPECT_EQ(diagnostics["flattened"], json({{"SPLINE", 2}}));
   ASSERT_EQ(diagnostics["openPieces"].size(), 1U);
   const json& spur = diagnostics["openPieces"][0];

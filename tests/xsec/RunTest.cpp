@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <numbers>
 #include <sstream>
 #include <thread>
 
@@ -240,6 +241,130 @@ TEST_F(Xsec, SliverIsReportedAndOnRequestDropped) {
   EXPECT_EQ(json["regions"].size(), 2U);
   EXPECT_NEAR(json["totalArea"].get<double>(), 100, 1e-9);
   EXPECT_EQ(json["diagnostics"]["cures"][0]["kind"], "sliver");
+}
+
+TEST_F(Xsec, EllipseIsMadeIntoArcsAsCloseAsIsAskedFor) {
+  const std::string drawing = Drawing(DxfOf("0\nELLIPSE\n8\nPlate\n11\n30\n40\n0.5\n"));
+  const auto outlineAt = [&](const std::string& options) {
+    EXPECT_EQ(RunXsec("regions " + drawing + options + " -o " + Out("a.json")), 0) << fStderr;
+    const auto json = nlohmann::json::parse(ReadFile(Out("a.json")));
+    EXPECT_EQ(json["diagnostics"]["flattened"]["ELLIPSE"], 1);
+    EXPECT_NEAR(json["totalArea"].get<double>(), 450 * std::numbers::pi, 1);
+    return json["regions"][0]["outline"].size();
+  };
+  const std::size_t coarse = outlineAt(" --flatten 0.1");
+  EXPECT_LT(coarse, outlineAt(""));
+  EXPECT_LT(outlineAt(""), outlineAt(" --flatten 0.0001"));
+  EXPECT_THAT(fStderr, HasSubstr("1 ELLIPSE turned into lines and arcs"));
+  EXPECT_EQ(RunXsec("regions " + drawing + " --flatten 0"), 2);
+  EXPECT_THAT(fStderr, HasSubstr("--flatten 0: expected a length in millimetres above 0"));
+}
+
+TEST_F(Xsec, StrictRefusesWhatIsNotReadUnlessItsLayerIsLeftOut) {
+  const std::string drawing = Drawing(DxfOf(Square(0, 0, 10) + "0\nHATCH\n8\nNotes\n"));
+  EXPECT_EQ(RunXsec("regions " + drawing), 0);
+  EXPECT_THAT(fStderr, HasSubstr("skipped 1 HATCH on layer \"Notes\": this type is not read; first on line 64"));
+  EXPECT_EQ(RunXsec("regions --strict " + drawing), 3);
+  EXPECT_THAT(fStderr, HasSubstr("not everything is read: 1 HATCH on layer \"Notes\""));
+  EXPECT_EQ(RunXsec("regions --strict --layer Plate " + drawing), 0) << fStderr;
+}
+
+TEST_F(Xsec, LayersAreTakenAndLeftOutByPattern) {
+  std::string hole = Square(2, 2, 3);
+  for (auto at = hole.find("Plate"); at != std::string::npos; at = hole.find("Plate")) hole.replace(at, 5, "Hole");
+  const std::string drawing = Drawing(DxfOf(Square(0, 0, 10) + hole));
+  EXPECT_EQ(RunXsec("regions --layer 'pl*' " + drawing), 0);
+  EXPECT_THAT(fStdout, HasSubstr("1 region, net area 100 mm2"));
+  EXPECT_EQ(RunXsec("regions --exclude-layer Plate " + drawing), 0);
+  EXPECT_THAT(fStdout, HasSubstr("1 region, net area 9 mm2"));
+  EXPECT_EQ(RunXsec("regions --exclude-layer Slot " + drawing), 3);
+  EXPECT_THAT(fStderr, HasSubstr("its layers are Hole, Plate"));
+}
+
+TEST_F(Xsec, OriginTurnAndMinimumAreasShowInTheResult) {
+  const std::string drawing = Drawing(DxfOf(Square(10, 10, 10) + Square(12, 12, 3)));
+  EXPECT_EQ(RunXsec("regions --origin 10,10 --turn 30 --min-area 10 -o " + Out("a.json") + " " + drawing), 0)
+      << fStderr;
+  const auto json = nlohmann::json::parse(ReadFile(Out("a.json")));
+  ASSERT_EQ(json["regions"].size(), 1U);
+  EXPECT_NEAR(json["regions"][0]["centroid"][0].get<double>(), 5, 1e-9);
+  EXPECT_NEAR(json["regions"][0]["netArea"].get<double>(), 91, 1e-9);
+}
+
+TEST_F(Xsec, SmallRegionsGetNoNameInThePictureWhenThatIsAskedFor) {
+  const std::string drawing = Drawing(DxfOf(Square(0, 0, 10) + Square(2, 2, 3)));
+  const auto namesIn = [&](const std::string& options) {
+    EXPECT_EQ(RunXsec("regions " + drawing + options + " -o " + Out("a.svg")), 0) << fStderr;
+    const std::string picture = ReadFile(Out("a.svg"));
+    return std::pair(picture.find(">Plate</text>") != std::string::npos,
+                     picture.find(">Plate_1</text>") != std::string::npos);
+  };
+  EXPECT_EQ(namesIn(""), std::pair(true, true));
+  EXPECT_EQ(namesIn(" --min-label-area 9"), std::pair(true, true));
+  EXPECT_EQ(namesIn(" --min-label-area 9.1"), std::pair(true, false));
+  EXPECT_EQ(RunXsec("regions --min-label-area -1 " + drawing), 2);
+}
+
+TEST_F(Xsec, NamesComeFromRulesTextsAndBlocks) {
+  const std::string drawing = Drawing(DxfOf(Square(0, 0, 10) + "0\nTEXT\n8\nNotes\n10\n5\n20\n5\n1\nYoke\n"));
+  EXPECT_EQ(RunXsec("regions --name-from text " + drawing), 0) << fStderr;
+  EXPECT_THAT(fStdout, HasSubstr("name Yoke: 1 region, 100 mm2"));
+  std::ofstream(Out("rules.json"))
+      << R"({"rules": [{"when": {"text": "Yo*"}, "set": {"name": "Core", "material": "M270"}}]})";
+  EXPECT_EQ(RunXsec("regions --rules " + Out("rules.json") + " --copies 4 " + drawing), 0) << fStderr;
+  EXPECT_THAT(fStdout, HasSubstr("name Core: 1 region, 100 mm2, of 4 copies 400 mm2"));
+  EXPECT_THAT(fStdout, HasSubstr("material M270: 1 region, 100 mm2, of 4 copies 400 mm2"));
+  EXPECT_EQ(RunXsec("regions --name-from colour " + drawing), 2);
+  EXPECT_THAT(fStderr, HasSubstr("--name-from colour: unknown; known are layer, text, block"));
+}
+
+TEST_F(Xsec, TransformWritesWhatItWasAskedForOnce) {
+  const std::string drawing = Drawing(DxfOf(Square(1, 1, 10)));
+  EXPECT_EQ(RunXsec("transform " + drawing + " --offset -1"), 0) << fStderr;
+  EXPECT_THAT(fStdout, HasSubstr("1 region, net area 64 mm2"));
+  EXPECT_EQ(RunXsec("transform " + drawing + " --mirror 0,0,0,1 -o " + Out("a.json")), 0) << fStderr;
+  EXPECT_EQ(nlohmann::json::parse(ReadFile(Out("a.json")))["drawing"]["extents"]["minX"], -11);
+  EXPECT_EQ(RunXsec("transform " + drawing + " --rotate 90 -o " + Out("a.dxf")), 0) << fStderr;
+  EXPECT_EQ(RunXsec("info " + Out("a.dxf")), 0) << fStderr;
+  EXPECT_THAT(fStdout, HasSubstr("x -11 to -1, y 1 to 11"));
+  EXPECT_EQ(RunXsec("transform " + drawing + " --copies 4"), 0) << fStderr;
+  EXPECT_THAT(fStdout, HasSubstr("name Plate: 4 regions, 400 mm2"));
+  EXPECT_EQ(RunXsec("transform " + drawing), 2);
+  EXPECT_EQ(RunXsec("transform " + drawing + " --rotate 9 --copies 4"), 2);
+  EXPECT_EQ(RunXsec("transform " + drawing + " --mirror 1,1,1,1"), 2);
+}
+
+TEST_F(Xsec, OffsetNeighboursThatWouldOverlapAreRefused) {
+  const std::string drawing = Drawing(DxfOf(Square(0, 0, 4) + Square(6, 0, 4)));
+  EXPECT_EQ(RunXsec("transform " + drawing + " --offset 1.5"), 6);
+  EXPECT_THAT(fStderr, HasSubstr("overlaps region"));
+  EXPECT_THAT(fStderr, HasSubstr(" at (5, "));
+}
+
+TEST_F(Xsec, DiffTellsWhatChangedByItsExitCode) {
+  EXPECT_EQ(RunXsec("regions " + Drawing(DxfOf(Square(0, 0, 10))) + " -o " + Out("a.json")), 0);
+  EXPECT_EQ(RunXsec("regions " + Drawing(DxfOf(Square(0, 0, 11))) + " -o " + Out("b.json")), 0);
+  EXPECT_EQ(RunXsec("diff " + Out("a.json") + " " + Out("a.json")), 0);
+  EXPECT_EQ(RunXsec("diff " + Out("a.json") + " " + Out("b.json")), 1);
+  EXPECT_THAT(fStdout, HasSubstr("1 changed"));
+  EXPECT_EQ(RunXsec("diff " + Out("a.json") + " " + Out("b.json") + " --tol 100"), 0) << fStdout;
+}
+
+TEST_F(Xsec, SchemaIsPrinted) {
+  EXPECT_EQ(RunXsec("schema"), 0);
+  EXPECT_TRUE(nlohmann::json::parse(fStdout).contains("properties"));
+}
+
+TEST_F(Xsec, EndNearASideIsToldWithAToleranceThatWasTried) {
+  // The upper edge of the slot ends short of the slanting side of the plate.
+  const std::string plate = Line(0, 0, 40, 0) + Line(40, 0, 50, 30) + Line(50, 30, 0, 30) + Line(0, 30, 0, 0);
+  const std::string drawing = Drawing(DxfOf(plate + Line(0, 15, 44.998, 15)));
+  EXPECT_EQ(RunXsec("check --json " + drawing), 1) << fStderr;
+  const auto miss = nlohmann::json::parse(fStdout)["nearMisses"][0];
+  EXPECT_FALSE(miss["otherIsEnd"]);
+  EXPECT_TRUE(miss["closes"]);
+  EXPECT_EQ(RunXsec("check " + drawing), 1);
+  EXPECT_THAT(fStdout, HasSubstr("to the side"));
 }
 
 TEST_F(Xsec, HelpAndVersionGoToStandardOutput) {

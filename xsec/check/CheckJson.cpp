@@ -1,19 +1,12 @@
-#include <nlohmann/json.hpp>
-
 #include "xsec/Utf8.h"
 #include "xsec/check/CheckText.h"
+#include "xsec/output/JsonParts.h"
 
 namespace xsec {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 constexpr int kFormatVersion = 1;
-
-Json OfPoint(const Point& point) {
-  return Json::array({point.x, point.y});
-}
 
 Json OfEntity(std::size_t entity, const Drawing& drawing) {
   if (entity == kNone) return nullptr;
@@ -49,6 +42,7 @@ Json OfMisses(const std::vector<NearMiss>& misses, const Drawing& drawing) {
             {"otherIsEnd", miss.isEnd},
             {"gap", miss.gap},
             {"toleranceAbove", miss.tolerance},
+            {"closes", miss.closes ? Json(*miss.closes) : Json(nullptr)},
             {"entity", OfEntity(miss.entity, drawing)},
             {"otherEntity", OfEntity(miss.otherEntity, drawing)}};
   });
@@ -95,7 +89,7 @@ std::string CheckJson(const Report& aReport, const Findings& aFindings) {
   json["limits"] = OfLimits(aFindings.limits, drawing);
   json["prepared"] = OfCures(aFindings.notes, drawing);
   json["ladder"] = OfLadder(aFindings.ladder);
-  return json.dump(1, ' ', false, Json::error_handler_t::replace) + "\n";
+  return Dumped(json);
 }
 
 }  // namespace xsec

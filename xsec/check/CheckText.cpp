@@ -3,10 +3,10 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <iterator>
 #include <map>
 
 #include "xsec/SourceText.h"
+#include "xsec/output/FormattedText.h"
 
 namespace xsec {
 
@@ -17,6 +17,8 @@ constexpr std::size_t kToldOfEach = 8;
 constexpr const char* kOpenColour = "#d81818";
 constexpr const char* kMissColour = "#e07800";
 constexpr const char* kFaultColour = "#8020c0";
+constexpr const char* kSliverColour = "#008878";
+constexpr const char* kLimitColour = "#806000";
 constexpr const char* kNoteColour = "#2060d0";
 
 std::string At(const Point& point) {
@@ -31,7 +33,11 @@ std::string Joined(const std::vector<double>& areas) {
   return areas.size() > kToldOfEach ? text + ", ..." : text;
 }
 
-class Writer {
+std::string SourceOf(std::size_t entity, const Drawing& drawing) {
+  return entity == kNone ? "unknown entity" : SourceText(drawing.entities[entity]);
+}
+
+class Writer : private FormattedText {
  public:
   Writer(const Report& report, const Findings& findings) : fReport(report), fFindings(findings) {}
 
@@ -49,11 +55,6 @@ class Writer {
   }
 
  private:
-  template <typename... Values>
-  void Add(fmt::format_string<Values...> format, Values&&... values) {
-    fmt::format_to(std::back_inserter(fText), format, std::forward<Values>(values)...);
-  }
-
   template <typename Items, typename Tell>
   void List(std::string_view title, const Items& items, Tell&& tell) {
     if (items.empty()) return;
@@ -62,9 +63,7 @@ class Writer {
     if (items.size() > kToldOfEach) Add("  and {} more; --json lists all\n", items.size() - kToldOfEach);
   }
 
-  std::string Source(std::size_t entity) const {
-    return entity == kNone ? "unknown entity" : SourceText(fReport.drawing.entities[entity]);
-  }
+  std::string Source(std::size_t entity) const { return SourceOf(entity, fReport.drawing); }
 
   std::string EndText(const OpenEnd& end) const {
     return fmt::format("{}, {}; its chain {}", At(end.place), Source(end.entity),
@@ -72,14 +71,21 @@ class Writer {
   }
 
   std::string MissText(const NearMiss& miss) const {
-    std::string text = fmt::format("{} to {} {}, gap {:.6g} mm, meet at a tolerance above {:.6g} mm", At(miss.end),
-                                   miss.isEnd ? "the end" : "the side", At(miss.other), miss.gap, miss.tolerance);
+    return fmt::format("{} to {} {}, gap {:.6g} mm, {}\n    {}\n    {}", At(miss.end),
+                       miss.isEnd ? "the end" : "the side", At(miss.other), miss.gap, ClosingText(miss),
+                       Source(miss.entity), Source(miss.otherEntity));
+  }
+
+  std::string ClosingText(const NearMiss& miss) const {
+    if (!miss.closes)
+      return fmt::format("should meet at a tolerance above {:.6g} mm, which was not tried", miss.tolerance);
     const auto rung = std::find_if(fFindings.ladder.begin(), fFindings.ladder.end(),
                                    [&](const Rung& r) { return r.tolerance > miss.tolerance; });
-    if (rung != fFindings.ladder.end() && !rung->newAreas.empty()) {
+    if (!*miss.closes) return fmt::format("stays open at --tol {:.6g}: draw the end up to it", rung->tolerance);
+    std::string text = fmt::format("meet at a tolerance above {:.6g} mm", miss.tolerance);
+    if (!rung->newAreas.empty())
       text += fmt::format("; --tol {:.6g} closes {}", rung->tolerance, Joined(rung->newAreas));
-    }
-    return text + fmt::format("\n    {}\n    {}", Source(miss.entity), Source(miss.otherEntity));
+    return text;
   }
 
   std::string SliverText(std::size_t region) const {
@@ -107,8 +113,8 @@ class Writer {
     Add("{}: {} lines and arcs, drawn in {} ({}); tolerance {:.6g} mm\n", fReport.drawing.path,
         fReport.drawing.entities.size(), units.name, units.source, fReport.settings.tolerance);
     for (const std::string& warning : fReport.drawing.warnings) Add("warning: {}\n", warning);
-    for (const auto& [kind, count] : fReport.drawing.skipped) {
-      Add("skipped {} {} on layer \"{}\": {}\n", count, kind.type, kind.layer, kind.reason);
+    for (const auto& [kind, tally] : fReport.drawing.skipped) {
+      Add("skipped {}\n", SkippedText(kind, tally));
     }
   }
 
@@ -125,7 +131,6 @@ class Writer {
 
   const Report& fReport;
   const Findings& fFindings;
-  std::string fText;
 };
 
 }  // namespace
@@ -136,16 +141,22 @@ std::string CheckText(const Report& aReport, const Findings& aFindings) {
 
 std::vector<Mark> MarksOf(const Report& aReport, const Findings& aFindings) {
   std::vector<Mark> marks;
-  for (const OpenEnd& end : aFindings.openEnds) marks.push_back({end.place, kOpenColour, "open end"});
+  for (const OpenEnd& end : aFindings.openEnds) {
+    marks.push_back({end.place, kOpenColour, "open ends", "open end, " + SourceOf(end.entity, aReport.drawing)});
+  }
   for (const NearMiss& miss : aFindings.nearMisses) {
-    marks.push_back({miss.end, kMissColour, fmt::format("near miss, gap {:.6g} mm", miss.gap)});
+    marks.push_back({miss.end, kMissColour, "near misses", fmt::format("near miss, gap {:.6g} mm", miss.gap)});
   }
   for (const std::size_t region : aFindings.slivers) {
-    marks.push_back({aReport.detection.regions[region].label, kFaultColour, "sliver"});
+    marks.push_back({aReport.detection.regions[region].label, kSliverColour, "slivers", "sliver"});
   }
-  for (const Limit& limit : aFindings.limits) marks.push_back({limit.place, kFaultColour, limit.text});
-  for (const Cure& cure : aFindings.faults) marks.push_back({cure.place, kFaultColour, CureText(cure.kind)});
-  for (const Cure& cure : aFindings.notes) marks.push_back({cure.place, kNoteColour, CureText(cure.kind)});
+  for (const Limit& limit : aFindings.limits) marks.push_back({limit.place, kLimitColour, "limits", limit.text});
+  for (const Cure& cure : aFindings.faults) {
+    marks.push_back({cure.place, kFaultColour, "doubled, or drawn off one circle", CureText(cure.kind)});
+  }
+  for (const Cure& cure : aFindings.notes) {
+    marks.push_back({cure.place, kNoteColour, "prepared, nothing to do", CureText(cure.kind)});
+  }
   return marks;
 }
 

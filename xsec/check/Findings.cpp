@@ -9,16 +9,16 @@ bool IsFault(CureKind kind) {
   return kind == CureKind::OneCircle || kind == CureKind::Overlap || kind == CureKind::Duplicate;
 }
 
-std::vector<OpenEnd> OpenEndsOf(const Diagnostics& diagnostics) {
+}  // namespace
+
+std::vector<OpenEnd> OpenEndsOf(const Diagnostics& aDiagnostics) {
   std::vector<OpenEnd> ends;
-  for (const OpenPiece& open : diagnostics.openPieces) {
+  for (const OpenPiece& open : aDiagnostics.openPieces) {
     if (open.fromDangles) ends.push_back({open.piece.from, open.piece.source, open.touches});
     if (open.toDangles) ends.push_back({open.piece.to, open.piece.source, open.touches});
   }
   return ends;
 }
-
-}  // namespace
 
 Findings FindFaults(const Drawing& aDrawing, const Settings& aSettings, const Detection& aDetection) {
   Findings findings;

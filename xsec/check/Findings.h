@@ -4,6 +4,7 @@
 // entities that lie on each other, slivers, and everything that had to be prepared.
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,12 +24,14 @@ struct OpenEnd {
 /// An open end that something comes close to.
 struct NearMiss {
   Point end;
-  Point other;  ///< an open end, or the closest point of an entity
+  Point other;  ///< an open end, or where the entity that ends would meet another if it went on, or the closest point
   std::size_t entity = kNone;
   std::size_t otherEntity = kNone;
   bool isEnd = false;    ///< the other is an open end as well
   double gap = 0;        ///< UNITS: mm
   double tolerance = 0;  ///< UNITS: mm; above this they meet: the larger of |dx| and |dy|
+  std::optional<bool>
+      closes{};  ///< whether the end is open no more at the first rung above; unknown until one is tried
 };
 
 /// What detection gives at a tolerance.
@@ -62,10 +65,13 @@ struct Findings {
   }
 };
 
+/// The ends where nothing goes on.
+std::vector<OpenEnd> OpenEndsOf(const Diagnostics& aDiagnostics);
+
 /// What can be seen from one detection; the ladder is left empty.
 Findings FindFaults(const Drawing& aDrawing, const Settings& aSettings, const Detection& aDetection);
 
-/// Detects at a ladder of tolerances, those that close near misses among them.
+/// Detects at a ladder of tolerances, those that should close near misses among them, and notes whether they do.
 /// COST: a detection for each of at most a dozen tolerances. The library's settings are back as they were afterwards.
 void ClimbLadder(const Drawing& aDrawing, const SettingsRequest& aRequest, const Detection& aDetection,
                  Findings& aFindings);

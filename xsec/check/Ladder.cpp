@@ -38,8 +38,24 @@ std::vector<double> TolerancesToTry(double own, const std::vector<NearMiss>& mis
     tolerances.push_back(kJustAbove * misses[i].tolerance);
   }
   std::sort(tolerances.begin(), tolerances.end());
-  tolerances.erase(std::unique(tolerances.begin(), tolerances.end()), tolerances.end());
+  const auto isNearlySame = [](double a, double b) { return b < kJustAbove * a; };
+  tolerances.erase(std::unique(tolerances.begin(), tolerances.end(), isNearlySame), tolerances.end());
   return tolerances;
+}
+
+/// Whether the entity still ends openly where it did, give or take what the tolerance moves.
+bool IsOpenStill(const NearMiss& miss, const std::vector<OpenEnd>& ends, double tolerance) {
+  return std::any_of(ends.begin(), ends.end(), [&](const OpenEnd& end) {
+    return end.entity == miss.entity && DistanceOf(end.place, miss.end) <= 2 * tolerance;
+  });
+}
+
+/// Each miss is judged by the first tolerance above its own; they are tried in ascending order.
+void NoteWhatCloses(const Detection& detection, double tolerance, std::vector<NearMiss>& misses) {
+  const std::vector<OpenEnd> ends = OpenEndsOf(detection.diagnostics);
+  for (NearMiss& miss : misses) {
+    if (!miss.closes && tolerance > miss.tolerance) miss.closes = !IsOpenStill(miss, ends, tolerance);
+  }
 }
 
 Rung RungOf(const Detection& detection, double tolerance) {
@@ -59,6 +75,7 @@ void ClimbLadder(const Drawing& aDrawing, const SettingsRequest& aRequest, const
     const Detection detection = DetectRegions(aDrawing, ApplySettings(request, aDrawing.extents));
     aFindings.ladder.push_back(RungOf(detection, tolerance));
     aFindings.ladder.back().newAreas = NewAreas(detection, aDetection, tolerance);
+    NoteWhatCloses(detection, tolerance, aFindings.nearMisses);
   }
   std::sort(aFindings.ladder.begin(), aFindings.ladder.end(),
             [](const Rung& a, const Rung& b) { return a.tolerance < b.tolerance; });

@@ -6,6 +6,7 @@
 #include "xsec/check/Findings.h"
 #include "xsec/prepare/Curves.h"
 #include "xsec/prepare/EntityGrid.h"
+#include "xsec/prepare/PairMeetings.h"
 #include "xsec/prepare/PointCells.h"
 
 namespace xsec {
@@ -15,6 +16,7 @@ namespace {
 constexpr double kReachPerDiagonal = 5e-3;  // of the drawing: further off, nobody meant to meet
 constexpr double kLeastReach = 10;          // tolerances
 constexpr double kEndFirst = 2;             // times the distance to a side that an end may be away to be taken
+constexpr double kMostTurnOn = 1;           // radians that an arc is followed beyond its end
 constexpr double kOwnNeighbourhood = 1e-9;  // of the reach: an entity that ends here is the end's own
 
 double ToleranceFor(const Point& a, const Point& b) {
@@ -31,6 +33,27 @@ Point ClosestPoint(const GeometryEngine::TDXFEntity& entity, const Point& point)
   if (position == 0) return entity.StartCoords;
   if (position == length) return entity.EndCoords;
   return PointAlong(Travel(entity, true), position / length);
+}
+
+bool IsEndOf(const GeometryEngine::TDXFEntity& entity, const Point& point) {
+  return DistanceOf(entity.StartCoords, point) == 0 || DistanceOf(entity.EndCoords, point) == 0;
+}
+
+/// The way on, of some length, from the end of the entity that is closer to a point.
+GeometryEngine::TDXFEntity WayOn(const GeometryEngine::TDXFEntity& entity, const Point& point, double length) {
+  const bool isStart = DistanceOf(entity.StartCoords, point) < DistanceOf(entity.EndCoords, point);
+  const Point& from = isStart ? entity.StartCoords : entity.EndCoords;
+  if (!IsArc(entity)) {
+    const Point& behind = isStart ? entity.EndCoords : entity.StartCoords;
+    return GeometryEngine::TDXFEntity::Line(from, from + length / DistanceOf(from, behind) * (from - behind));
+  }
+  const double angle = std::min(length / entity.radius, kMostTurnOn) * (isStart ? -1 : 1);
+  const Point arm = from - entity.CentreCoords;
+  const Point turned{arm.x * std::cos(angle) - arm.y * std::sin(angle),
+                     arm.x * std::sin(angle) + arm.y * std::cos(angle)};
+  const Point to = entity.CentreCoords + turned;
+  return isStart ? ArcBetween(to, from, entity.CentreCoords, entity.radius)
+                 : ArcBetween(from, to, entity.CentreCoords, entity.radius);
 }
 
 class MissFinder {
@@ -91,11 +114,25 @@ class MissFinder {
     });
     for (const std::size_t entity : fNear[end]) {
       if (entity == fEnds[end].entity) continue;
-      const Point closest = ClosestPoint(fDrawing.entities[entity].geometry, fEnds[end].place);
-      if (IsOwn(closest, end)) continue;
-      Offer(MissOf(end, closest, entity, false), best);
+      const Point place = PlaceToMeet(end, fDrawing.entities[entity].geometry);
+      if (IsOwn(place, end)) continue;
+      Offer(MissOf(end, place, entity, false), best);
     }
     return best;
+  }
+
+  /// The library lets two entities meet where they cross or would cross when they went on, if no end is further from
+  /// there than the tolerance. Where nothing would cross soon, it is the closest point.
+  Point PlaceToMeet(std::size_t end, const GeometryEngine::TDXFEntity& side) const {
+    const Point& from = fEnds[end].place;
+    const Point closest = ClosestPoint(side, from);
+    if (IsEndOf(side, closest) || fEnds[end].entity == kNone) return closest;
+    const Point* nearest = nullptr;
+    const auto crossings = CrossingsOf(WayOn(fDrawing.entities[fEnds[end].entity].geometry, from, fReach), side);
+    for (const Point& crossing : crossings) {
+      if (nearest == nullptr || DistanceOf(crossing, from) < DistanceOf(*nearest, from)) nearest = &crossing;
+    }
+    return nearest == nullptr ? closest : *nearest;
   }
 
   /// What runs into the very end is no miss: it was found there already.

@@ -42,8 +42,8 @@ void AddBasis(const Report& report, Lines& lines) {
 
 void AddReading(const Drawing& drawing, Lines& lines) {
   for (const auto& [type, count] : drawing.flattened) lines.Add("{} {} turned into lines and arcs", count, type);
-  for (const auto& [kind, count] : drawing.skipped) {
-    lines.Add("skipped {} {} on layer \"{}\": {}", count, kind.type, kind.layer, kind.reason);
+  for (const auto& [kind, tally] : drawing.skipped) {
+    lines.Add("skipped {}", SkippedText(kind, tally));
   }
 }
 

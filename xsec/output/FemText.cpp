@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <iterator>
 
 #include "xsec/Errors.h"
 #include "xsec/InnerPoint.h"
 #include "xsec/Report.h"
 #include "xsec/Utf8.h"
+#include "xsec/output/FormattedText.h"
 #include "xsec/output/RegionGroups.h"
 #include "xsec/output/Topology.h"
 
@@ -18,17 +18,11 @@ namespace {
 constexpr double kLongestArc = 180;  // degrees; the format knows no longer ones
 constexpr double kLongestChord = 5;  // degrees of an arc that the mesher takes as one straight side
 
-/// Text between quotes, where the format knows no escapes.
-std::string Quoted(std::string text) {
-  for (char& c : text) c = c == '"' ? '\'' : c;
-  return '"' + text + '"';
-}
-
 std::string MaterialOf(const Region& region) {
   return region.material.empty() ? region.name : region.material;
 }
 
-class FemWriter {
+class FemWriter : private FormattedText {
  public:
   explicit FemWriter(const Report& report)
       : fReport(report), fTopology(BuildTopology(report.detection.regions, report.settings.tolerance, kLongestArc)) {
@@ -49,11 +43,6 @@ class FemWriter {
   }
 
  private:
-  template <typename... Values>
-  void Add(fmt::format_string<Values...> format, Values&&... values) {
-    fmt::format_to(std::back_inserter(fText), format, std::forward<Values>(values)...);
-  }
-
   void Head() {
     const std::string file = ToUtf8(std::filesystem::path(fReport.drawing.path).filename().string());
     Add("[Format] = 4.0\n[Frequency] = 0\n[Precision] = 1e-8\n[MinAngle] = 30\n[DoSmartMesh] = 1\n[Depth] = 1\n"
@@ -124,7 +113,6 @@ class FemWriter {
   const Report& fReport;
   Topology fTopology;
   std::vector<std::string> fMaterials;  // without repeats; a label refers to them by number from 1
-  std::string fText;
 };
 
 }  // namespace

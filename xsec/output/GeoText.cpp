@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <iterator>
 #include <map>
 
 #include "GeometryEngine/host/Numerics.h"
 #include "xsec/Report.h"
 #include "xsec/Utf8.h"
+#include "xsec/output/FormattedText.h"
 #include "xsec/output/LoopParting.h"
 #include "xsec/output/RegionGroups.h"
 #include "xsec/output/Topology.h"
@@ -21,13 +21,7 @@ constexpr double kSizesPerDiagonal = 40;  // the largest elements are this part 
 constexpr double kDegreesPerElement = 10;
 constexpr const char* kOuterBoundary = "Outer boundary";
 
-/// Text between quotes, where the format knows no escapes.
-std::string Quoted(std::string text) {
-  for (char& c : text) c = c == '"' ? '\'' : c;
-  return '"' + text + '"';
-}
-
-class GeoWriter {
+class GeoWriter : private FormattedText {
  public:
   explicit GeoWriter(const Report& report)
       : fReport(report), fTopology(BuildTopology(report.detection.regions, report.settings.tolerance, kLongestArc)) {}
@@ -43,11 +37,6 @@ class GeoWriter {
   }
 
  private:
-  template <typename... Values>
-  void Add(fmt::format_string<Values...> format, Values&&... values) {
-    fmt::format_to(std::back_inserter(fText), format, std::forward<Values>(values)...);
-  }
-
   void Head() {
     Add("// {}, by xsec " XSEC_VERSION "; lengths in mm\n",
         ToUtf8(std::filesystem::path(fReport.drawing.path).filename().string()));
@@ -144,7 +133,6 @@ class GeoWriter {
   Topology fTopology;
   std::map<std::pair<double, double>, std::size_t> fCentres;
   std::size_t fLoops = 0;
-  std::string fText;
 };
 
 }  // namespace

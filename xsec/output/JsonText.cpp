@@ -1,23 +1,16 @@
 #include <fmt/format.h>
 
-#include <nlohmann/json.hpp>
-
 #include "xsec/Report.h"
 #include "xsec/Utf8.h"
+#include "xsec/output/JsonParts.h"
 #include "xsec/output/RegionGroups.h"
 
 namespace xsec {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 /// Rises when a reader of the former version could no longer understand the file.
 constexpr int kFormatVersion = 1;
-
-Json OfPoint(const Point& point) {
-  return Json::array({point.x, point.y});
-}
 
 Json OfId(std::size_t index) {
   return index == kNone ? Json(nullptr) : Json(RegionId(index));
@@ -143,8 +136,12 @@ Json OfOpenPiece(const OpenPiece& open, const Drawing& drawing) {
 
 Json OfSkipped(const Drawing& drawing) {
   Json json = Json::array();
-  for (const auto& [kind, count] : drawing.skipped) {
-    json.push_back({{"type", kind.type}, {"layer", kind.layer}, {"reason", kind.reason}, {"count", count}});
+  for (const auto& [kind, tally] : drawing.skipped) {
+    json.push_back({{"type", kind.type},
+                    {"layer", kind.layer},
+                    {"reason", kind.reason},
+                    {"count", tally.count},
+                    {"firstLine", tally.line}});
   }
   return json;
 }
@@ -198,7 +195,7 @@ std::string JsonText(const Report& aReport) {
   const auto& regions = aReport.detection.regions;
   for (std::size_t i = 0; i < regions.size(); ++i) json["regions"].push_back(OfRegion(regions[i], i, aReport));
   json["diagnostics"] = OfDiagnostics(aReport);
-  return json.dump(1, ' ', false, Json::error_handler_t::replace) + "\n";
+  return Dumped(json);
 }
 
 }  // namespace xsec

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
-#include <iterator>
 
 #include "xsec/Report.h"
 #include "xsec/Utf8.h"
+#include "xsec/output/FormattedText.h"
 #include "xsec/output/LabelFit.h"
 #include "xsec/output/RegionColours.h"
 
@@ -19,6 +19,7 @@ constexpr double kMargin = 3;
 constexpr double kTitleSize = 2.8;
 constexpr double kTextSize = 1.7;
 constexpr double kLargestLabel = 2.4;
+constexpr double kSmallestLabel = 0.3;  // about four pixels; regions too small for that tell their name when pointed at
 constexpr double kLineStep = 2.6;
 constexpr double kOutlineWidth = 0.1;
 constexpr double kOpenWidth = 0.3;
@@ -61,13 +62,31 @@ std::string Subtitle(const Report& report) {
                      Plain(box.maxY - box.minY, 5), report.drawing.units.name, report.drawing.units.source);
 }
 
+/// Marks that the legend has one row for.
+struct MarkKind {
+  std::string kind;
+  std::string colour;
+  std::size_t count = 0;
+};
+
+std::vector<MarkKind> KindsOf(const std::vector<Mark>& marks) {
+  std::vector<MarkKind> kinds;
+  for (const Mark& mark : marks) {
+    auto place = std::find_if(kinds.begin(), kinds.end(), [&](const MarkKind& kind) { return kind.kind == mark.kind; });
+    if (place == kinds.end()) place = kinds.insert(place, {mark.kind, mark.colour, 0});
+    ++place->count;
+  }
+  return kinds;
+}
+
 /// Writes one picture. Coordinates are millimetres with y upwards; the picture's y runs downwards, so each is negated
 /// on its way out.
-class SvgPicture {
+class SvgPicture : private FormattedText {
  public:
   explicit SvgPicture(const Report& report)
       : fReport(report),
         fKinds(GroupRegions(report.detection.regions)),
+        fMarkKinds(KindsOf(report.marks)),
         fBox(report.drawing.extents),
         fUnit(std::max({fBox.maxX - fBox.minX, fBox.maxY - fBox.minY, kSmallestSide}) / 100),
         fTitle(ToUtf8(std::filesystem::path(report.drawing.path).filename().string())),
@@ -87,11 +106,6 @@ class SvgPicture {
  private:
   static constexpr double kSmallestSide = 1e-6;  // millimetres; keeps a drawing without size from a picture of size 0
 
-  template <typename... Values>
-  void Add(fmt::format_string<Values...> format, Values&&... values) {
-    fmt::format_to(std::back_inserter(fText), format, std::forward<Values>(values)...);
-  }
-
   std::size_t LegendRows() const {
     return fKinds.size() <= kOneColumn ? fKinds.size() : std::min((fKinds.size() + 1) / 2, kMostRows);
   }
@@ -105,7 +119,7 @@ class SvgPicture {
     return std::max(fBox.maxX - fBox.minX, std::max(title, subtitle) * fUnit);
   }
   double LegendHeight() const {
-    const std::size_t rows = LegendRows() + (HasMoreKinds() ? 1 : 0) + (HasOpenPieces() ? 1 : 0);
+    const std::size_t rows = LegendRows() + (HasMoreKinds() ? 1 : 0) + (HasOpenPieces() ? 1 : 0) + fMarkKinds.size();
     return static_cast<double>(rows) * kLineStep * fUnit;
   }
 
@@ -174,11 +188,11 @@ class SvgPicture {
   }
 
   void AddLabel(const Region& region) {
-    if (region.baseArea < MinimumLabelArea(fReport.settings)) return;
+    if (region.baseArea < fReport.settings.minimumLabelArea) return;
     RegionSpace space{&region.outline, {}};
     for (const Loop& hole : region.holes) space.holes.push_back(&hole);
     const auto fit = FitLabel(space, region.label, CountCharacters(region.uniqueName), kLargestLabel * fUnit);
-    if (!(fit.size > 0)) return;
+    if (!(fit.size >= kSmallestLabel * fUnit)) return;
     Add("<text transform=\"translate({:.10g} {:.10g}){} scale({:.6g})\" font-size=\"{}\" dy=\".36em\">{}</text>\n",
         region.label.x, -region.label.y, fit.upright ? " rotate(-90)" : "", fit.size / kFontUnit, kFontUnit,
         Escaped(region.uniqueName));
@@ -224,7 +238,14 @@ class SvgPicture {
       LegendText(fBox.minX, y, fmt::format("and {} more kinds", fKinds.size() - KindsInLegend()));
       y += kLineStep * fUnit;
     }
-    if (HasOpenPieces()) AddLegendOfOpenPieces(y);
+    if (HasOpenPieces()) {
+      AddLegendOfOpenPieces(y);
+      y += kLineStep * fUnit;
+    }
+    for (const MarkKind& kind : fMarkKinds) {
+      AddLegendOfMarks(kind, y);
+      y += kLineStep * fUnit;
+    }
   }
 
   void AddLegendRow(std::size_t kind, double x, double y) {
@@ -237,7 +258,7 @@ class SvgPicture {
     const std::string area = Plain(group.netArea, 5);
     LegendText(x, y,
                count == 1 ? fmt::format("{}: {} mm²", group.name, area)
-                          : fmt::format("{}: {} of {} mm²", group.name, count, area));
+                          : fmt::format("{}: {} × {} mm²", group.name, count, area));
   }
 
   void AddLegendOfOpenPieces(double y) {
@@ -248,17 +269,23 @@ class SvgPicture {
                            CountLooseEnds(fReport.detection)));
   }
 
+  void AddLegendOfMarks(const MarkKind& kind, double y) {
+    Add("<circle cx=\"{:.10g}\" cy=\"{:.10g}\" r=\"{:.6g}\" fill=\"none\" stroke=\"{}\" stroke-width=\"{:.6g}\"/>\n",
+        fBox.minX + fUnit, y - 0.6 * fUnit, kOpenMark * fUnit, kind.colour, kOpenWidth * fUnit);
+    LegendText(fBox.minX, y, fmt::format("{}: {}", kind.kind, kind.count));
+  }
+
   void LegendText(double x, double y, std::string_view text) {
     Write(x + 3 * fUnit, y, kTextSize * fUnit, " fill=\"#303030\"", text);
   }
 
   const Report& fReport;
   std::vector<RegionKind> fKinds;
+  std::vector<MarkKind> fMarkKinds;
   Extents fBox;
   double fUnit;
   std::string fTitle;
   std::string fSubtitle;
-  std::string fText;
 };
 
 }  // namespace

@@ -84,8 +84,8 @@ std::string Areas(const Report& report) {
 
 std::string TotalLine(const Report& report) {
   const Detection& detection = report.detection;
-  std::string line =
-      fmt::format("{} regions, net area {} mm2", detection.regions.size(), Plain(TotalArea(detection), 6));
+  std::string line = fmt::format("{} region{}, net area {} mm2", detection.regions.size(),
+                                 detection.regions.size() == 1 ? "" : "s", Plain(TotalArea(detection), 6));
   const std::size_t open = detection.diagnostics.openPieces.size();
   if (report.copies > 1) {
     line += fmt::format(", of {} copies {} mm2", report.copies,
