@@ -12,21 +12,19 @@
 
 namespace xsec {
 
-/// Numbers of things that stand at points. Cells of twice the reach, so that a point's neighbours within the reach lie
-/// in at most four of them; Visit looks through all nine around it.
+/// Numbers of things that stand at points. Cells of twice the reach, so that a point's neighbours within the reach,
+/// along either axis, lie in at most four of them.
 class PointCells {
  public:
-  explicit PointCells(double aReach) : fSide(2 * aReach) {}
+  explicit PointCells(double aReach) : fReach(aReach), fSide(2 * aReach) {}
 
   void Add(const Point& aPoint, std::size_t aNumber) { fCells[Key(Cell(aPoint.x), Cell(aPoint.y))].push_back(aNumber); }
 
   /// Calls `take` for the number of every thing that may be within the reach, until it answers true.
   template <typename Take>
   bool Visit(const Point& aPoint, Take&& take) const {
-    const std::int64_t column = Cell(aPoint.x);
-    const std::int64_t row = Cell(aPoint.y);
-    for (std::int64_t r = row - 1; r <= row + 1; ++r) {
-      for (std::int64_t c = column - 1; c <= column + 1; ++c) {
+    for (std::int64_t r = Cell(aPoint.y - fReach); r <= Cell(aPoint.y + fReach); ++r) {
+      for (std::int64_t c = Cell(aPoint.x - fReach); c <= Cell(aPoint.x + fReach); ++c) {
         const auto place = fCells.find(Key(c, r));
         if (place == fCells.end()) continue;
         for (const std::size_t number : place->second) {
@@ -50,6 +48,7 @@ class PointCells {
     return static_cast<std::uint64_t>(column) * kSpread + static_cast<std::uint64_t>(row);
   }
 
+  double fReach;
   double fSide;
   std::unordered_map<std::uint64_t, std::vector<std::size_t>> fCells;
 };
