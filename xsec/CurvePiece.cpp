@@ -111,7 +111,8 @@ struct Fit {
 
 // Judged by the halves, whose control points are closer to the curve than those of the whole.
 Fit FitSegment(const std::array<CurvePiece, 2>& halves, double tolerance) {
-  const auto& [left, right] = halves;
+  const CurvePiece& left = halves.front();
+  const CurvePiece& right = halves.back();
   const Point start = Projected(left.front());
   const Point end = Projected(right.back());
   const ChordFrame chord(start, end);

@@ -152,8 +152,9 @@ TEST(JsonText, TellsNestingOutlineAndHoles) {
 TEST(JsonText, TellsWhatWasLeftOutAndWhatIsOpen) {
   const json diagnostics = Carried(PlateWithDisc()).AsJson()["diagnostics"];
   EXPECT_EQ(diagnostics["warnings"], json({"odd size"}));
-  EXPECT_EQ(diagnostics["skipped"],
-            json::array({{{"type", "TEXT"}, {"layer", "Notes"}, {"reason", "not read"}, {"count", 3}, {"firstLine", 41}}}));
+  EXPECT_EQ(
+      diagnostics["skipped"],
+      json::array({{{"type", "TEXT"}, {"layer", "Notes"}, {"reason", "not read"}, {"count", 3}, {"firstLine", 41}}}));
   EXPECT_EQ(diagnostics["flattened"], json({{"SPLINE", 2}}));
   ASSERT_EQ(diagnostics["openPieces"].size(), 1U);
   const json& spur = diagnostics["openPieces"][0];

@@ -10,7 +10,7 @@ from outputs import arguments, finish, needs, regions_of
 
 ezdxf = needs("ezdxf")
 
-CURVE_ERROR = 2e-3  # of an area that flattened curves bound
+CURVE_ERROR = 1e-3  # of an area that flattened curves bound
 EXACT = 1e-9
 
 
