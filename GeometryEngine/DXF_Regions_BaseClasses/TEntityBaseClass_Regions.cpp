@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <vector>
 
 #include "GeometryEngine/DXF_Entity_Types/detail/TEntityIndex.h"
 #include "GeometryEngine/DXF_Regions_BaseClasses/TEntityBaseClass.h"
@@ -6,6 +7,7 @@
 #include "GeometryEngine/DXF_Regions_Detection/detail/TGraphWalk.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TLoopTracing.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TVertexGraph.h"
+#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TNodeBatch.h"
 
 namespace GeometryEngine {
 
@@ -26,24 +28,54 @@ TIndex GetWalkedEntityIndex(const TEntityTree& aCoordinateTree, std::int32_t aNo
   return node == nullptr ? kNotFound : node->EntityIndex();
 }
 
-// The region tree's node of a loop or chain, without its entities.
-TTreeNode* AddRegion(TEntityTree& aRegionTree, const TEntityCoordinate& aStart, const TEntityCoordinate& aCentroid,
-                     double aArea) {
-  TTreeNode* region = aRegionTree.AddTreeNode_ToRoot();
-  region->Coordinates(aStart);
-  region->ResetRegionIdentifier();
-  region->GaussArea(aArea);
-  region->RegionCentroid(aCentroid);
-  region->TravelDirection(aArea >= 0 ? Travel_AntiClockwise : Travel_Clockwise);
-  return region;
+// What a region node has of a loop or chain besides its entities.
+void SetRegion(TTreeNode& aRegion, const TEntityCoordinate& aStart, const TEntityCoordinate& aCentroid, double aArea) {
+  aRegion.Coordinates(aStart);
+  aRegion.ResetRegionIdentifier();
+  aRegion.GaussArea(aArea);
+  aRegion.RegionCentroid(aCentroid);
+  aRegion.TravelDirection(aArea >= 0 ? Travel_AntiClockwise : Travel_Clockwise);
 }
 
-void AddWalkedRegion(TEntityTree& aRegionTree, const detail::TVertexGraph& aGraph, detail::TGraphWalk& aWalk,
-                     double aArea) {
-  const TEntityCoordinate& start = aGraph.From(aGraph.HalfEdge(aWalk.Path().front()));
-  TTreeNode* region = AddRegion(aRegionTree, start, aWalk.GetCentroid(aArea), aArea);
-  for (const TIndex h : aWalk.Path()) aRegionTree.AddTreeNode(region)->EntityIndex(aGraph.HalfEdge(h).fEntityIndex);
+const TEntityCoordinate& StartOf(const detail::TVertexGraph& aGraph, const detail::TGraphWalk& aWalk) {
+  return aGraph.From(aGraph.HalfEdge(aWalk.Path().front()));
 }
+
+// The loops that are kept, until it is known how many nodes they take.
+class TKeptLoops {
+ public:
+  explicit TKeptLoops(const detail::TVertexGraph& aGraph) : fGraph(aGraph) {}
+
+  void Add(detail::TGraphWalk& aWalk, double aArea) {
+    for (const TIndex h : aWalk.Path()) fEntities.push_back(fGraph.HalfEdge(h).fEntityIndex);
+    fLoops.push_back({StartOf(fGraph, aWalk), aWalk.GetCentroid(aArea), aArea, fEntities.size()});
+  }
+
+  void FillTree(TEntityTree& aRegionTree) const {
+    detail::TNodeBatch nodes(aRegionTree, fLoops.size() + fEntities.size());
+    auto entity = fEntities.begin();
+    for (std::size_t i = 0; i < fLoops.size(); ++i) {
+      const auto& [start, centroid, area, endOfEntities] = fLoops[i];
+      TTreeNode& region = nodes.AddToRoot(ToIndex(i));
+      SetRegion(region, start, centroid, area);
+      const auto end = fEntities.begin() + static_cast<std::ptrdiff_t>(endOfEntities);
+      for (TIndex place = 0; entity != end; ++place) nodes.Add(region, place).EntityIndex(*entity++);
+    }
+    nodes.Finish();
+  }
+
+ private:
+  struct TLoop {
+    TEntityCoordinate fStart;
+    TEntityCoordinate fCentroid;
+    double fArea;
+    std::size_t fEndOfEntities;
+  };
+
+  const detail::TVertexGraph& fGraph;
+  std::vector<TLoop> fLoops;
+  std::vector<TIndex> fEntities;  // of the loops, one after the other
+};
 
 // The open chains found so far, to recognise one that is walked from its other end.
 class TKnownChains {
@@ -86,13 +118,15 @@ void TEntityBaseClass::DetermineRegions(TEntityTree& aTree, std::int32_t aRegion
   fRegionTree.pEntityStorage(aTree.pEntityStorage());
   const detail::TVertexGraph graph(aTree);
   detail::TLoopTracing tracing(graph);
+  TKeptLoops loops(graph);
   const bool wantsNegative = IsWanted(-1, aRegionType);
   for (TIndex h = 0; h < graph.HalfEdgeCount(); ++h) {
     // A dangling end starts no closed loop.
     if (tracing.Walk().IsTravelled(h) || graph.IsDangling(graph.HalfEdge(h).fVertex)) continue;
     if (!tracing.Trace(h, wantsNegative) || !IsWanted(tracing.Area(), aRegionType)) continue;
-    AddWalkedRegion(fRegionTree, graph, tracing.Walk(), tracing.Area());
+    loops.Add(tracing.Walk(), tracing.Area());
   }
+  loops.FillTree(fRegionTree);
   tracing.Walk().WriteMarks();
   pass.Done();
 }
@@ -109,7 +143,10 @@ void TEntityBaseClass::DetectOrphanEntities(TEntityTree& aTree) {
     walk.Walk(h, false);
     if (known.HoldReverseOf(walk.Path())) continue;
     known.Add(walk.Path());
-    AddWalkedRegion(fRegionTree, graph, walk, walk.GetArea());
+    const double area = walk.GetArea();
+    TTreeNode* region = fRegionTree.AddTreeNode_ToRoot();
+    SetRegion(*region, StartOf(graph, walk), walk.GetCentroid(area), area);
+    for (const TIndex i : walk.Path()) fRegionTree.AddTreeNode(region)->EntityIndex(graph.HalfEdge(i).fEntityIndex);
   }
   walk.WriteMarks();
   pass.Done();
@@ -120,7 +157,8 @@ void TEntityBaseClass::AddRegionCoordinates(const TEntityTree& aCoordinateTree,
                                             const TEntityCoordinate& aCentroid, double aArea) {
   if (aNodeIndexes.empty()) return;
   const TFloatEnvironment environment;
-  TTreeNode* region = AddRegion(fRegionTree, aStart, aCentroid, aArea);
+  TTreeNode* region = fRegionTree.AddTreeNode_ToRoot();
+  SetRegion(*region, aStart, aCentroid, aArea);
   for (const std::int32_t index : aNodeIndexes) {
     fRegionTree.AddTreeNode(region)->EntityIndex(GetWalkedEntityIndex(aCoordinateTree, index));
   }

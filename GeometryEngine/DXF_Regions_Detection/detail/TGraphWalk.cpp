@@ -92,14 +92,14 @@ double TGraphWalk::GetArea() {
   double area = 0;
   for (const TIndex step : fSteps) area += step < 0 ? -GetAreaTerm(~step) : GetAreaTerm(step);
   if (!fHasClosed) return area;
-  return area + GetSignedArea_Entity(fLastVertex, fLastFarEnd, fGraph.Entity(fGraph.HalfEdge(fPath.back())));
+  return area + GetSignedArea_Entity(fLastVertex, fLastFarEnd, fGraph.Curve(fGraph.HalfEdge(fPath.back())));
 }
 
 double TGraphWalk::GetAreaTerm(TIndex aHalfEdge) {
   double& term = fAreaTerms[At(aHalfEdge)];
   if (std::isnan(term)) {
     const THalfEdge& halfEdge = fGraph.HalfEdge(aHalfEdge);
-    term = GetSignedArea_Entity(fGraph.From(halfEdge), fGraph.FarEnd(halfEdge), fGraph.Entity(halfEdge));
+    term = GetSignedArea_Entity(fGraph.From(halfEdge), fGraph.FarEnd(halfEdge), fGraph.Curve(halfEdge));
   }
   return term;
 }
@@ -112,7 +112,7 @@ TEntityCoordinate TGraphWalk::GetCentroid(double aArea) {
     sum = step < 0 ? sum - GetCentroidTerm(~step) : sum + GetCentroidTerm(step);
   }
   if (!fHasClosed) return sum;
-  const TDXFEntity& last = fGraph.Entity(fGraph.HalfEdge(fPath.back()));
+  const TDXFEntity& last = fGraph.Curve(fGraph.HalfEdge(fPath.back()));
   sum = sum + GetCentroidComponent_Entity(fLastVertex, fLastFarEnd, last);
   return (1 / (aArea * 6)) * sum;
 }
@@ -120,7 +120,7 @@ TEntityCoordinate TGraphWalk::GetCentroid(double aArea) {
 TEntityCoordinate TGraphWalk::GetCentroidTerm(TIndex aHalfEdge) {
   const THalfEdge& halfEdge = fGraph.HalfEdge(aHalfEdge);
   const auto compute = [&] {
-    return GetCentroidComponent_Entity(fGraph.From(halfEdge), fGraph.FarEnd(halfEdge), fGraph.Entity(halfEdge));
+    return GetCentroidComponent_Entity(fGraph.From(halfEdge), fGraph.FarEnd(halfEdge), fGraph.Curve(halfEdge));
   };
   if (fCentroidTerms.empty()) return compute();
   TEntityCoordinate& term = fCentroidTerms[At(aHalfEdge)];

@@ -85,8 +85,8 @@ void TTurnOrder::MakeRing(TIndex aVertex) {
 }
 
 double TTurnOrder::GetDirection(const THalfEdge& aHalfEdge, std::int32_t aMode) const {
-  const TDXFEntity& entity = fGraph.Entity(aHalfEdge);
-  return DirectionOf(GetEntityVector(fGraph.From(aHalfEdge), fGraph.FarEnd(aHalfEdge), entity, aMode));
+  const TDXFEntity& curve = fGraph.Curve(aHalfEdge);
+  return DirectionOf(GetEntityVector(fGraph.From(aHalfEdge), fGraph.FarEnd(aHalfEdge), curve, aMode));
 }
 
 }  // namespace GeometryEngine::detail

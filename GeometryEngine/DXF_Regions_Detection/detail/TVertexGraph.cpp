@@ -47,10 +47,11 @@ class TVertexSearch {
   /// The first vertex that is the same as this one.
   TIndex FindFirst(TIndex aVertex) const { return fFirstSame[static_cast<std::size_t>(aVertex)]; }
   TIndex FindFirst(const TEntityCoordinate& aPoint) const { return fIndex.FindFirst(aPoint); }
+  bool IsFirst(TIndex aVertex) const { return FindFirst(aVertex) == aVertex; }
   /// True when each vertex is the same as itself and no other.
   bool AreAllApart() const {
     for (TIndex v = 0; v < fIndex.Count(); ++v) {
-      if (FindFirst(v) != v) return false;
+      if (!IsFirst(v)) return false;
     }
     return true;
   }
@@ -117,13 +118,18 @@ void TVertexGraph::ReadTree(const TEntityTree& aTree) {
 }
 
 void TVertexGraph::FindFarVertices() {
+  fAnyLine.EntityType = DXFLine;
   const TVertexSearch search(fPoints);
   const TTwins twins(fHalfEdges, fEntities.size());
   fIsRegular = search.AreAllApart();
   for (TIndex h = 0; h < HalfEdgeCount(); ++h) {
     THalfEdge& halfEdge = fHalfEdges[At(h)];
-    const TEntityCoordinate farEnd = FarEndFrom(From(halfEdge), halfEdge);
+    if (halfEdge.fFarVertex != kNotFound) continue;  // joined with its twin already
     const TIndex twin = twins.Of(h, halfEdge.fEntityIndex);
+    if (twin > h && search.IsFirst(halfEdge.fVertex) && search.IsFirst(HalfEdge(twin).fVertex) && JoinTwins(h, twin)) {
+      continue;
+    }
+    const TEntityCoordinate farEnd = FarEndFrom(From(halfEdge), halfEdge);
     const bool leadsToTwin = twin != kNotFound && HasSameBits(From(HalfEdge(twin)), farEnd);
     if (leadsToTwin) halfEdge.fTwin = twin;
     halfEdge.fFarVertex = leadsToTwin ? search.FindFirst(HalfEdge(twin).fVertex) : search.FindFirst(farEnd);
@@ -131,6 +137,27 @@ void TVertexGraph::FindFarVertices() {
     halfEdge.fIsExact = IsExact(halfEdge, farEnd);
     fIsRegular = fIsRegular && leadsToTwin && halfEdge.fIsExact && JoinsVertices(halfEdge);
   }
+}
+
+// Both half-edges of a piece at once, where all is well: each vertex is the first that is the same as itself, so the
+// two are not the same, and either end of the piece is the other end of the other one. False when something is not.
+bool TVertexGraph::JoinTwins(TIndex aHalfEdge, TIndex aTwin) {
+  THalfEdge& halfEdge = fHalfEdges[At(aHalfEdge)];
+  THalfEdge& twin = fHalfEdges[At(aTwin)];
+  if (halfEdge.fVertex == twin.fVertex) return false;
+  const bool isLine = Entity(halfEdge).EntityType == DXFLine;
+  THalfEdge joined = halfEdge;
+  joined.fFarVertex = twin.fVertex;
+  joined.fTwin = aTwin;
+  joined.fIsLine = isLine;
+  joined.fIsExact = IsExact(joined, From(twin));
+  if (!joined.fIsExact || !JoinsVertices(joined)) return false;
+  halfEdge = joined;
+  twin.fFarVertex = halfEdge.fVertex;
+  twin.fTwin = aHalfEdge;
+  twin.fIsLine = isLine;
+  twin.fIsExact = true;
+  return true;
 }
 
 bool TVertexGraph::IsExact(const THalfEdge& aHalfEdge, const TEntityCoordinate& aFarEnd) const {

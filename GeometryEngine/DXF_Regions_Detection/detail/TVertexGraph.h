@@ -50,6 +50,8 @@ class TVertexGraph {
   const THalfEdge& HalfEdge(TIndex aHalfEdge) const { return fHalfEdges[At(aHalfEdge)]; }
   TTreeNode& Node(TIndex aHalfEdge) const { return *fNodes[At(aHalfEdge)]; }
   const TDXFEntity& Entity(const THalfEdge& aHalfEdge) const;
+  /// The same, for who knows the ends and asks for the curve between them: one line stands for all, and is at hand.
+  const TDXFEntity& Curve(const THalfEdge& aHalfEdge) const { return aHalfEdge.fIsLine ? fAnyLine : Entity(aHalfEdge); }
   const TEntityCoordinate& From(const THalfEdge& aHalfEdge) const { return Point(aHalfEdge.fVertex); }
   TEntityCoordinate FarEnd(const THalfEdge& aHalfEdge) const;
   /// The far end of a half-edge of this vertex, were it entered at this point.
@@ -68,6 +70,7 @@ class TVertexGraph {
   static std::size_t At(TIndex aIndex) { return static_cast<std::size_t>(aIndex); }
   void ReadTree(const TEntityTree& aTree);
   void FindFarVertices();
+  bool JoinTwins(TIndex aHalfEdge, TIndex aTwin);
   bool IsExact(const THalfEdge& aHalfEdge, const TEntityCoordinate& aFarEnd) const;
   bool JoinsVertices(const THalfEdge& aHalfEdge) const;
 
@@ -77,6 +80,7 @@ class TVertexGraph {
   std::vector<TIndex> fFirst;  // one more than vertices
   std::vector<THalfEdge> fHalfEdges;
   std::vector<TTreeNode*> fNodes;
+  TDXFEntity fAnyLine;
   bool fIsRegular = true;
 };
 
