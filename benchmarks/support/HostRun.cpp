@@ -1,7 +1,7 @@
 #include "benchmarks/support/HostRun.h"
 
 #include <algorithm>
-#include <numeric>
+#include <span>
 
 namespace benchmarks {
 
@@ -64,8 +64,9 @@ void THostRun::RemoveDuplicatedSubRegions() {
 }
 
 void THostRun::HandOver() {
-  const std::vector<std::size_t> order = LargestFirst();
-  PlaceNodes(order);
+  const std::vector<TIndex> parents = Parents(*fDriver.RegionTree().RootNode());
+  const std::vector<std::size_t> order = ContainersFirst(parents);
+  PlaceNodes(order, parents);
   // Children first: a label keeps clear of them.
   std::for_each(order.rbegin(), order.rend(), [this](std::size_t i) { fNodes[i]->UpdateGeometry_Outputs(); });
 }
@@ -82,24 +83,32 @@ std::size_t THostRun::FaceCount() const {
   return fDriver.RegionTree().RootNode()->Children().size();
 }
 
-// Containers before what they contain. A node moves below its container as soon as it is made: as long as few nodes
-// hang below the root, taking one away from there costs little.
-std::vector<std::size_t> THostRun::LargestFirst() const {
-  const auto& regions = fDriver.RegionTree().RootNode()->Children();
-  std::vector<std::size_t> order(regions.size());
-  std::iota(order.begin(), order.end(), std::size_t{0});
-  std::ranges::stable_sort(order, std::ranges::greater(), [&](std::size_t i) { return regions[i]->GaussArea(); });
+// Containers before what they contain, level after level and else in the regions' order, in which their entities stand
+// in memory. A node moves below its container as soon as it is made, before anything hangs below itself.
+std::vector<std::size_t> THostRun::ContainersFirst(const std::vector<TIndex>& aParents) const {
+  const std::span<TTreeNode* const> regions = fDriver.RegionTree().RootNode()->Children();
+  std::vector<std::size_t> order;
+  order.reserve(regions.size());
+  for (std::size_t i = 0; i < regions.size(); ++i) {
+    if (aParents[i] == kNotFound) order.push_back(i);
+  }
+  for (std::size_t k = 0; k < order.size(); ++k) {
+    for (const std::int32_t inner : regions[order[k]]->SubRegions()) {
+      const auto region = static_cast<std::size_t>(inner);
+      if (aParents[region] == ToIndex(order[k])) order.push_back(region);
+    }
+  }
   return order;
 }
 
-void THostRun::PlaceNodes(const std::vector<std::size_t>& aOrder) {
-  const std::vector<TIndex> parents = Parents(*fDriver.RegionTree().RootNode());
-  fNodes.assign(parents.size(), nullptr);
+void THostRun::PlaceNodes(const std::vector<std::size_t>& aOrder, const std::vector<TIndex>& aParents) {
+  fNodes.assign(aParents.size(), nullptr);
   for (const std::size_t i : aOrder) {
     auto node = fTree.CreateTreeNode();
     fNodes[i] = TTreeNode_Geometry::TypeCast(fTree.AddNewTreeNode(node));
     fDriver.AddRegionEntities(fNodes[i], ToIndex(i));
-    if (parents[i] != kNotFound) fTree.MoveTreeNode_Recursive(fNodes[i], fNodes[static_cast<std::size_t>(parents[i])]);
+    if (aParents[i] == kNotFound) continue;
+    fTree.MoveTreeNode_Recursive(fNodes[i], fNodes[static_cast<std::size_t>(aParents[i])]);
   }
 }
 

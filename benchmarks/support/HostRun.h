@@ -37,8 +37,8 @@ class THostRun {
   const GeometryEngine::TTreeNodeArray_Geometry& Nodes() const { return fNodes; }
 
  private:
-  std::vector<std::size_t> LargestFirst() const;
-  void PlaceNodes(const std::vector<std::size_t>& aOrder);
+  std::vector<std::size_t> ContainersFirst(const std::vector<GeometryEngine::TIndex>& aParents) const;
+  void PlaceNodes(const std::vector<std::size_t>& aOrder, const std::vector<GeometryEngine::TIndex>& aParents);
 
   GeometryEngine::TEntityStorage fDrawing;
   GeometryEngine::TEntityBaseClass fDriver;
