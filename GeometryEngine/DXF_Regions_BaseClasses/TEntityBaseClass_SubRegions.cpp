@@ -52,9 +52,14 @@ std::vector<TClosestContainer> FindClosestContainers(std::span<TTreeNode* const>
   return closest;
 }
 
+struct TNewList {
+  TTreeNode* fRegion;
+  TIntegerArray fSubRegions;
+};
+
 // All lists are made before the first is set, so that memory that runs out leaves the regions as they were.
-void SetSubRegions(std::span<TTreeNode* const> aRegions, std::vector<TIntegerArray>& aLists) {
-  for (std::size_t j = 0; j < aRegions.size(); ++j) aRegions[j]->SubRegions(std::move(aLists[j]));
+void SetSubRegions(std::vector<TNewList>& aLists) {
+  for (TNewList& list : aLists) list.fRegion->SubRegions(std::move(list.fSubRegions));
 }
 
 }  // namespace
@@ -62,12 +67,15 @@ void SetSubRegions(std::span<TTreeNode* const> aRegions, std::vector<TIntegerArr
 void TEntityBaseClass::IdentifySubRegions(const TEntityTree& aTree) {
   const TFloatEnvironment environment;
   const std::span<TTreeNode* const> regions = fRegionTree.RootNode()->Children();
-  std::vector<TIntegerArray> lists = detail::FindNestedRegions(fRegionTree, aTree);
+  std::vector<TIntegerArray> nested = detail::FindNestedRegions(fRegionTree, aTree);
+  std::vector<TNewList> lists;
   for (std::size_t j = 0; j < regions.size(); ++j) {
+    if (nested[j].empty()) continue;
     const TIntegerArray& known = regions[j]->SubRegions();
-    lists[j].insert(lists[j].begin(), known.begin(), known.end());
+    nested[j].insert(nested[j].begin(), known.begin(), known.end());
+    lists.push_back({regions[j], std::move(nested[j])});
   }
-  SetSubRegions(regions, lists);
+  SetSubRegions(lists);
 }
 
 void TEntityBaseClass::RemoveDuplicatedSubRegions() {
@@ -75,11 +83,13 @@ void TEntityBaseClass::RemoveDuplicatedSubRegions() {
   const std::span<TTreeNode* const> regions = fRegionTree.RootNode()->Children();
   std::vector<TClosestContainer> closest = FindClosestContainers(regions);
   for (TClosestContainer& container : closest) container.fLast = kNotFound;
-  std::vector<TIntegerArray> lists(regions.size());
+  std::vector<TNewList> lists;
   for (std::size_t j = 0; j < regions.size(); ++j) {
-    TIntegerArray& kept = lists[j];
-    kept.reserve(regions[j]->SubRegions().size());
-    for (const std::int32_t region : regions[j]->SubRegions()) {
+    const TIntegerArray& listed = regions[j]->SubRegions();
+    if (listed.empty()) continue;
+    TIntegerArray& kept = lists.emplace_back(TNewList{regions[j], {}}).fSubRegions;
+    kept.reserve(listed.size());
+    for (const std::int32_t region : listed) {
       // Of an index that is listed twice only the first entry goes.
       if (IsIndexWithin(region, closest.size()) &&
           std::exchange(closest[static_cast<std::size_t>(region)].fLast, ToIndex(j)) != ToIndex(j) &&
@@ -89,7 +99,7 @@ void TEntityBaseClass::RemoveDuplicatedSubRegions() {
       kept.push_back(region);
     }
   }
-  SetSubRegions(regions, lists);
+  SetSubRegions(lists);
 }
 
 bool TEntityBaseClass::GetIsRegionSubRegion(std::int32_t aRegionIndex) const {

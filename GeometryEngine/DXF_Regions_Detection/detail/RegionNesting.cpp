@@ -1,41 +1,18 @@
 #include "GeometryEngine/DXF_Regions_Detection/detail/RegionNesting.h"
 
 #include <algorithm>
-#include <cmath>
+#include <optional>
 #include <span>
 
 #include "GeometryEngine/DXF_Regions_Detection/detail/RegionReach.h"
+#include "GeometryEngine/DXF_Regions_Detection/detail/TBoxGrid.h"
+#include "GeometryEngine/DXF_Regions_Detection/detail/TBoxIndex.h"
+#include "GeometryEngine/DXF_Regions_Detection/detail/THeightIndex.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TRegionOutline.h"
 
 namespace GeometryEngine::detail {
 
 namespace {
-
-constexpr double kLargest = 1e100;  // drawing length units; see RegionReach.cpp
-
-// The start points of a region's entities, which decide what it lies in, by their extremes.
-struct TStartPoints {
-  TBox fBox;
-  double fHeight_LeftMost = 0;
-  double fHeight_RightMost = 0;
-  bool fLieNowhere = false;  // there is none, or one that is not a number: the region lies in no other
-  bool fAreTame = true;
-
-  void Include(const TEntityCoordinate& aPoint) {
-    fLieNowhere = fLieNowhere || std::isnan(aPoint.x) || std::isnan(aPoint.y);
-    fAreTame = fAreTame && std::abs(aPoint.x) < kLargest && std::abs(aPoint.y) < kLargest;
-    if (aPoint.x < fBox.fLeft) fHeight_LeftMost = aPoint.y;
-    if (aPoint.x > fBox.fRight) fHeight_RightMost = aPoint.y;
-    fBox.Include(aPoint.x, aPoint.y);
-  }
-};
-
-TStartPoints GetStartPoints(const TEntityTree& aCoordinateTree, const TTreeNode& aRegion) {
-  TStartPoints points;
-  points.fLieNowhere = aRegion.Children().empty();
-  for (const TTreeNode* child : aRegion.Children()) points.Include(aCoordinateTree.GetNodeEntity(*child).StartCoords);
-  return points;
-}
 
 // Finds what may lie inside each region, and leaves it to the winding numbers whether it does.
 class TNesting {
@@ -43,10 +20,8 @@ class TNesting {
   TNesting(const TEntityTree& aRegionTree, const TEntityTree& aCoordinateTree)
       : fCoordinateTree(aCoordinateTree),
         fRegions(aRegionTree.RootNode()->Children()),
-        fReaches(GetRegionReaches(aRegionTree, aCoordinateTree)) {
-    fStartPoints.reserve(fRegions.size());
-    for (const TTreeNode* region : fRegions) fStartPoints.push_back(GetStartPoints(aCoordinateTree, *region));
-  }
+        fReaches(GetRegionReaches(aRegionTree, aCoordinateTree)),
+        fStartPoints(fReaches.fStartPoints) {}
 
   std::vector<TIntegerArray> Find() {
     std::vector<TIntegerArray> nested = FindCandidates();
@@ -58,11 +33,11 @@ class TNesting {
   // REQUIRES: candidates in ascending order, each once.
   void KeepNested(TIndex aContainer, TIntegerArray& aCandidates) const {
     if (aCandidates.empty()) return;
-    const TRegionOutline outline(fCoordinateTree, *fRegions[static_cast<std::size_t>(aContainer)]);
+    TRegionOutline outline(fCoordinateTree, *fRegions[static_cast<std::size_t>(aContainer)]);
     std::erase_if(aCandidates, [&](TIndex region) { return region == aContainer || !LiesInside(region, outline); });
   }
 
-  bool LiesInside(TIndex aRegion, const TRegionOutline& aOutline) const {
+  bool LiesInside(TIndex aRegion, TRegionOutline& aOutline) const {
     return std::ranges::all_of(fRegions[static_cast<std::size_t>(aRegion)]->Children(), [&](const TTreeNode* child) {
       return aOutline.GetWindingNumber(fCoordinateTree.GetNodeEntity(*child).StartCoords) >= 1;
     });
@@ -71,8 +46,8 @@ class TNesting {
   std::vector<TIntegerArray> FindCandidates() {
     std::vector<TIntegerArray> candidates(fRegions.size());
     AddByBoxes(candidates);
-    AddByHeights(fReaches.fOpenToTheLeft, &TStartPoints::fHeight_LeftMost, candidates);
-    AddByHeights(fReaches.fOpenToTheRight, &TStartPoints::fHeight_RightMost, candidates);
+    AddByHeights(fReaches.fOpenToTheLeft, &TStartPoints::fHeight_LeftMost, ReachesOutToTheLeft, candidates);
+    AddByHeights(fReaches.fOpenToTheRight, &TStartPoints::fHeight_RightMost, ReachesOutToTheRight, candidates);
     for (TIntegerArray& regions : candidates) {
       std::ranges::sort(regions);
       regions.erase(std::unique(regions.begin(), regions.end()), regions.end());
@@ -90,33 +65,58 @@ class TNesting {
       (points.fAreTame ? tame : wild).push_back(ToIndex(i));
       if (points.fAreTame) boxes.push_back(points.fBox);
     }
-    const TBoxIndex index(boxes);
+    const TBoxGrid grid(boxes);
+    std::optional<TBoxIndex> index;
     for (std::size_t i = 0; i < aCandidates.size(); ++i) {
       aCandidates[i] = wild;
-      index.ForEachWithin(fReaches.fBoxes[i], [&](TIndex box) {
+      const auto add = [&](TIndex box) {
         const TIndex region = tame[static_cast<std::size_t>(box)];
         if (region != ToIndex(i)) aCandidates[i].push_back(region);
+      };
+      if (grid.ForFewWithin(fReaches.fBoxes[i], add)) continue;
+      if (!index) index.emplace(boxes);
+      index->ForEachWithin(fReaches.fBoxes[i], add);
+    }
+  }
+
+  static bool ReachesOutToTheLeft(const TBox& aPoints, const TBox& aContainer) {
+    return aPoints.fLeft < aContainer.fLeft;
+  }
+  static bool ReachesOutToTheRight(const TBox& aPoints, const TBox& aContainer) {
+    return aPoints.fRight > aContainer.fRight;
+  }
+  static bool IsLevelWith(const TBox& aPoints, const TBox& aContainer) {
+    return aPoints.fBottom >= aContainer.fBottom && aPoints.fTop <= aContainer.fTop;
+  }
+
+  template <class TReachesOut>
+  void AddByHeights(const std::vector<TOpenHeights>& aOpen, double TStartPoints::*aHeight,
+                    const TReachesOut& aReachesOut, std::vector<TIntegerArray>& aCandidates) const {
+    if (aOpen.empty()) return;
+    const THeightIndex index(GetHeights(aHeight));
+    for (const auto& [heights, container] : aOpen) {
+      const TBox& box = fReaches.fBoxes[static_cast<std::size_t>(container)];
+      index.ForEachWithin(heights, [&](TIndex region) {
+        const TBox& points = fStartPoints[static_cast<std::size_t>(region)].fBox;
+        if (!aReachesOut(points, box) || !IsLevelWith(points, box)) return;
+        aCandidates[static_cast<std::size_t>(container)].push_back(region);
       });
     }
   }
 
-  void AddByHeights(std::vector<TInterval>& aOpen, double TStartPoints::*aHeight,
-                    std::vector<TIntegerArray>& aCandidates) const {
-    if (aOpen.empty()) return;
-    const TIntervalIndex open(std::move(aOpen));
+  std::vector<THeight> GetHeights(double TStartPoints::*aHeight) const {
+    std::vector<THeight> heights;
     for (std::size_t i = 0; i < fStartPoints.size(); ++i) {
       const TStartPoints& points = fStartPoints[i];
-      if (points.fLieNowhere || !points.fAreTame) continue;
-      open.ForEachHolding(points.*aHeight, [&](TIndex container) {
-        aCandidates[static_cast<std::size_t>(container)].push_back(ToIndex(i));
-      });
+      if (!points.fLieNowhere && points.fAreTame) heights.push_back({points.*aHeight, ToIndex(i)});
     }
+    return heights;
   }
 
   const TEntityTree& fCoordinateTree;
   std::span<TTreeNode* const> fRegions;
   TRegionReaches fReaches;
-  std::vector<TStartPoints> fStartPoints;
+  std::span<const TStartPoints> fStartPoints;
 };
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <span>
 
 #include "GeometryEngine/DXF_EntityStorage/detail/OtherEnd.h"
+#include "GeometryEngine/DXF_Regions_TreeClasses/detail/FetchAhead.h"
 #include "GeometryEngine/GeometryFuncts/detail/CirclePoint.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/ArcWalking.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ArcAngles.h"
@@ -22,7 +23,8 @@ constexpr double kRounding = 1e-12;     // no unit: far above what rounding does
 constexpr double kFlat = 1e-3;          // slope below which an edge reaches far to the side for one tolerance in height
 constexpr double kFlatAngle = 0.06;     // degrees; the same slope, and more
 constexpr double kAngleSlack = 1e-6;    // degrees; above the rounding of angles
-constexpr double kMostSagitta = 0.02;   // drawing length units; twice as far as chords stay from their arc, and more
+constexpr std::size_t kRegionsAhead = 6;  // whose entities are asked for; as long as memory takes to answer
+constexpr double kMostSagitta = 0.02;     // drawing length units; twice as far as chords stay from their arc, and more
 
 bool IsTame(const TEntityCoordinate& aPoint) {
   return std::abs(aPoint.x) < kLargest && std::abs(aPoint.y) < kLargest;
@@ -31,6 +33,21 @@ bool IsTame(const TEntityCoordinate& aPoint) {
 bool IsTameArc(const TDXFEntity& aArc) {
   return IsTame(aArc.CentreCoords) && aArc.radius > 0 && aArc.radius < kLargestRadius &&
          std::abs(aArc.startAngle) < kLargestAngle && std::abs(aArc.endAngle) < kLargestAngle;
+}
+
+void Include(TStartPoints& aPoints, const TEntityCoordinate& aPoint) {
+  aPoints.fLieNowhere = aPoints.fLieNowhere || std::isnan(aPoint.x) || std::isnan(aPoint.y);
+  aPoints.fAreTame = aPoints.fAreTame && IsTame(aPoint);
+  if (aPoint.x < aPoints.fBox.fLeft) aPoints.fHeight_LeftMost = aPoint.y;
+  if (aPoint.x > aPoints.fBox.fRight) aPoints.fHeight_RightMost = aPoint.y;
+  aPoints.fBox.Include(aPoint.x, aPoint.y);
+}
+
+TStartPoints GetStartPoints(const TEntityTree& aCoordinateTree, const TTreeNode& aRegion) {
+  TStartPoints points;
+  points.fLieNowhere = aRegion.Children().empty();
+  for (const TTreeNode* child : aRegion.Children()) Include(points, aCoordinateTree.GetNodeEntity(*child).StartCoords);
+  return points;
 }
 
 // An end of an edge as winding numbers see it, and how far rounding may put it off.
@@ -57,10 +74,12 @@ class TReachOfRegion {
         fHeightsBefore_Left(aReaches.fOpenToTheLeft.size()),
         fHeightsBefore_Right(aReaches.fOpenToTheRight.size()) {}
 
-  TBox Get(const TEntityTree& aCoordinateTree, const TTreeNode& aRegion) {
+  TBox Get(const TEntityTree& aCoordinateTree, const TTreeNode& aRegion, TStartPoints& aStartPoints) {
     TEntityCoordinate from = aRegion.Coordinates();
+    aStartPoints.fLieNowhere = aRegion.Children().empty();
     for (const TTreeNode* child : aRegion.Children()) {
       const TDXFEntity& entity = aCoordinateTree.GetNodeEntity(*child);
+      Include(aStartPoints, entity.StartCoords);
       const TEntityCoordinate farEnd = GetOtherEnd(from, entity, fTolerance);
       if (entity.EntityType == DXFLine) AddLine(from, farEnd);
       if (entity.EntityType == DXFArc) AddArc(entity, from);
@@ -158,9 +177,9 @@ class TReachOfRegion {
   }
 
   // Points are open to that side that are one tolerance below these heights.
-  void Open(double aLow, double aHigh, double aSlack, std::vector<TInterval>& aIntervals) const {
+  void Open(double aLow, double aHigh, double aSlack, std::vector<TOpenHeights>& aHeights) const {
     const double slack = aSlack + kRounding * (std::abs(aLow) + std::abs(aHigh) + fTolerance);
-    aIntervals.push_back({std::min(aLow, aHigh) - fTolerance - slack, aHigh - fTolerance + slack, fRegion});
+    aHeights.push_back({{std::min(aLow, aHigh) - fTolerance - slack, aHigh - fTolerance + slack}, fRegion});
   }
 
   // A region that is looked at everywhere needs no heights, and its own may be no numbers.
@@ -195,14 +214,17 @@ TRegionReaches GetRegionReaches(const TEntityTree& aRegionTree, const TEntityTre
   const std::span<TTreeNode* const> regions = aRegionTree.RootNode()->Children();
   const double tolerance = ReadLinearTolerance();
   TRegionReaches reaches;
-  if (!(tolerance > 0 && tolerance < kLargest)) {
-    reaches.fBoxes.assign(regions.size(), {-kInfinite, kInfinite, -kInfinite, kInfinite});
-    return reaches;
-  }
-  reaches.fBoxes.reserve(regions.size());
+  reaches.fBoxes.assign(regions.size(), {-kInfinite, kInfinite, -kInfinite, kInfinite});
+  reaches.fStartPoints.resize(regions.size());
+  const bool isTame = tolerance > 0 && tolerance < kLargest;
   for (std::size_t i = 0; i < regions.size(); ++i) {
-    TReachOfRegion reach(ToIndex(i), tolerance, reaches);
-    reaches.fBoxes.push_back(reach.Get(aCoordinateTree, *regions[i]));
+    if (i + kRegionsAhead < regions.size()) FetchEntitiesAhead(aCoordinateTree, *regions[i + kRegionsAhead]);
+    TStartPoints& points = reaches.fStartPoints[i];
+    if (isTame) {
+      reaches.fBoxes[i] = TReachOfRegion(ToIndex(i), tolerance, reaches).Get(aCoordinateTree, *regions[i], points);
+    } else {
+      points = GetStartPoints(aCoordinateTree, *regions[i]);
+    }
   }
   return reaches;
 }

@@ -7,27 +7,15 @@
 
 #include "GeometryEngine/DXF_EntityStorage/detail/PointOnEntity.h"
 #include "GeometryEngine/DXF_EntityStorage/detail/VertexWalk.h"
-#include "GeometryEngine/GeometryEngine_PointInPolygon/WindingContributions.h"
-#include "GeometryEngine/GetFunctions_GeometryOperations/ArcWalking.h"
+#include "GeometryEngine/GeometryEngine_PointInPolygon/detail/ArcHeights.h"
+#include "GeometryEngine/host/Numerics.h"
 
 namespace GeometryEngine::detail {
 
 namespace {
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kLastPlaces = 64 * std::numeric_limits<double>::epsilon();  // more than rounding takes or adds
 constexpr std::size_t kOutline = 0;                                          // number of the chain
-constexpr double kWindingChordTolerance = 0.01;                              // drawing length units from chord to arc
-constexpr std::int32_t kMostChordsListed = 10'000;                           // of one arc
-
-/// From the lowest to the highest of four heights, and as far again beyond them as asked for; all heights when that is
-/// no number.
-THeightRange GetWidened(double aHeight_A, double aHeight_B, double aHeight_C, double aHeight_D, double aMargin) {
-  const double low = std::min({aHeight_A, aHeight_B, aHeight_C, aHeight_D}) - aMargin;
-  const double high = std::max({aHeight_A, aHeight_B, aHeight_C, aHeight_D}) + aMargin;
-  const bool isKnown = std::isfinite(aHeight_A + aHeight_B + aHeight_C + aHeight_D) && low <= high;
-  return isKnown ? THeightRange{low, high} : THeightRange{-kInfinity, kInfinity};
-}
 
 /// Heights of the points that a line can hold: on a sloping one the height follows from the slope, and its rounding
 /// grows with it.
@@ -40,21 +28,19 @@ double GetRounding_Line(const TDXFEntity& aLine, double aTolerance) {
   return kLastPlaces * (slope * reach + std::max(std::abs(start.y), std::abs(end.y)));
 }
 
-THeightRange GetHeightRange_Chord(const TEntityCoordinate& aFrom, const TEntityCoordinate& aTo, double aTolerance) {
-  return GetWidened(aFrom.y, aTo.y, aFrom.y, aTo.y, std::max(aTolerance, 0.0));
+/// The heights of an arc, whose sweep may be exceeded by one tolerance of angles at both ends.
+THeightRange GetHeights_Arc(const TDXFEntity& aArc) {
+  const double excess = std::max(Kelvaralinks::dataStore.GetValue(Maindataenum::TInputFields::ifAngleTolerance), 0.0);
+  const double from = aArc.startAngle - excess;
+  return GetHeights({aArc.CentreCoords.y, aArc.radius, from, from + aArc.ArcSweep() + 2 * excess});
 }
 
-THeightRange GetHeightRange_Line(const TDXFEntity& aLine, const TEntityCoordinate& aFrom, const TEntityCoordinate& aTo,
-                                 double aTolerance) {
-  return GetWidened(aLine.StartCoords.y, aLine.EndCoords.y, aFrom.y, aTo.y,
-                    std::max(aTolerance, 0.0) + GetRounding_Line(aLine, aTolerance));
-}
-
-THeightRange GetHeightRange_Arc(const TDXFEntity& aArc, double aTolerance) {
-  const double centre = aArc.CentreCoords.y;
-  const double radius = std::abs(aArc.radius);
-  return GetWidened(centre - radius, centre + radius, centre - radius, centre + radius,
-                    std::max(aTolerance, 0.0) + kLastPlaces * (std::abs(centre) + radius));
+/// Outside of these heights no point is on the entity.
+THeightRange GetHeights_On(const TDXFEntity& aEntity, double aTolerance) {
+  const bool isLine = aEntity.EntityType == DXFLine;
+  THeightRange heights = THeightRange::Of(aEntity.StartCoords.y, aEntity.EndCoords.y);
+  if (!isLine) heights.Unite(GetHeights_Arc(aEntity));
+  return heights.Widened(std::max(aTolerance, 0.0) + (isLine ? GetRounding_Line(aEntity, aTolerance) : 0));
 }
 
 /// What a walk along one chain has learnt about a point.
@@ -67,66 +53,34 @@ struct TChainTest {
 
 }  // namespace
 
-void THeightRange::Unite(const THeightRange& aOther) {
-  fLow = std::min(fLow, aOther.fLow);
-  fHigh = std::max(fHigh, aOther.fHigh);
-}
-
 TPoleOutlines::TPoleOutlines(std::span<const TEntityStorage* const> aChains)
-    : fParts(GetParts(aChains)), fTree(GetHeights(fParts)) {}
+    : fTolerance(ReadLinearTolerance()), fParts(GetParts(aChains)), fTree(GetHeights()) {}
 
-std::vector<TPoleOutlines::TPart> TPoleOutlines::GetParts(std::span<const TEntityStorage* const> aChains) {
+std::vector<TPoleOutlines::TPart> TPoleOutlines::GetParts(std::span<const TEntityStorage* const> aChains) const {
   std::vector<TPart> parts;
   for (std::size_t number = 0; number < aChains.size(); ++number) {
     const TEntityStorage& chain = *aChains[number];
     for (TVertexWalk walk(chain.EntityArray(), chain.StartCoordinate()); walk.Next();) {
-      const TPart part{&walk.Entity(), true, walk.From(), walk.To(), number};
-      if (walk.Entity().EntityType == DXFLine) parts.push_back(part);
-      if (walk.Entity().EntityType == DXFArc) AddChords(parts, part);
+      const DXFEntityType type = walk.Entity().EntityType;
+      if (type != DXFLine && type != DXFArc) continue;
+      parts.push_back({TWalkedEntity(walk.Entity(), walk.From(), walk.To(), fTolerance), number});
     }
   }
   return parts;
 }
 
-/// The arc, and behind it the chords by which it turns round points, unless there are very many.
-void TPoleOutlines::AddChords(std::vector<TPart>& aParts, TPart aArc) {
-  const TDXFEntity& arc = *aArc.fEntity;
-  const auto [count, step] = GetArcSegmentPoints_Surf(arc, kWindingChordTolerance);
-  aArc.fTurnsRound = count > kMostChordsListed;
-  aParts.push_back(aArc);
-  if (aArc.fTurnsRound) return;
-  const double startAngle = GetEntityStartAngle_Arc(aArc.fFrom, arc);
-  const TTravelDirection direction = GetArcTravelDirection(startAngle, arc);
-  TEntityCoordinate from = GetArc_LineSegmentCoord(arc, 0, direction, startAngle, step);
-  for (std::int32_t k = 1; k <= count; ++k) {
-    const TEntityCoordinate to = GetArc_LineSegmentCoord(arc, k, direction, startAngle, step);
-    aParts.push_back({nullptr, true, from, to, aArc.fChain});
-    from = to;
-  }
-}
-
 /// Outside its heights a part holds no point and turns round none.
-THeightRange TPoleOutlines::GetHeightRange(const TPart& aPart, double aTolerance) {
-  if (aPart.fEntity == nullptr) return GetHeightRange_Chord(aPart.fFrom, aPart.fTo, aTolerance);
-  if (aPart.fEntity->EntityType == DXFArc) return GetHeightRange_Arc(*aPart.fEntity, aTolerance);
-  return GetHeightRange_Line(*aPart.fEntity, aPart.fFrom, aPart.fTo, aTolerance);
-}
-
-std::vector<THeightRange> TPoleOutlines::GetHeights(std::span<const TPart> aParts) {
-  const double tolerance = ReadLinearTolerance();
+std::vector<THeightRange> TPoleOutlines::GetHeights() const {
   std::vector<THeightRange> heights;
-  heights.reserve(aParts.size());
-  for (const TPart& part : aParts) heights.push_back(GetHeightRange(part, tolerance));
+  heights.reserve(fParts.size());
+  for (const TPart& part : fParts) {
+    heights.push_back(part.fWalked.Heights());
+    heights.back().Unite(GetHeights_On(part.fWalked.Entity(), fTolerance));
+  }
   return heights;
 }
 
-std::int32_t TPoleOutlines::GetWinding(const TPart& aPart, const TEntityCoordinate& aPoint) {
-  if (!aPart.fTurnsRound) return 0;
-  if (aPart.fEntity == nullptr) return DetermineInterceptResult(aPart.fFrom, aPart.fTo, aPoint);
-  return GetWindingNumber_Entity_Addition(*aPart.fEntity, aPart.fFrom, aPart.fTo, aPoint);
-}
-
-bool TPoleOutlines::Hold(const TEntityCoordinate& aPoint) const {
+bool TPoleOutlines::Hold(const TEntityCoordinate& aPoint) {
   bool isWithinOutline = false;
   bool isWithinHole = false;
   std::size_t number = kOutline;
@@ -136,14 +90,14 @@ bool TPoleOutlines::Hold(const TEntityCoordinate& aPoint) const {
   };
   const auto isLevelWith = [&](const THeightRange& aHeights) { return aHeights.Holds(aPoint.y); };
   fTree.ForEach(isLevelWith, [&](std::size_t aPlace) {
-    const TPart& part = fParts[aPlace];
+    TPart& part = fParts[aPlace];
     if (part.fChain != number) {
       finishChain();
       test = {};
       number = part.fChain;
     }
-    test.fIsOn = test.fIsOn || (part.fEntity != nullptr && PointOnEntity(*part.fEntity, aPoint));
-    if (!test.fIsOn) test.fWinding += GetWinding(part, aPoint);
+    test.fIsOn = test.fIsOn || PointOnEntity(part.fWalked.Entity(), aPoint);
+    if (!test.fIsOn) test.fWinding += part.fWalked.GetWinding(aPoint, fTolerance);
   });
   finishChain();
   return isWithinOutline && !isWithinHole;

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "GeometryEngine/DXF_EntityStorage/TEntityStorage.h"
-#include "GeometryEngine/Pole_Inaccessibility/detail/TBlockTree.h"
+#include "GeometryEngine/GeometryEngine_PointInPolygon/detail/TBlockTree.h"
 
 namespace GeometryEngine::detail {
 

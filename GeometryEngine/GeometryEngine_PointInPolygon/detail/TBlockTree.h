@@ -1,7 +1,6 @@
 #pragma once
 
 #include <algorithm>
-#include <bit>
 #include <cstddef>
 #include <utility>
 #include <vector>
@@ -17,25 +16,19 @@ class TBlockTree {
  public:
   explicit TBlockTree(std::vector<TExtent> aItems = {}) {
     fLevels.push_back(std::move(aItems));
-    while (fLevels.back().size() > 1) fLevels.push_back(GetBlocks(fLevels.back()));
+    while (fLevels.back().size() > kBlockSize) fLevels.push_back(GetBlocks(fLevels.back()));
   }
 
   /// Calls `aVisit(place)` for each item whose extent `aAccepts`, in their order. REQUIRES: an extent that is accepted
   /// lies in no extent that is not; what is accepted may shrink on the way.
   template <typename TAccepts, typename TVisit>
   void ForEach(const TAccepts& aAccepts, const TVisit& aVisit) const {
-    std::size_t place = 0;
-    while (place < fLevels.front().size()) {
-      std::size_t level = GetLevelBeginningAt(place);
-      while (level > 0 && aAccepts(fLevels[level][place >> (level * kBitsPerLevel)])) --level;
-      if (level == 0 && aAccepts(fLevels.front()[place])) aVisit(place);
-      place += std::size_t{1} << (level * kBitsPerLevel);
-    }
+    const std::size_t top = fLevels.size() - 1;
+    ForEach(top, 0, fLevels[top].size(), aAccepts, aVisit);
   }
 
  private:
-  static constexpr std::size_t kBitsPerLevel = 3;
-  static constexpr std::size_t kBlockSize = std::size_t{1} << kBitsPerLevel;
+  static constexpr std::size_t kBlockSize = 8;
 
   static std::vector<TExtent> GetBlocks(const std::vector<TExtent>& aItems) {
     std::vector<TExtent> blocks;
@@ -47,10 +40,20 @@ class TBlockTree {
     return blocks;
   }
 
-  /// The highest level on which a block begins there.
-  std::size_t GetLevelBeginningAt(std::size_t aPlace) const {
-    const auto level = static_cast<std::size_t>(std::countr_zero(aPlace)) / kBitsPerLevel;
-    return std::min(level, fLevels.size() - 1);
+  /// Goes down no deeper than there are levels, which is a logarithm of the items.
+  template <typename TAccepts, typename TVisit>
+  void ForEach(std::size_t aLevel, std::size_t aBegin, std::size_t aEnd, const TAccepts& aAccepts,
+               const TVisit& aVisit) const {
+    const std::vector<TExtent>& extents = fLevels[aLevel];
+    for (std::size_t i = aBegin; i < aEnd; ++i) {
+      if (!aAccepts(extents[i])) continue;
+      if (aLevel == 0) {
+        aVisit(i);
+      } else {
+        const std::size_t begin = i * kBlockSize;
+        ForEach(aLevel - 1, begin, std::min(begin + kBlockSize, fLevels[aLevel - 1].size()), aAccepts, aVisit);
+      }
+    }
   }
 
   std::vector<std::vector<TExtent>> fLevels;  ///< the items, and above them the blocks of each level

@@ -1,0 +1,97 @@
+#include "GeometryEngine/DXF_Regions_Detection/detail/TBoxGrid.h"
+
+#include <limits>
+#include <optional>
+#include <random>
+
+#include <gmock/gmock.h>
+
+using namespace GeometryEngine;
+using detail::TBox;
+using detail::TBoxGrid;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Optional;
+using testing::UnorderedElementsAre;
+using testing::UnorderedElementsAreArray;
+
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+std::optional<std::vector<TIndex>> Within(const TBoxGrid& aGrid, const TBox& aBox) {
+  std::vector<TIndex> found;
+  const bool areFew = aGrid.ForFewWithin(aBox, [&](TIndex index) { found.push_back(index); });
+  return areFew ? std::optional(found) : std::nullopt;
+}
+
+std::vector<TIndex> WithinOneByOne(const std::vector<TBox>& aBoxes, const TBox& aBox) {
+  std::vector<TIndex> found;
+  for (std::size_t i = 0; i < aBoxes.size(); ++i) {
+    if (aBoxes[i].IsWithin(aBox)) found.push_back(ToIndex(i));
+  }
+  return found;
+}
+
+}  // namespace
+
+TEST(TBoxGrid, FindsNothingAmongNone) {
+  EXPECT_THAT(Within(TBoxGrid({}), {-1, 1, -1, 1}), Optional(IsEmpty()));
+}
+
+TEST(TBoxGrid, SidesMayTouch) {
+  const std::vector<TBox> boxes{{0, 1, 0, 1}, {0, 2, 0, 1}};
+  EXPECT_THAT(Within(TBoxGrid(boxes), {0, 1, 0, 1}), Optional(ElementsAre(0)));
+}
+
+TEST(TBoxGrid, TakesBoxesInARowOrInOnePlace) {
+  const std::vector<TBox> upright{{0, 1, 0, 1}, {0, 1, 5, 6}, {0, 1, 9, 10}};
+  EXPECT_THAT(Within(TBoxGrid(upright), {0, 1, 4, 10}), Optional(UnorderedElementsAre(1, 2)));
+  const std::vector<TBox> level{{0, 1, 0, 1}, {5, 6, 0, 1}, {9, 10, 0, 1}};
+  EXPECT_THAT(Within(TBoxGrid(level), {4, 10, 0, 1}), Optional(UnorderedElementsAre(1, 2)));
+  const std::vector<TBox> onePlace{{0, 1, 0, 1}, {0, 2, 0, 1}};
+  EXPECT_THAT(Within(TBoxGrid(onePlace), {-1, 1, -1, 1}), Optional(ElementsAre(0)));
+}
+
+TEST(TBoxGrid, NothingLiesWithinABoxThatHoldsNothing) {
+  const std::vector<TBox> boxes{{0, 1, 0, 1}, {3, 4, 3, 4}};
+  EXPECT_THAT(Within(TBoxGrid(boxes), TBox()), Optional(IsEmpty()));
+}
+
+TEST(TBoxGrid, EverythingLiesWithinAnEndlessBox) {
+  const std::vector<TBox> boxes{{0, 1, 0, 1}, {3, 4, 3, 4}};
+  EXPECT_THAT(Within(TBoxGrid(boxes), {-kInfinity, kInfinity, -kInfinity, kInfinity}),
+              Optional(UnorderedElementsAre(0, 1)));
+}
+
+TEST(TBoxGrid, DeclinesWhereItWouldLookAtMany) {
+  std::vector<TBox> boxes(1000, TBox{0, 1, 0, 1});
+  boxes.push_back({1e6, 1e6 + 1, 1e6, 1e6 + 1});
+  const TBoxGrid grid(boxes);
+  EXPECT_EQ(Within(grid, {0, 0.5, 0, 0.5}), std::nullopt);
+  EXPECT_THAT(Within(grid, {1e6, 2e6, 1e6, 2e6}), Optional(ElementsAre(1000)));
+}
+
+TEST(TBoxGrid, FindsAmongManyWhatALookAtEachFinds) {
+  std::mt19937 random(1);
+  const auto below = [&](int aEnd) { return static_cast<int>(random() % static_cast<unsigned>(aEnd)); };
+  const auto box = [&]() -> TBox {
+    const double left = below(30);
+    const double bottom = below(30);
+    return {left, left + below(below(5) == 0 ? 30 : 3), bottom, bottom + below(below(5) == 0 ? 30 : 3)};
+  };
+  int answered = 0;
+  for (int count = 1; count < 1500; count += 53) {
+    std::vector<TBox> boxes;
+    for (int i = 0; i < count; ++i) boxes.push_back(box());
+    const TBoxGrid grid(boxes);
+    for (int query = 0; query < 100; ++query) {
+      const TBox around = box();
+      const auto found = Within(grid, around);
+      if (!found) continue;
+      ASSERT_THAT(*found, UnorderedElementsAreArray(WithinOneByOne(boxes, around))) << count;
+      ++answered;
+    }
+  }
+  EXPECT_GT(answered, 1000);
+}
