@@ -3,6 +3,7 @@
 #include <cmath>
 #include <utility>
 
+#include "GeometryEngine/DXF_Regions_TreeClasses/detail/FetchAhead.h"
 #include "GeometryEngine/FloatingPoint/TFloatEnvironment.h"
 
 namespace GeometryEngine {
@@ -78,6 +79,9 @@ void TEntityBaseClass::AddRegionEntities(TTreeNode_Geometry* aRegion, TIndex aRe
   const TTreeNode* region = fRegionTree.RootNode()->GetNode(aRegionIndex);
   if (aRegion == nullptr || region == nullptr) return;
   const TFloatEnvironment environment;
+  if (const TTreeNode* next = fRegionTree.RootNode()->GetNode(aRegionIndex + 1)) {
+    detail::FetchEntitiesAhead(fRegionTree, *next);  // hosts take region after region
+  }
   TEntityArray chain = GetRegionEntities(fRegionTree, *region);
   const bool closed = aRegion->RegionPolyType() == ptClosed;
   TEntityStorage& entities = aRegion->Entities();
