@@ -6,6 +6,7 @@
 #include "GeometryEngine/DXF_EntityStorage/detail/IsEntityEnd.h"
 #include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
 #include "GeometryEngine/DXF_Entity_Types/detail/PointSameness.h"
+#include "GeometryEngine/GeometryEngine_Entity_Operations/detail/SegmentDistance.h"
 #include "GeometryEngine/GeometryFuncts/detail/CirclePoint.h"
 #include "GeometryEngine/GeometryFuncts/detail/CoordinateDistance.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ArcAngles.h"
@@ -85,12 +86,7 @@ TEntityCoordinate GetEntityMidPoint(const TDXFEntity& aEntity) {
 
 double PointToSegmentDistance(const TEntityCoordinate& aPoint, const TEntityCoordinate& aSegStart,
                               const TEntityCoordinate& aSegEnd) {
-  const TEntityCoordinate segment = aSegEnd - aSegStart;
-  const TEntityCoordinate offset = aPoint - aSegStart;
-  const double lengthSquared = segment.x * segment.x + segment.y * segment.y;
-  if (lengthSquared == 0) return detail::GetDistance(aPoint, aSegStart);
-  const double t = std::clamp((offset.x * segment.x + offset.y * segment.y) / lengthSquared, 0.0, 1.0);
-  return detail::GetDistance(aPoint, aSegStart + t * segment);
+  return std::sqrt(detail::GetSquaredSegmentDistance(aPoint, aSegStart, aSegEnd));
 }
 
 }  // namespace GeometryEngine

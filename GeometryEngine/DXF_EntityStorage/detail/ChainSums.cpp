@@ -19,7 +19,9 @@ TChainSums GetChainSums(std::span<const TDXFEntity> aChain, const TEntityCoordin
   TChainSums sums;
   for (TVertexWalk walk(aChain, aStart); walk.Next();) {
     sums.fArea += GetSignedArea_Entity(walk.From(), walk.To(), walk.Entity());
-    sums.fMoments = sums.fMoments + GetCentroidComponent_Entity(walk.From(), walk.To(), walk.Entity());
+    const TEntityCoordinate term = GetCentroidComponent_Entity(walk.From(), walk.To(), walk.Entity());
+    sums.fMoments.x += term.x;
+    sums.fMoments.y += term.y;
   }
   return sums;
 }

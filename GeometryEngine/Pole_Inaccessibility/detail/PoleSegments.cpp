@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include "GeometryEngine/GeometryEngine_Entity_Operations/PointTests.h"
+#include "GeometryEngine/GeometryEngine_Entity_Operations/detail/SegmentDistance.h"
 
 namespace GeometryEngine::detail {
 
@@ -72,8 +72,8 @@ std::vector<TPlaneBox> TPoleSegments::GetBoxes() const {
   return boxes;
 }
 
-double TPoleSegments::GetDistance(const TEntityCoordinate& aPoint, std::size_t aPlace) const {
-  return PointToSegmentDistance(aPoint, fSegments[aPlace].fStart, fSegments[aPlace].fEnd);
+double TPoleSegments::GetSquaredDistance(const TEntityCoordinate& aPoint, std::size_t aPlace) const {
+  return GetSquaredSegmentDistance(aPoint, fSegments[aPlace].fStart, fSegments[aPlace].fEnd);
 }
 
 /// More than what rounding can change in a distance: some last places of the largest coordinate, since the closest
@@ -99,21 +99,26 @@ double TPoleSegments::GetDistance(const TEntityCoordinate& aPoint) {
   if (fSegments.empty() || !IsFinite(aPoint)) return kInfinity;
   const double rounding = GetRounding(GetLargest(aPoint));
   // Of two distances the smaller one is kept; one that is not a number is passed over.
-  double distance = std::min(kInfinity, GetDistance(aPoint, fClosest));
+  double least = std::min(kInfinity, GetSquaredDistance(aPoint, fClosest));
+  const auto getSquaredReach = [rounding](double aSquaredDistance) {
+    const double reach = std::sqrt(aSquaredDistance) + rounding;
+    return reach * reach;
+  };
+  double squaredReach = getSquaredReach(least);
   const auto mayBeCloser = [&](const TPlaneBox& aBox) {
     const double dx = GetExcess(aPoint.x, aBox.fMin_X, aBox.fMax_X);
     const double dy = GetExcess(aPoint.y, aBox.fMin_Y, aBox.fMax_Y);
-    const double reach = distance + rounding;
-    return !(dx * dx + dy * dy > reach * reach);
+    return !(dx * dx + dy * dy > squaredReach);
   };
   fTree.ForEach(mayBeCloser, [&](std::size_t aPlace) {
-    const double next = GetDistance(aPoint, aPlace);
-    if (next < distance) {
-      distance = next;
+    const double next = GetSquaredDistance(aPoint, aPlace);
+    if (next < least) {
+      least = next;
+      squaredReach = getSquaredReach(least);
       fClosest = aPlace;
     }
   });
-  return distance;
+  return std::sqrt(least);
 }
 
 }  // namespace GeometryEngine::detail

@@ -40,7 +40,7 @@ class TPoleSegments {
 
   bool AddChain(const TEntityStorage& aChain);
   std::vector<TPlaneBox> GetBoxes() const;
-  double GetDistance(const TEntityCoordinate& aPoint, std::size_t aPlace) const;
+  double GetSquaredDistance(const TEntityCoordinate& aPoint, std::size_t aPlace) const;
   double GetRounding(double aLargest) const;
 
   std::vector<TSegment> fSegments;
