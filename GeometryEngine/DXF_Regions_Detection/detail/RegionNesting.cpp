@@ -94,12 +94,12 @@ class TNesting {
                     const TReachesOut& aReachesOut, std::vector<TIntegerArray>& aCandidates) const {
     if (aOpen.empty()) return;
     const THeightIndex index(GetHeights(aHeight));
-    for (const auto& [heights, container] : aOpen) {
-      const TBox& box = fReaches.fBoxes[static_cast<std::size_t>(container)];
-      index.ForEachWithin(heights, [&](TIndex region) {
+    for (const TOpenHeights& open : aOpen) {
+      const auto container = static_cast<std::size_t>(open.fRegion);
+      const TBox& box = fReaches.fBoxes[container];
+      index.ForEachWithin(open.fHeights, [&](TIndex region) {
         const TBox& points = fStartPoints[static_cast<std::size_t>(region)].fBox;
-        if (!aReachesOut(points, box) || !IsLevelWith(points, box)) return;
-        aCandidates[static_cast<std::size_t>(container)].push_back(region);
+        if (aReachesOut(points, box) && IsLevelWith(points, box)) aCandidates[container].push_back(region);
       });
     }
   }
