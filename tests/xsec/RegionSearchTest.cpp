@@ -6,6 +6,7 @@
 
 #include "tests/support/Settings.h"
 #include "tests/xsec/Drawings.h"
+#include "xsec/Sector.h"
 
 namespace xsec {
 
@@ -78,6 +79,23 @@ TEST(FindRegions, WarnsOfCopiesThatWouldOverlap) {
   request.copies = 10;
   EXPECT_THAT(Found(sector, request).diagnostics.warnings,
               ElementsAre(HasSubstr("spans 40 degrees about the origin, but 10 copies leave 36")));
+}
+
+TEST(FindRegions, WarnsOfCopiesThatLeaveGapsWhereAnotherNumberFillsTheTurn) {
+  const Drawing sector = DrawingOf("A c 0,0 r 10 -20..20; A c 0,0 r 5 -20..20; L 0,0 1,0");
+  SearchRequest request;
+  request.copies = 6;
+  EXPECT_THAT(Found(sector, request).diagnostics.warnings,
+              ElementsAre(HasSubstr("spans 40 degrees about the origin, so that 9 copies make a whole; 6 copies leave "
+                                    "gaps of 20 degrees")));
+}
+
+TEST(CopiesOfSector, AreAWholeNumberOrNone) {
+  EXPECT_EQ(CopiesOfSector(45), 8U);
+  EXPECT_EQ(CopiesOfSector(45.0005), 8U);
+  EXPECT_EQ(CopiesOfSector(50), 0U);
+  EXPECT_EQ(CopiesOfSector(360), 0U);
+  EXPECT_EQ(CopiesOfSector(0), 0U);
 }
 
 }  // namespace

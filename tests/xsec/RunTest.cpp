@@ -211,6 +211,8 @@ TEST_F(Xsec, CheckAsJsonHoldsWhatTheTextSays) {
   EXPECT_EQ(json["faults"][0]["amount"], 3);
   EXPECT_GE(json["ladder"].size(), 4U);
   EXPECT_THAT(ReadFile(Out("a.svg")), HasSubstr("<g id=\"marks\""));
+  EXPECT_THAT(ReadFile(Out("a.svg")), HasSubstr(">open ends: 2</text>"));
+  EXPECT_THAT(ReadFile(Out("a.svg")), HasSubstr(">doubled, or drawn off one circle: 2</text>"));
 }
 
 TEST_F(Xsec, CheckOfAWholeDrawingFindsNothing) {
