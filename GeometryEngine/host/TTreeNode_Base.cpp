@@ -19,9 +19,9 @@ TIndex TTreeNode_Base::GetCount() const {
 }
 
 TTreeNode_Base* TTreeNode_Base::GetNode(TIndex aIndex) const {
-  CloseHoles();
-  if (!IsIndexWithin(aIndex, fChildren.size())) return nullptr;
-  return fChildren[static_cast<std::size_t>(aIndex)];
+  if (aIndex < 0 || aIndex >= GetCount()) return nullptr;
+  if (fHoles != fLeadingHoles) CloseHoles();
+  return fChildren[static_cast<std::size_t>(fLeadingHoles + aIndex)];
 }
 
 const TTreeNodeArray_Base& TTreeNode_Base::GetChildren() const {
@@ -29,15 +29,12 @@ const TTreeNodeArray_Base& TTreeNode_Base::GetChildren() const {
   return fChildren;
 }
 
-TIndex TTreeNode_Base::GetTreeIndex() const {
-  return fTreeIndex;
-}
-
 void TTreeNode_Base::CloseHoles() const {
   if (fHoles == 0) return;
   std::erase(fChildren, nullptr);
   for (std::size_t place = 0; place < fChildren.size(); ++place) fChildren[place]->fPlace = place;
   fHoles = 0;
+  fLeadingHoles = 0;
 }
 
 }  // namespace GeometryEngine

@@ -13,6 +13,15 @@ void MakeRoomForOne(std::vector<TElement>& aElements) {
   if (aElements.size() == aElements.capacity()) aElements.reserve(2 * aElements.size() + 1);
 }
 
+// Takes holes off the end of a list, and counts those that come first behind `aFirst` places that are never holes.
+template <typename TElement>
+void SkipHoles(std::vector<TElement>& aElements, std::size_t aFirst, TIndex& aHoles, TIndex& aLeadingHoles) {
+  for (; !aElements.empty() && aElements.back() == nullptr; --aHoles) aElements.pop_back();
+  aLeadingHoles = std::min(aLeadingHoles, aHoles);
+  std::size_t place = aFirst + static_cast<std::size_t>(aLeadingHoles);
+  for (; place < aElements.size() && aElements[place] == nullptr; ++place) ++aLeadingHoles;
+}
+
 std::unique_ptr<TTreeNode_Base> CreateNode_Base(TTree_Base& aTree) {
   return std::make_unique<TTreeNode_Base>(&aTree);
 }
@@ -48,15 +57,19 @@ void TTree_Base::Clear() {
   nodes.push_back(CreateTreeNode());
   nodes.front()->fTreeIndex = 0;
   fNodes.swap(nodes);
+  fHoles = 0;
+  fLeadingHoles = 0;
   ++fChanges;
 }
 
 TIndex TTree_Base::GetCount() const {
-  return ToIndex(fNodes.size());
+  return ToIndex(fNodes.size()) - fHoles;
 }
 
 TTreeNode_Base* TTree_Base::GetNodeFromIndex(TIndex aIndex) const {
-  return IsIndexWithin(aIndex, fNodes.size()) ? fNodes[static_cast<std::size_t>(aIndex)].get() : nullptr;
+  if (aIndex < 0 || aIndex >= GetCount()) return nullptr;
+  if (fHoles != fLeadingHoles) CloseHoles();
+  return fNodes[static_cast<std::size_t>(aIndex == 0 ? 0 : aIndex + fLeadingHoles)].get();
 }
 
 TTreeNode_Base* TTree_Base::GetRootNode() const {
@@ -88,7 +101,9 @@ TTreeNode_Base* TTree_Base::AddNewTreeNode(std::unique_ptr<TTreeNode_Base>& aNod
 TTreeNode_Base* TTree_Base::AddNewTreeNode_AtIndex(std::unique_ptr<TTreeNode_Base>& aNode, TIndex aIndex) {
   if (!IsEnterable(aNode.get())) return nullptr;
   TTreeNode_Base* const node = aNode.get();
-  const std::size_t place = aIndex >= 1 && aIndex < GetCount() ? static_cast<std::size_t>(aIndex) : fNodes.size();
+  const bool isAtEnd = aIndex < 1 || aIndex >= GetCount();
+  if (!isAtEnd) CloseHoles();
+  const std::size_t place = isAtEnd ? fNodes.size() : static_cast<std::size_t>(aIndex);
   MakeRoomForOne(fNodes);
   MakeRoomForChild(*GetRootNode());
   if (place < fNodes.size()) ++fChanges;
@@ -103,11 +118,9 @@ void TTree_Base::RemoveFreeTreeNode(TTreeNode_Base* aNode, bool aRemoveDescendan
   const TTreeNodeArray_Base doomed = aRemoveDescendants ? CollectSubtree(aNode) : TTreeNodeArray_Base{aNode};
   if (!aRemoveDescendants) HandChildrenToParent(*aNode);
   Detach(aNode);
-  TIndex first = GetCount();
-  for (TTreeNode_Base* node : doomed) first = std::min(first, std::exchange(node->fTreeIndex, kNotFound));
-  const auto isDoomed = [](const auto& aEntered) { return aEntered->fTreeIndex == kNotFound; };
-  fNodes.erase(std::remove_if(fNodes.begin() + first, fNodes.end(), isDoomed), fNodes.end());
-  RenumberFrom(static_cast<std::size_t>(first));
+  for (const TTreeNode_Base* node : doomed) fNodes[static_cast<std::size_t>(node->fTreeIndex)].reset();
+  fHoles += ToIndex(doomed.size());
+  NoteHoles();
   ++fChanges;
 }
 
@@ -159,7 +172,7 @@ void TTree_Base::Detach(TTreeNode_Base* aNode) {
   TTreeNode_Base& parent = *std::exchange(aNode->fParent, nullptr);
   parent.fChildren[aNode->fPlace] = nullptr;
   ++parent.fHoles;
-  for (; !parent.fChildren.empty() && parent.fChildren.back() == nullptr; --parent.fHoles) parent.fChildren.pop_back();
+  SkipHoles(parent.fChildren, 0, parent.fHoles, parent.fLeadingHoles);
 }
 
 void TTree_Base::HandChildrenToParent(TTreeNode_Base& aNode) {
@@ -175,8 +188,30 @@ void TTree_Base::HandChildrenToParent(TTreeNode_Base& aNode) {
   }
 }
 
-void TTree_Base::RenumberFrom(std::size_t aPlace) {
+/// After nodes have gone: keeps holes fewer than nodes, and no hole at the end.
+void TTree_Base::NoteHoles() {
+  SkipHoles(fNodes, 1, fHoles, fLeadingHoles);
+  if (fHoles > GetCount()) CloseHoles();
+}
+
+void TTree_Base::CloseHoles() const {
+  if (fHoles == 0) return;
+  std::erase(fNodes, nullptr);
+  RenumberFrom(0);
+  fHoles = 0;
+  fLeadingHoles = 0;
+}
+
+void TTree_Base::RenumberFrom(std::size_t aPlace) const {
   for (std::size_t place = aPlace; place < fNodes.size(); ++place) fNodes[place]->fTreeIndex = ToIndex(place);
+}
+
+// What a node asks of its tree. It stands here, so that the node's own source needs to know of no tree.
+
+TIndex TTreeNode_Base::GetTreeIndex() const {
+  if (fTreeIndex <= 0) return fTreeIndex;
+  if (fTree->fHoles != fTree->fLeadingHoles) fTree->CloseHoles();
+  return fTreeIndex - fTree->fLeadingHoles;
 }
 
 }  // namespace GeometryEngine

@@ -18,6 +18,9 @@ namespace GeometryEngine {
 /// they are offered (nil, made for another tree, entered already or not at all) are refused: nothing changes and
 /// nothing is taken.
 ///
+/// A node that is taken out leaves a hole in the flat index at first, as a child does in its parent's list: even a
+/// reading belongs to the thread that works on the tree.
+///
 /// OWNS: all its nodes. Depth costs no stack, neither in walking nor in freeing.
 ///
 ///   TTree_Base tree;
@@ -36,7 +39,8 @@ class GEOMETRYENGINE_API TTree_Base {
   void Clear();
   /// Number of nodes in the flat index, the root among them.
   TIndex GetCount() const;
-  /// The node at that place of the flat index; nil for an index outside it.
+  /// The node at that place of the flat index; nil for an index outside it. COST: constant; after nodes have been taken
+  /// out of its midst, the first reading takes their number once.
   TTreeNode_Base* GetNodeFromIndex(TIndex aIndex) const;
   TTreeNode_Base* GetRootNode() const;
   /// Counts what has happened to the flat index apart from nodes entered at its end: as long as it stays the same, a
@@ -55,7 +59,7 @@ class GEOMETRYENGINE_API TTree_Base {
   TTreeNode_Base* AddNewTreeNode_AtIndex(std::unique_ptr<TTreeNode_Base>& aNode, TIndex aIndex);
   /// Takes a node out of the tree and frees it, and with `aRemoveDescendants` all that hangs below it. Otherwise its
   /// children go to its parent, where they take its place in their order. The flat index closes up. The root is
-  /// refused. COST: the nodes behind it in the flat index.
+  /// refused. COST: what is taken out, and the siblings behind it when its children stay.
   void RemoveFreeTreeNode(TTreeNode_Base* aNode, bool aRemoveDescendants);
   /// Makes `aNode` the last child of `aNewParent`; its children stay behind with the old parent, in its place and their
   /// order. The root, and a new parent that is `aNode` or hangs below it, are refused. COST: constant for a node
@@ -82,11 +86,17 @@ class GEOMETRYENGINE_API TTree_Base {
   static void Attach(TTreeNode_Base* aNode, TTreeNode_Base* aParent);
   static void Detach(TTreeNode_Base* aNode);
   static void HandChildrenToParent(TTreeNode_Base& aNode);
-  void RenumberFrom(std::size_t aPlace);
+  friend class TTreeNode_Base;
+  void RenumberFrom(std::size_t aPlace) const;
+  void NoteHoles();
+  void CloseHoles() const;
 
   TNodeFactory fFactory;
   std::uint64_t fChanges = 0;
-  std::vector<std::unique_ptr<TTreeNode_Base>> fNodes;  ///< the flat index; position 0 is the root
+  /// The flat index; position 0 is the root. Nil where a node has been taken out.
+  mutable std::vector<std::unique_ptr<TTreeNode_Base>> fNodes;
+  mutable TIndex fHoles = 0;         ///< how many are nil,
+  mutable TIndex fLeadingHoles = 0;  ///< and how many of those stand right behind the root
 };
 
 }  // namespace GeometryEngine

@@ -321,5 +321,39 @@ TEST(TTree_Base, DeepTreesCostNoStack) {
   });
 }
 
+TEST(TTree_Base, ManyNodesGoOneByOneFromTheFront) {
+  constexpr int kNodes = 200000;
+  for (const bool byFlatIndex : {false, true}) {
+    TTree_Base tree;
+    std::vector<TTreeNode_Base*> nodes;
+    for (int k = 0; k < kNodes; ++k) nodes.push_back(Add(tree));
+    for (int k = 0; k + 3 < kNodes; ++k) {
+      TTreeNode_Base* const first = byFlatIndex ? tree.GetNodeFromIndex(1) : tree.GetRootNode()->GetNode(0);
+      ASSERT_EQ(first, nodes[static_cast<std::size_t>(k)]);
+      ASSERT_EQ(first->GetTreeIndex(), 1);
+      tree.RemoveFreeTreeNode(first, k % 2 == 0);
+    }
+    nodes.erase(nodes.begin(), nodes.end() - 3);
+    EXPECT_THAT(FlatIndex(tree), ElementsAre(tree.GetRootNode(), nodes[0], nodes[1], nodes[2]));
+    EXPECT_THAT(tree.GetRootNode()->GetChildren(), ElementsAre(nodes[0], nodes[1], nodes[2]));
+  }
+}
+
+TEST(TTree_Base, NodesThatGoFromTheMidstWithoutAReadingLeaveTheOthersInOrder) {
+  TTree_Base tree;
+  std::vector<TTreeNode_Base*> nodes;
+  for (int k = 0; k < 10; ++k) nodes.push_back(Add(tree));
+  for (const std::size_t k : {4U, 0U, 9U, 7U, 1U}) tree.RemoveFreeTreeNode(nodes[k], true);
+  EXPECT_EQ(tree.GetCount(), 6);
+  EXPECT_EQ(nodes[5]->GetTreeIndex(), 3);
+  TTreeNode_Base* const last = Add(tree);
+  EXPECT_THAT(FlatIndex(tree), ElementsAre(tree.GetRootNode(), nodes[2], nodes[3], nodes[5], nodes[6], nodes[8], last));
+  EXPECT_THAT(tree.GetRootNode()->GetChildren(), ElementsAre(nodes[2], nodes[3], nodes[5], nodes[6], nodes[8], last));
+  tree.RemoveFreeTreeNode(nodes[3], true);
+  auto inserted = tree.CreateTreeNode();
+  TTreeNode_Base* const second = tree.AddNewTreeNode_AtIndex(inserted, 2);
+  EXPECT_THAT(FlatIndex(tree), ElementsAre(tree.GetRootNode(), nodes[2], second, nodes[5], nodes[6], nodes[8], last));
+}
+
 }  // namespace
 }  // namespace GeometryEngine
