@@ -20,11 +20,20 @@ std::vector<detail::TSortItem> GetKeys(std::span<const TDXFEntity> aEntities) {
   return keys;
 }
 
-void Rearrange(std::span<TDXFEntity> aEntities, std::span<const detail::TSortItem> aOrder) {
-  TEntityArray sorted;
-  sorted.reserve(aEntities.size());
-  for (const detail::TSortItem& item : aOrder) sorted.push_back(std::move(aEntities[item.fPlace]));
-  std::move(sorted.begin(), sorted.end(), aEntities.begin());
+/// Moves every entity to its place, one ring of places after another; `aOrder` is used up.
+void Rearrange(std::span<TDXFEntity> aEntities, std::span<detail::TSortItem> aOrder) {
+  for (std::size_t first = 0; first < aOrder.size(); ++first) {
+    if (aOrder[first].fPlace == first) continue;
+    TDXFEntity held = std::move(aEntities[first]);
+    std::size_t place = first;
+    for (std::size_t next = aOrder[place].fPlace; next != first; next = aOrder[place].fPlace) {
+      aEntities[place] = std::move(aEntities[next]);
+      aOrder[place].fPlace = place;
+      place = next;
+    }
+    aEntities[place] = std::move(held);
+    aOrder[place].fPlace = place;
+  }
 }
 
 }  // namespace

@@ -81,10 +81,18 @@ class TLomutoSort {
   /// Where the pivot ends up.
   std::size_t Partition(const TSlice& aSlice) {
     const std::size_t last = aSlice.fPastLast - 1;
+    const double pivotKey = fItems[last].fKey;
     std::size_t pivot = aSlice.fFirst;
     for (std::size_t i = aSlice.fFirst; i < last; ++i) {
-      if (IsNotAbove(fItems[i], fItems[last])) std::swap(fItems[pivot++], fItems[i]);
+      // A swap or none, by choice of values: half the time a branch would be foreseen wrongly.
+      const TSortItem upper = fItems[pivot];
+      const TSortItem item = fItems[i];
+      const bool isNotAbove = item.fKey <= pivotKey;
+      fItems[pivot] = isNotAbove ? item : upper;
+      fItems[i] = isNotAbove ? upper : item;
+      pivot += isNotAbove ? 1 : 0;
     }
+    fComparisons += last - aSlice.fFirst;
     std::swap(fItems[pivot], fItems[last]);
     return pivot;
   }

@@ -2,8 +2,11 @@
 
 // Which of many entities may equal a given one under the linear tolerance. Private.
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 #include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
@@ -12,37 +15,92 @@
 
 namespace GeometryEngine::detail {
 
-/// Entities 0, 1, 2, ... in the order in which they were added, by the cells of both their ends. The entities
-/// themselves stay with the caller. Cells only propose; the entities' own == decides, under which a line equals its
-/// reverse.
+/// The cells of the box round the two ends of an entity, hashed.
+///
+/// The sides of the boxes of equal entities are the same under the tolerance: the lesser and the greater of two numbers
+/// move by less than t when both numbers do, and no rounding takes part. So the hash of an entity's cells is among
+/// those around it of every entity that equals it.
+class TBoxCells {
+ public:
+  TBoxCells() : fCells(GetLinearTolerance()) {}
+
+  /// True as long as the tolerance is the one that the cells were made for.
+  bool IsCurrent() const { return fCells.ServesTolerance(GetLinearTolerance()); }
+
+  /// False for what equals nothing.
+  bool CanMatch(const TDXFEntity& aEntity) const {
+    return (aEntity.EntityType == DXFLine || aEntity.EntityType == DXFArc) && CanMatch(aEntity.StartCoords) &&
+           CanMatch(aEntity.EndCoords);
+  }
+
+  /// REQUIRES: an entity that can match, as below.
+  std::uint64_t GetHash(const TDXFEntity& aEntity) const {
+    std::uint64_t hash = 0;
+    for (const double side : GetBox(aEntity)) hash = MixCell(hash, fCells.GetCell(side));
+    return hash;
+  }
+
+  /// Calls `aVisit(hash)` for all cells in which an entity that equals this one can lie, its own among them.
+  template <class TVisit>
+  void ForEachHashAround(const TDXFEntity& aEntity, const TVisit& aVisit) const {
+    VisitAround(0, GetBox(aEntity), aVisit);
+  }
+
+ private:
+  using TBox = std::array<double, 4>;
+
+  static TBox GetBox(const TDXFEntity& aEntity) {
+    const auto [left, right] = std::minmax({aEntity.StartCoords.x, aEntity.EndCoords.x});
+    const auto [low, high] = std::minmax({aEntity.StartCoords.y, aEntity.EndCoords.y});
+    return {left, right, low, high};
+  }
+
+  bool CanMatch(const TEntityCoordinate& aPoint) const {
+    return fCells.CanMatch(aPoint.x) && fCells.CanMatch(aPoint.y);
+  }
+
+  /// `aSides` are those that the hash does not know yet.
+  template <class TVisit>
+  void VisitAround(std::uint64_t aHash, std::span<const double> aSides, const TVisit& aVisit) const {
+    if (aSides.empty()) return aVisit(aHash);
+    const TCellRange cells = fCells.GetCellsAround(aSides.front());
+    for (std::int64_t cell = cells.fFirst; cell <= cells.fLast; ++cell) {
+      VisitAround(MixCell(aHash, cell), aSides.subspan(1), aVisit);
+    }
+  }
+
+  TToleranceCells fCells;
+};
+
+/// Entities 0, 1, 2, ... in the order in which they were added, by the cells of their boxes. The entities themselves
+/// stay with the caller. Cells only propose; the entities' own == decides, under which a line equals its reverse.
 ///
 /// REQUIRES: the tolerance as it was when the index was made; see `IsCurrent`.
-/// COST: constant on average, as long as few different entities join the same two small areas.
+/// COST: constant on average, as long as few different entities have ends in opposite corners of one box.
 class TEntityIndex {
  public:
-  TEntityIndex() : fCells(GetLinearTolerance()) {}
-
   /// False once the tolerance is another one; what a search then answers is wrong.
-  bool IsCurrent() const { return fCells.ServesTolerance(GetLinearTolerance()); }
+  bool IsCurrent() const { return fCells.IsCurrent(); }
 
   void Reserve(std::size_t aCount) { fChains.Reserve(aCount); }
 
   void Add(const TDXFEntity& aEntity) {
-    if (!CanMatch(aEntity)) return fChains.AddHidden();
-    const TEntityCoordinate& start = aEntity.StartCoords;
-    const TEntityCoordinate& end = aEntity.EndCoords;
-    fChains.Add(GetHash(GetHash(0, fCells.GetCell(start.x), fCells.GetCell(start.y)),  //
-                        fCells.GetCell(end.x), fCells.GetCell(end.y)));
+    if (!fCells.CanMatch(aEntity)) return fChains.AddHidden();
+    fChains.Add(fCells.GetHash(aEntity));
   }
 
   TIndex Count() const { return fChains.Count(); }
 
-  /// Calls `aVisit(index)` for every entity that may equal this one, for some of them more than once, in no order.
+  /// Calls `aVisit(index)` for every entity that may equal this one, in no order; for one more than once if hashes of
+  /// different cells are equal.
   template <class TVisit>
   void ForEachNear(const TDXFEntity& aEntity, const TVisit& aVisit) const {
-    if (!CanMatch(aEntity)) return;
-    ForEachJoining(aEntity.StartCoords, aEntity.EndCoords, aVisit);
-    if (aEntity.EntityType == DXFLine) ForEachJoining(aEntity.EndCoords, aEntity.StartCoords, aVisit);
+    if (!fCells.CanMatch(aEntity)) return;
+    fCells.ForEachHashAround(aEntity, [&](std::uint64_t hash) {
+      for (TIndex i = fChains.First(hash); i != kNotFound; i = fChains.Next(i)) {
+        if (fChains.HasHash(i, hash)) aVisit(i);
+      }
+    });
   }
 
   /// The first entity that equals this one, given `aGetEntity(index)`; kNotFound when none does.
@@ -57,40 +115,7 @@ class TEntityIndex {
   }
 
  private:
-  static std::uint64_t GetHash(std::uint64_t aHash, std::int64_t aColumn, std::int64_t aRow) {
-    return MixCell(MixCell(aHash, aColumn), aRow);
-  }
-
-  bool CanMatch(const TDXFEntity& aEntity) const {
-    return (aEntity.EntityType == DXFLine || aEntity.EntityType == DXFArc) && CanMatch(aEntity.StartCoords) &&
-           CanMatch(aEntity.EndCoords);
-  }
-
-  bool CanMatch(const TEntityCoordinate& aPoint) const {
-    return fCells.CanMatch(aPoint.x) && fCells.CanMatch(aPoint.y);
-  }
-
-  template <class TVisit>
-  void ForEachCellAround(std::uint64_t aHash, const TEntityCoordinate& aPoint, const TVisit& aVisit) const {
-    const TCellRange columns = fCells.GetCellsAround(aPoint.x);
-    const TCellRange rows = fCells.GetCellsAround(aPoint.y);
-    for (std::int64_t column = columns.fFirst; column <= columns.fLast; ++column) {
-      for (std::int64_t row = rows.fFirst; row <= rows.fLast; ++row) aVisit(GetHash(aHash, column, row));
-    }
-  }
-
-  template <class TVisit>
-  void ForEachJoining(const TEntityCoordinate& aStart, const TEntityCoordinate& aEnd, const TVisit& aVisit) const {
-    ForEachCellAround(0, aStart, [&](std::uint64_t startHash) {
-      ForEachCellAround(startHash, aEnd, [&](std::uint64_t hash) {
-        for (TIndex i = fChains.First(hash); i != kNotFound; i = fChains.Next(i)) {
-          if (fChains.HasHash(i, hash)) aVisit(i);
-        }
-      });
-    });
-  }
-
-  TToleranceCells fCells;
+  TBoxCells fCells;
   TCellChains fChains;
 };
 

@@ -37,7 +37,7 @@ class TToleranceCells {
   bool CanMatch(double aValue) const { return fTolerance > 0 && std::isfinite(aValue); }
 
   std::int64_t GetCell(double aValue) const {
-    const double cell = aValue / fWidth;
+    const double cell = aValue / fWidth + kShift;
     if (cell >= kFarthestCell) return kFarthestCell;
     if (cell <= -kFarthestCell) return -kFarthestCell;
     if (std::isnan(cell)) return 0;
@@ -53,6 +53,9 @@ class TToleranceCells {
 
  private:
   static constexpr double kTolerancesPerCell = 32;
+  /// Keeps the borders of cells away from round numbers, which many coordinates are; all searches round one of them
+  /// would look into two cells.
+  static constexpr double kShift = 0.4375;
   static constexpr std::int64_t kFarthestCell = std::int64_t{1} << 53;
 
   double fTolerance;

@@ -4,6 +4,7 @@
 #include <numeric>
 
 #include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
+#include "GeometryEngine/DXF_Entity_Types/detail/PointSameness.h"
 
 namespace GeometryEngine::detail {
 
@@ -36,10 +37,16 @@ void ForEachRun(std::span<std::size_t> aPositions, const TValue& aValue, const T
   }
 }
 
+/// Few points are taken in the order in which they came, with nothing to sort.
+void SortUnlessInOrder(std::span<std::size_t> aPositions) {
+  if (!std::ranges::is_sorted(aPositions)) std::ranges::sort(aPositions);
+}
+
 }  // namespace
 
 std::span<const std::size_t> TPointRow::Arrange(std::span<const TRowPoint> aPoints) {
   fPoints = aPoints;
+  fTolerance = ReadLinearTolerance();
   fRow.clear();
   fSorted.resize(aPoints.size());
   std::iota(fSorted.begin(), fSorted.end(), std::size_t{0});
@@ -75,7 +82,7 @@ void TPointRow::AddRun_Line(std::span<std::size_t> aRun) {
 }
 
 void TPointRow::AddOneByOne_Line(std::span<std::size_t> aRun) {
-  std::ranges::sort(aRun);
+  SortUnlessInOrder(aRun);
   const std::size_t first = fRow.size();
   for (const std::size_t position : aRun) {
     const TEntityCoordinate& point = PointAt(position);
@@ -107,7 +114,7 @@ void TPointRow::ArrangeArc() {
 
 // Adds the points of a run of which none before is the same.
 void TPointRow::AddRun_Repeats(std::span<std::size_t> aRun) {
-  std::ranges::sort(aRun);
+  SortUnlessInOrder(aRun);
   const std::size_t first = fRow.size();
   for (const std::size_t position : aRun) {
     if (!IsInRowFrom(first, PointAt(position))) fRow.push_back(position);
@@ -129,7 +136,7 @@ void TPointRow::AddOneByOne_Arcs() {
 
 bool TPointRow::IsInRowFrom(std::size_t aFirst, const TEntityCoordinate& aPoint) const {
   return std::any_of(fRow.begin() + static_cast<std::ptrdiff_t>(aFirst), fRow.end(),
-                     [&](std::size_t listed) { return PointAt(listed) == aPoint; });
+                     [&](std::size_t listed) { return AreSame(PointAt(listed), aPoint, fTolerance); });
 }
 
 }  // namespace GeometryEngine::detail

@@ -44,6 +44,7 @@ class TPointRow {
   const TEntityCoordinate& PointAt(std::size_t aPosition) const { return fPoints[aPosition].fPoint; }
 
   std::span<const TRowPoint> fPoints;
+  double fTolerance = 0;
   TPositions fSorted;
   TPositions fRow;
   std::vector<double> fAngles;  ///< by position, for an arc
