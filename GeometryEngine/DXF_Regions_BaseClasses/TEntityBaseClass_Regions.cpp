@@ -52,16 +52,15 @@ class TKeptLoops {
   }
 
   void FillTree(TEntityTree& aRegionTree) const {
-    detail::TNodeBatch nodes(aRegionTree, fLoops.size() + fEntities.size());
-    auto entity = fEntities.begin();
-    for (std::size_t i = 0; i < fLoops.size(); ++i) {
-      const auto& [start, centroid, area, endOfEntities] = fLoops[i];
-      TTreeNode& region = nodes.AddToRoot(ToIndex(i));
-      SetRegion(region, start, centroid, area);
-      const auto end = fEntities.begin() + static_cast<std::ptrdiff_t>(endOfEntities);
-      for (TIndex place = 0; entity != end; ++place) nodes.Add(region, place).EntityIndex(*entity++);
+    detail::TNodeBatch nodes(aRegionTree, fLoops.size(), fEntities.size());
+    std::size_t entity = 0;
+    for (const auto& [start, centroid, area, endOfEntities] : fLoops) {
+      const detail::TNodeBatch::TParent region = nodes.AddToRoot(ToIndex(endOfEntities - entity));
+      SetRegion(*region.fNode, start, centroid, area);
+      for (TIndex place = 0; entity < endOfEntities; ++place) {
+        nodes.Add(region, place).EntityIndex(fEntities[entity++]);
+      }
     }
-    nodes.Finish();
   }
 
  private:

@@ -1,3 +1,5 @@
+#include <cstddef>
+#include <memory>
 #include <utility>
 
 #include "GeometryEngine/DXF_Regions_BaseClasses/TEntityBaseClass.h"
@@ -5,28 +7,34 @@
 #include "GeometryEngine/DXF_Regions_BaseClasses/detail/TVertexGraphBuilder.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TRecordedPoints.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TSweep.h"
+#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TInterceptRows.h"
 #include "GeometryEngine/DXF_Regions_Utilities/detail/EntityPieces.h"
 
 namespace GeometryEngine {
 
 namespace {
 
-void FillInterceptTree(const TEntityStorage& aDrawing, TEntityTree& aTree) {
+std::unique_ptr<detail::TInterceptRows> FindInterceptions(const TEntityStorage& aDrawing) {
   detail::TRecordedPoints records(aDrawing.EntityArray());
   // KEPT: entities still active at the end are not retired. Their own ends are recorded only where a pair test found
   // them, which trims dangling ends: an end that meets nothing bounds no closed region.
   detail::TSweep(aDrawing.EntityArray(), records).Run();
-  records.FillTree(aTree);
+  return records.GetRows();
 }
 
-/// At least as many pieces as the entities of an intercept tree are cut into.
-std::size_t GetMostPieces(const TEntityTree& aInterceptTree) {
-  std::size_t pieces = 0;
-  for (const TTreeNode* node : aInterceptTree.RootNode()->Children()) {
-    const std::size_t points = node->Children().size();
-    pieces += points < 2 ? points + 1 : points - 1;
+/// Calls `aVisit(entity index, points)` for each entity of an intercept tree, whose nodes need not be there for it.
+template <class TVisit>
+void ForEachMetEntity(const TEntityTree& aTree, const detail::TInterceptRows* aRows, const TVisit& aVisit) {
+  if (aRows == nullptr) {
+    for (const TTreeNode* node : aTree.RootNode()->Children()) aVisit(node->EntityIndex(), node->Children());
+  } else {
+    for (std::size_t row = 0; row < aRows->Count(); ++row) aVisit(aRows->EntityAt(row), aRows->PointsAt(row));
   }
-  return pieces;
+}
+
+/// At least as many pieces as an entity is cut into at so many points.
+std::size_t GetMostPieces(std::size_t aPoints) {
+  return aPoints < 2 ? aPoints + 1 : aPoints - 1;
 }
 
 }  // namespace
@@ -38,7 +46,7 @@ void TEntityBaseClass::DetermineInterceptions(TEntityStorage* apEntityStorage) {
   fInterceptTree.pEntityStorage(apEntityStorage);
   if (apEntityStorage != nullptr) {
     apEntityStorage->QuickSortArray(0, apEntityStorage->Count() - 1);
-    FillInterceptTree(*apEntityStorage, fInterceptTree);
+    fInterceptTree.PendingNodes(FindInterceptions(*apEntityStorage));
   }
   CreateCoordinateTreeFromIntercepts();
   pass.Done();
@@ -46,15 +54,18 @@ void TEntityBaseClass::DetermineInterceptions(TEntityStorage* apEntityStorage) {
 
 void TEntityBaseClass::CreateCoordinateTreeFromIntercepts() {
   detail::TDriverPass pass(fCoordinateTree, &fEntityStorage_Regions);
+  if (!fCoordinateTree.RootNode()->Children().empty()) fCoordinateTree.Clear();  // a host that has not done so itself
   fEntityStorage_Regions.FreeEntities();
   fCoordinateTree.pEntityStorage(&fEntityStorage_Regions);
-  TEntityArray& pieces = fEntityStorage_Regions.EntityArray();
-  detail::TVertexGraphBuilder graph(fCoordinateTree, pieces, GetMostPieces(fInterceptTree));
-  for (const TTreeNode* node : fInterceptTree.RootNode()->Children()) {
-    detail::ForEachPiece(fInterceptTree.GetNodeEntity(*node), *node,
-                         [&](TDXFEntity&& piece) { graph.Add(std::move(piece)); });
-  }
-  graph.Finish();
+  const auto* rows = dynamic_cast<const detail::TInterceptRows*>(fInterceptTree.PendingNodes());
+  std::size_t mostPieces = 0;
+  ForEachMetEntity(fInterceptTree, rows, [&](TIndex, auto points) { mostPieces += GetMostPieces(points.size()); });
+  detail::TVertexGraphBuilder graph(fEntityStorage_Regions.EntityArray(), mostPieces);
+  const auto add = [&](TDXFEntity&& piece) { graph.Add(std::move(piece)); };
+  ForEachMetEntity(fInterceptTree, rows, [&](TIndex index, auto points) {
+    detail::ForEachPiece(fInterceptTree.GetEntity(index), points, add);
+  });
+  fCoordinateTree.PendingNodes(graph.TakeGraph());
   pass.Done();
 }
 

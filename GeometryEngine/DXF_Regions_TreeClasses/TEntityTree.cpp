@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
+#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TPendingNodes.h"
 
 namespace GeometryEngine {
 
@@ -30,12 +31,39 @@ TEntityTree::~TEntityTree() {
   fRootNode.reset();
 }
 
+void TEntityTree::PendingNodes(std::unique_ptr<detail::TPendingNodes> aNodes) {
+  fPendingNodes = std::move(aNodes);
+  fRootNode->fIsPending = true;
+}
+
+void TEntityTree::AddPendingNodes() {
+  const bool isRootListed = !fTreeNodes.empty();
+  const TIndex first = ToIndex(fTreeNodes.size());
+  const TIndex countedOff = findex - first;  // by nodes that stood free and have gone: as it would be after the others
+  std::unique_ptr<detail::TPendingNodes> nodes = std::move(fPendingNodes);
+  fRootNode->fIsPending = false;
+  findex = first;
+  try {
+    nodes->AddNodes(*this);
+  } catch (...) {
+    fRemoveAll = true;
+    ReleaseAllNodes();
+    fRemoveAll = false;
+    if (isRootListed) fTreeNodes.push_back(fRootNode.get());
+    PendingNodes(std::move(nodes));
+    findex = first + countedOff;
+    throw;
+  }
+  findex += countedOff;
+}
+
 TTreeNode* TEntityTree::AddTreeNode(TTreeNode* aParentNode) {
-  return aParentNode == nullptr ? nullptr : AddTreeNode_AtIndex(aParentNode, aParentNode->fNumChildNodes);
+  return aParentNode == nullptr ? nullptr : AddTreeNode_AtIndex(aParentNode, aParentNode->GetCount());
 }
 
 TTreeNode* TEntityTree::AddTreeNode_AtIndex(TTreeNode* aParentNode, TIndex aIndex) {
   if (aParentNode == nullptr || aParentNode->ftree != this) return nullptr;
+  MakePendingNodes();
   if (fTreeNodes.size() == fTreeNodes.capacity()) fTreeNodes.reserve(2 * fTreeNodes.size() + 1);
   MakeRoomForChildren(*aParentNode, 1);
   TTreeNode& node = MakeNode();
@@ -99,6 +127,7 @@ void TEntityTree::DetachChild(TTreeNode& aParentNode, const TTreeNode& aNode) {
 }
 
 void TEntityTree::RemoveTreeNode(TTreeNode* aNode, bool aRemoveChildren) {
+  MakePendingNodes();
   ++fNestingChanges;
   const auto entry = std::find(fTreeNodes.begin(), fTreeNodes.end(), aNode);
   if (entry == fTreeNodes.end() || aNode == fRootNode.get()) return;
@@ -160,14 +189,21 @@ void TEntityTree::Clear() {
   ++fNestingChanges;
   fRemoveAll = true;
   findex = 0;
-  EmptyChildLists();
+  fPendingNodes.reset();
+  fRootNode->fIsPending = false;
   DropFirstNode();
+  ReleaseAllNodes();
+  fRemoveAll = false;
+}
+
+/// But for the root and the one that has been dropped.
+void TEntityTree::ReleaseAllNodes() {
+  EmptyChildLists();
   ReleaseRegionFields();
   fTreeNodes.clear();
   fFirstNode.reset();
   fFreeSlots = nullptr;
   fMemories[fMemoryInUse].release();
-  fRemoveAll = false;
 }
 
 /// Of the nodes that live on: the lists stand in memory that goes.
@@ -244,13 +280,18 @@ void TEntityTree::ResetTravelledFlag(TIndex aIndex) {
 }
 
 TTreeNode* TEntityTree::GetNodeFromIndex(TIndex aIndex) const {
+  MakePendingNodes();
   return IsIndexWithin(aIndex, fTreeNodes.size()) ? fTreeNodes[static_cast<std::size_t>(aIndex)] : nullptr;
 }
 
 const TDXFEntity& TEntityTree::GetNodeEntity(const TTreeNode& aNode) const {
+  return GetEntity(aNode.fEntityIndex);
+}
+
+const TDXFEntity& TEntityTree::GetEntity(TIndex aIndex) const {
   static const TDXFEntity empty;
   const TEntityStorage* storage = fEntityStorage;
-  const TDXFEntity* entity = storage == nullptr ? nullptr : storage->GetEntityFromIndex_Pointer(aNode.fEntityIndex);
+  const TDXFEntity* entity = storage == nullptr ? nullptr : storage->GetEntityFromIndex_Pointer(aIndex);
   return entity == nullptr ? empty : *entity;
 }
 
@@ -259,6 +300,7 @@ TTreeNode* TEntityTree::Item(TIndex aIndex) const {
 }
 
 TIndex TEntityTree::GetCount() const {
+  MakePendingNodes();
   return ToIndex(fTreeNodes.size());
 }
 
@@ -289,7 +331,9 @@ void TEntityTree::pEntityStorage(TEntityStorage* apEntityStorage) {
 // What a node asks of its tree. It stands here, so that the node's own source needs to know of no tree.
 
 TTreeNode::TTreeNode(TEntityTree* aTree) : ftree(aTree) {
-  if (ftree != nullptr) findex = ftree->findex++;
+  if (ftree == nullptr) return;
+  ftree->MakePendingNodes();
+  findex = ftree->findex++;
 }
 
 TTreeNode::~TTreeNode() {
@@ -298,6 +342,10 @@ TTreeNode::~TTreeNode() {
 
 void TTreeNode::NoteNestingChange() const {
   if (ftree != nullptr) ++ftree->fNestingChanges;
+}
+
+void TTreeNode::MakePendingChildren() const {
+  ftree->MakePendingNodes();
 }
 
 TTreeNode::TRegionFields& TTreeNode::RegionFields() {

@@ -21,7 +21,9 @@ namespace GeometryEngine {
 
 namespace detail {
 class TNodeBatch;
-}
+class TPendingNodes;
+class TVertexGraph;
+}  // namespace detail
 
 /// A root with two levels below it; nodes refer to entities by their index in a storage. The driver has four:
 ///
@@ -41,6 +43,9 @@ class TNodeBatch;
 /// the tree is a position in this list. The first Clear takes the root off the list for good. Either way a node's
 /// absolute index equals its position, so that lists of absolute indexes (TRegionWalk) can be resolved by
 /// GetNodeFromIndex; removing a node ends that.
+///
+/// A tree that the driver has filled may make its nodes when somebody first looks at them, in the tree or below its
+/// root. When memory runs out then, that look throws, and the next one tries again.
 ///
 /// OWNS: its nodes, from AddTreeNode on until they are removed, cleared or go with the tree; not the storage.
 /// COST: each search compares node after node.
@@ -106,12 +111,24 @@ class GEOMETRYENGINE_API TEntityTree {
   void pEntityStorage(TEntityStorage* apEntityStorage);
 
  private:
+  friend class TEntityBaseClass;
   friend class TTreeNode;
   friend class detail::TNodeBatch;
+  friend class detail::TVertexGraph;
   struct TFreeSlot {
     TFreeSlot* fNext;
   };
 
+  /// Leaves a tree that has just been cleared to make these nodes when somebody first looks at them.
+  void PendingNodes(std::unique_ptr<detail::TPendingNodes> aNodes);
+  /// Nil when all nodes are there.
+  detail::TPendingNodes* PendingNodes() const { return fPendingNodes.get(); }
+  /// Called before anything that looks at the nodes: for whoever looks, they have been there all along.
+  void MakePendingNodes() const {
+    if (fPendingNodes != nullptr) const_cast<TEntityTree*>(this)->AddPendingNodes();
+  }
+  void AddPendingNodes();
+  const TDXFEntity& GetEntity(TIndex aIndex) const;
   TTreeNode& MakeNode();
   void* TakeSlot();
   void MakeRoomForChildren(TTreeNode& aParentNode, std::size_t aCount);
@@ -120,6 +137,7 @@ class GEOMETRYENGINE_API TEntityTree {
   void HandChildrenTo(TTreeNode& aParentNode, TTreeNode& aNode);
   void ReleaseSubtree(TTreeNode& aNode);
   void DestroyNode(TTreeNode& aNode);
+  void ReleaseAllNodes();
   void EmptyChildLists();
   void ReleaseRegionFields();
   void DropFirstNode();
@@ -136,6 +154,7 @@ class GEOMETRYENGINE_API TEntityTree {
   bool fRemoveAll = false;  ///< true while all nodes go; they then leave the tree's lists alone
   std::string fTreeName;
   TEntityStorage* fEntityStorage = nullptr;
+  std::unique_ptr<detail::TPendingNodes> fPendingNodes;
 
   /// Memory of the nodes and of their lists of children. The other one is empty, or holds the dropped node.
   std::array<std::pmr::monotonic_buffer_resource, 2> fMemories;

@@ -114,10 +114,12 @@ class GEOMETRYENGINE_API TTreeNode {
     TTravelDirection fTravelDirection = Travel_AntiClockwise;
     TIntegerArray fSubRegionsArray;
   };
+  TTreeNode(TEntityTree* aTree, TIndex aIndex) : ftree(aTree), findex(aIndex) {}
   static const TRegionFields& NoRegionFields();
   const TRegionFields& RegionFields() const;
   TRegionFields& RegionFields();
   void NoteNestingChange() const;
+  void MakePendingChildren() const;
 
   TEntityTree* ftree;
   TTreeNode* fParent = nullptr;
@@ -132,7 +134,8 @@ class GEOMETRYENGINE_API TTreeNode {
   TIndex fEntityIndex = kNotFound;
   std::int32_t fRegionIndex = 0;
   bool fTravelled = false;
-  bool fIsPooled = false;  ///< true for a node in the memory of its tree, which doesn't destroy nodes one by one
+  bool fIsPending = false;  ///< true for the root of a tree that makes its nodes when somebody looks at them
+  bool fIsPooled = false;   ///< true for a node in the memory of its tree, which doesn't destroy nodes one by one
 };
 
 }  // namespace GeometryEngine

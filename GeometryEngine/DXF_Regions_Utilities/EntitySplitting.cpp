@@ -28,9 +28,8 @@ TDXFEntity detail::CreatePiece(const TEntityCoordinate& aStart, const TEntityCoo
 
 TEntityArray SplitEntity_FromIntercepts(const TDXFEntity& aEntity, const TTreeNode* aNode) {
   TEntityArray pieces;
-  const TTreeNode whole(nullptr);
-  detail::ForEachPiece(aEntity, aNode == nullptr ? whole : *aNode,
-                       [&](TDXFEntity&& piece) { pieces.push_back(std::move(piece)); });
+  const std::span<TTreeNode* const> points = aNode == nullptr ? std::span<TTreeNode* const>() : aNode->Children();
+  detail::ForEachPiece(aEntity, points, [&](TDXFEntity&& piece) { pieces.push_back(std::move(piece)); });
   return pieces;
 }
 

@@ -1,5 +1,8 @@
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <memory>
+
 #include "GeometryEngine/DXF_Regions_BaseClasses/TEntityBaseClass.h"
 #include "tests/support/Chains.h"
 #include "tests/support/Detection.h"
@@ -134,6 +137,55 @@ TEST_F(DetermineInterceptions, SecondRunStartsAfresh) {
   detection.driver.DetermineInterceptions(&detection.drawing);
   EXPECT_THAT(Pieces(detection), IsBits(pieces));
   EXPECT_EQ(detection.driver.InterceptTree().Count(), nodes);
+}
+
+TEST_F(DetermineInterceptions, WhoeverKeptTheTreeOrItsRootFindsTheNewNodesThere) {
+  TDetection detection("L 0,0 4,4; L 1,4 5,0");
+  TEntityTree& tree = detection.driver.InterceptTree();
+  const TTreeNode* root = tree.RootNode();
+  const TIndex nodes = tree.Count();
+  detection.driver.DetermineInterceptions(&detection.drawing);
+  EXPECT_EQ(root->Count(), 2);
+  detection.driver.DetermineInterceptions(&detection.drawing);
+  EXPECT_EQ(root->Children().size(), 2U);
+  detection.driver.DetermineInterceptions(&detection.drawing);
+  EXPECT_EQ(root->GetNode(1)->EntityIndex(), 0);
+  detection.driver.DetermineInterceptions(&detection.drawing);
+  EXPECT_EQ(tree.Count(), nodes);
+  detection.driver.DetermineInterceptions(&detection.drawing);
+  EXPECT_EQ(tree.Item(0)->Level(), 1);
+  detection.driver.DetermineInterceptions(&detection.drawing);
+  EXPECT_EQ(tree.AddTreeNode_ToRoot()->AbsoluteIndex(), nodes);
+}
+
+TEST_F(DetermineInterceptions, NodesMadeByHandCountFromBehindThoseOfTheTree) {
+  TDetection detection("L 0,0 4,4; L 1,4 5,0");
+  TEntityTree& tree = detection.driver.InterceptTree();
+  const TIndex nodes = tree.Count();
+  auto before = std::make_unique<TTreeNode>(&tree);
+  EXPECT_EQ(before->AbsoluteIndex(), nodes);
+  detection.driver.DetermineInterceptions(&detection.drawing);
+  EXPECT_EQ(TTreeNode(&tree).AbsoluteIndex(), nodes);
+  detection.driver.DetermineInterceptions(&detection.drawing);
+  before.reset();  // counted off, as ever, from whatever nodes there are
+  EXPECT_EQ(tree.Item(0)->AbsoluteIndex(), 0);
+  EXPECT_EQ(TTreeNode(&tree).AbsoluteIndex(), nodes - 1);
+}
+
+TEST_F(CreateCoordinateTreeFromIntercepts, TakesTheTreeAsAHostHasLeftIt) {
+  TDetection detection("L 0,0 4,0; L 1,-1 1,1; L 3,-1 3,1");
+  const TEntityArray pieces = Pieces(detection);
+  TEntityTree& tree = detection.driver.InterceptTree();
+  detection.driver.CoordinateTree().Clear();
+  detection.driver.CreateCoordinateTreeFromIntercepts();
+  EXPECT_THAT(Pieces(detection), IsBits(pieces)) << "nobody has looked at the intercept tree";
+  const auto isLevel = [](const TTreeNode* node) { return node->EntityIndex() == 0; };
+  const auto nodes = tree.RootNode()->Children();
+  TTreeNode* level = *std::ranges::find_if(nodes, isLevel);
+  tree.RemoveTreeNode(level->GetNode(0), true);
+  detection.driver.CoordinateTree().Clear();
+  detection.driver.CreateCoordinateTreeFromIntercepts();
+  EXPECT_NE(Pieces(detection).size(), pieces.size());
 }
 
 TEST_F(DetermineInterceptions, LeavesRegionsAndTheSecondVertexGraphAsTheyAre) {

@@ -63,9 +63,9 @@ TEST(TVertexGraphBuilder, GivesTheNodesAndPiecesOfAddingOneByOne) {
       TEntityArray known;
       TEntityTree tree("Coordinates_SlotPole");
       tree.Clear();
-      TVertexGraphBuilder graph(tree, known, pieces.size());
+      TVertexGraphBuilder graph(known, pieces.size());
       for (TDXFEntity piece : pieces) graph.Add(std::move(piece));
-      graph.Finish();
+      graph.TakeGraph()->AddNodes(tree);
       ASSERT_THAT(known, IsBits(expectedPieces.EntityArray())) << "tolerance " << tolerance << " seed " << seed;
       ASSERT_EQ(NodesOf(tree), NodesOf(expected)) << "tolerance " << tolerance << " seed " << seed;
     }

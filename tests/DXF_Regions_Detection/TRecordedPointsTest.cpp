@@ -46,7 +46,7 @@ std::string RecordAtOnce(const TEntityStorage& aDrawing, const std::vector<TReco
   for (const auto& [entity, point] : aRecordings) records.Add(entity, point);
   TEntityTree tree("Intercepts");
   tree.Clear();
-  records.FillTree(tree);
+  records.GetRows()->AddNodes(tree);
   return ToText(tree);
 }
 

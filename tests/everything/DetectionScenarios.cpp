@@ -142,6 +142,11 @@ std::vector<TScenario> DriverScenarios() {
                            s.driver->AddEntityToCoordinateTree(s.driver->CoordinateTree(),
                                                                Tagged(CreateEntity_Line(1, 1, 50, 1)));
                          }),
+      On<TBeforeNesting>("FirstLookAtTheTrees", Unchanged,
+                         [](TBeforeNesting& s) {
+                           s.driver->CoordinateTree().RootNode()->Count();
+                           s.driver->InterceptTree().RootNode()->Count();
+                         }),
       On<TBeforeNesting>("IdentifySubRegions", Unchanged,
                          [](TBeforeNesting& s) { s.driver->IdentifySubRegions(s.driver->CoordinateTree()); }),
       On<TBeforeHandOver>("RemoveDuplicatedSubRegions", Unchanged,

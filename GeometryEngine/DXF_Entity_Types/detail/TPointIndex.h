@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <vector>
+#include <utility>
 
 #include "GeometryEngine/DXF_Entity_Types/TEntityCoordinate.h"
 #include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
@@ -50,6 +50,9 @@ class TPointIndex {
   TIndex Count() const { return fChains.Count(); }
   const TEntityCoordinate& Point(TIndex aIndex) const { return fPoints[static_cast<std::size_t>(aIndex)]; }
 
+  /// The points themselves; the index is used up.
+  TCoordinateArray TakePoints() { return std::move(fPoints); }
+
   /// The first point that is the same as `aPoint`; kNotFound when none is.
   TIndex FindFirst(const TEntityCoordinate& aPoint) const {
     return FindFirstIf(aPoint, [](TIndex) { return true; });
@@ -66,7 +69,14 @@ class TPointIndex {
     return match;
   }
 
-  /// The same among the points whose index `aAccepts`.
+  /// The same, given that no two of the points are the same. One with the very numbers of `aPoint` is the only match
+  /// then, since any other would be the same as that one.
+  TPointMatch FindMatch_Distinct(const TEntityCoordinate& aPoint) const {
+    const TIndex equal = FindEqual(aPoint);
+    return equal == kNotFound ? FindMatch(aPoint) : TPointMatch{equal, true};
+  }
+
+  /// The first among the points that are the same as `aPoint` whose index `aAccepts`.
   template <class TAccepts>
   TIndex FindFirstIf(const TEntityCoordinate& aPoint, const TAccepts& aAccepts) const {
     TIndex first = kNotFound;
@@ -93,6 +103,13 @@ class TPointIndex {
     return fCells.CanMatch(aPoint.x) && fCells.CanMatch(aPoint.y);
   }
 
+  TIndex FindEqual(const TEntityCoordinate& aPoint) const {
+    if (!CanMatch(aPoint)) return kNotFound;
+    TIndex i = fChains.First(GetHash(fCells.GetCell(aPoint.x), fCells.GetCell(aPoint.y)));
+    while (i != kNotFound && !(Point(i).x == aPoint.x && Point(i).y == aPoint.y)) i = fChains.Next(i);
+    return i;
+  }
+
   template <class TAccepts>
   TIndex FindFirstInChain(std::uint64_t aHash, const TEntityCoordinate& aPoint, TIndex aBefore,
                           const TAccepts& aAccepts) const {
@@ -105,7 +122,7 @@ class TPointIndex {
 
   TToleranceCells fCells;
   TCellChains fChains;
-  std::vector<TEntityCoordinate> fPoints;
+  TCoordinateArray fPoints;
 };
 
 }  // namespace GeometryEngine::detail

@@ -4,17 +4,17 @@
 
 namespace GeometryEngine::detail {
 
-TVertexGraphBuilder::TVertexGraphBuilder(TEntityTree& aTree, TEntityArray& aPieces, std::size_t aMostPieces)
-    : fPieces(aPieces), fNodes(aTree, 4 * aMostPieces) {
+TVertexGraphBuilder::TVertexGraphBuilder(TEntityArray& aPieces, std::size_t aMostPieces) : fPieces(aPieces) {
   fPieces.reserve(aMostPieces);
   fPoints.Reserve(aMostPieces);
   fVertices.reserve(aMostPieces);
-  fHalfEdges.reserve(2 * aMostPieces);
+  fVertexOf.reserve(2 * aMostPieces);
+  fPrevious.reserve(2 * aMostPieces);
 }
 
 void TVertexGraphBuilder::Add(TDXFEntity&& aPiece) {
   const TPointMatch start = FindStart(aPiece.StartCoords);
-  const TPointMatch end = fPoints.FindMatch(aPiece.EndCoords);
+  const TPointMatch end = fPoints.FindMatch_Distinct(aPiece.EndCoords);
   fLastEnd = aPiece.EndCoords;
   fLastEndMatch = end;
   if (IsKnown(aPiece, start, end)) return;
@@ -31,11 +31,11 @@ void TVertexGraphBuilder::Add(TDXFEntity&& aPiece) {
 
 TPointMatch TVertexGraphBuilder::FindStart(const TEntityCoordinate& aStart) const {
   const bool isLastEnd = fLastEndMatch && aStart.x == fLastEnd.x && aStart.y == fLastEnd.y;
-  return isLastEnd ? *fLastEndMatch : fPoints.FindMatch(aStart);
+  return isLastEnd ? *fLastEndMatch : fPoints.FindMatch_Distinct(aStart);
 }
 
-void TVertexGraphBuilder::Finish() {
-  fNodes.Finish();
+std::unique_ptr<TPendingGraph> TVertexGraphBuilder::TakeGraph() {
+  return std::make_unique<TPendingGraph>(fPoints.TakePoints(), std::move(fVertexOf));
 }
 
 // A piece that equals this one ends at vertices, and they are the same as its ends.
@@ -51,8 +51,8 @@ bool TVertexGraphBuilder::IsKnown(const TDXFEntity& aPiece, const TPointMatch& a
 
 bool TVertexGraphBuilder::LeadsToEqual(TIndex aVertex, const TEntityCoordinate& aFarEnd,
                                        const TDXFEntity& aPiece) const {
-  for (TIndex h = VertexAt(aVertex).fLastHalfEdge; h != kNotFound; h = HalfEdgeAt(h).fPrevious) {
-    const TIndex farVertex = HalfEdgeAt(h ^ 1).fVertex;
+  for (TIndex h = VertexAt(aVertex).fLastHalfEdge; h != kNotFound; h = fPrevious[static_cast<std::size_t>(h)]) {
+    const TIndex farVertex = fVertexOf[static_cast<std::size_t>(h ^ 1)];
     if (fPoints.Point(farVertex) == aFarEnd && fPieces[static_cast<std::size_t>(h / 2)] == aPiece) return true;
   }
   return false;
@@ -61,18 +61,17 @@ bool TVertexGraphBuilder::LeadsToEqual(TIndex aVertex, const TEntityCoordinate& 
 TEntityCoordinate TVertexGraphBuilder::AddHalfEdge(const TEntityCoordinate& aEnd, TIndex aVertex) {
   const TIndex index = aVertex == kNotFound ? AddVertex(aEnd) : aVertex;
   TVertex& vertex = VertexAt(index);
-  fNodes.Add(*vertex.fNode, vertex.fCount++).EntityIndex(ToIndex(fPieces.size()));
-  fHalfEdges.push_back({index, vertex.fLastHalfEdge});
-  vertex.fLastHalfEdge = ToIndex(fHalfEdges.size() - 1);
+  ++vertex.fCount;
+  fPrevious.push_back(vertex.fLastHalfEdge);
+  vertex.fLastHalfEdge = ToIndex(fVertexOf.size());
+  fVertexOf.push_back(index);
   return fPoints.Point(index);
 }
 
 TIndex TVertexGraphBuilder::AddVertex(const TEntityCoordinate& aPoint) {
   const TIndex index = fPoints.Count();
   fPoints.Add(aPoint);
-  TTreeNode& node = fNodes.AddToRoot(index);
-  node.Coordinates(aPoint);
-  fVertices.push_back({&node, 0, kNotFound});
+  fVertices.push_back({0, kNotFound});
   return index;
 }
 

@@ -3,36 +3,32 @@
 // The vertex graph of a drawing's pieces, before it becomes a tree. Private.
 
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <vector>
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 #include "GeometryEngine/DXF_Entity_Types/detail/TPointIndex.h"
-#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TNodeBatch.h"
+#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TPendingGraph.h"
 
 namespace GeometryEngine::detail {
 
-/// Takes pieces as AddEntityToCoordinateTree would, one by one into an empty tree and an empty storage, and makes the
-/// nodes that it would have made.
+/// Takes pieces as AddEntityToCoordinateTree would, one by one into an empty tree and an empty storage, and gives the
+/// graph of which the nodes are made that it would have made.
 /// COST: constant for a piece, on average, as long as not many pieces join the same two vertices.
 class TVertexGraphBuilder {
  public:
-  /// For pieces that go to `aPieces`, which is empty and left to this object alone, as is the tree, just cleared.
-  TVertexGraphBuilder(TEntityTree& aTree, TEntityArray& aPieces, std::size_t aMostPieces);
+  /// For pieces that go to `aPieces`, which is empty and left to this object alone.
+  TVertexGraphBuilder(TEntityArray& aPieces, std::size_t aMostPieces);
 
   void Add(TDXFEntity&& aPiece);
-  /// After the last piece. Without it, the tree can only be cleared.
-  void Finish();
+  /// After the last piece; the object is used up.
+  std::unique_ptr<TPendingGraph> TakeGraph();
 
  private:
   struct TVertex {
-    TTreeNode* fNode;
     TIndex fCount;         ///< of half-edges
     TIndex fLastHalfEdge;  ///< half-edges 2 k and 2 k + 1 are those of piece k
-  };
-  struct THalfEdge {
-    TIndex fVertex;
-    TIndex fPrevious;  ///< at the same vertex
   };
 
   TPointMatch FindStart(const TEntityCoordinate& aStart) const;
@@ -42,13 +38,12 @@ class TVertexGraphBuilder {
   TIndex AddVertex(const TEntityCoordinate& aPoint);
   TVertex& VertexAt(TIndex aIndex) { return fVertices[static_cast<std::size_t>(aIndex)]; }
   const TVertex& VertexAt(TIndex aIndex) const { return fVertices[static_cast<std::size_t>(aIndex)]; }
-  const THalfEdge& HalfEdgeAt(TIndex aIndex) const { return fHalfEdges[static_cast<std::size_t>(aIndex)]; }
 
   TEntityArray& fPieces;
-  TPointIndex fPoints;  ///< of the vertices
+  TPointIndex fPoints;  ///< of the vertices, no two of which are the same
   std::vector<TVertex> fVertices;
-  std::vector<THalfEdge> fHalfEdges;
-  TNodeBatch fNodes;
+  std::vector<TIndex> fVertexOf;  ///< by half-edge
+  std::vector<TIndex> fPrevious;  ///< by half-edge, the one before at the same vertex
   /// What a search for the last piece's end would find now, where that is certain: the next piece often starts there.
   TEntityCoordinate fLastEnd;
   std::optional<TPointMatch> fLastEndMatch;

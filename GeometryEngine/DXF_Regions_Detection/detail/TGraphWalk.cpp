@@ -130,7 +130,7 @@ TEntityCoordinate TGraphWalk::GetCentroidTerm(TIndex aHalfEdge) {
 
 void TGraphWalk::WriteMarks() const {
   for (TIndex h = 0; h < fGraph.HalfEdgeCount(); ++h) {
-    if (IsTravelled(h) && !fGraph.HalfEdge(h).fIsTravelled) fGraph.Node(h).Travelled(true);
+    if (IsTravelled(h) && !fGraph.HalfEdge(h).fIsTravelled) fGraph.MarkTravelled(h);
   }
 }
 

@@ -3,7 +3,6 @@
 #include <numeric>
 
 #include "GeometryEngine/DXF_Regions_Detection/detail/TPointRow.h"
-#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TNodeBatch.h"
 
 namespace GeometryEngine::detail {
 
@@ -14,8 +13,7 @@ constexpr std::size_t kPointsPerEntity = 6;  // of a drawing whose entities meet
 }  // namespace
 
 TRecordedPoints::TRecordedPoints(std::span<const TDXFEntity> aEntities)
-    : fEntities(aEntities), fNodeOf(aEntities.size(), kNotFound) {
-  fIndex.Reserve(aEntities.size());
+    : fEntities(aEntities), fRepeats(aEntities), fNodeOf(aEntities.size(), kNotFound) {
   fRecords.reserve(kPointsPerEntity * aEntities.size());
 }
 
@@ -27,19 +25,31 @@ void TRecordedPoints::Add(TIndex aEntity, const TEntityCoordinate& aPoint) {
 TIndex TRecordedPoints::FindNode(TIndex aEntity) {
   TIndex& known = fNodeOf[static_cast<std::size_t>(aEntity)];
   if (known != kNotFound) return known;
-  const TDXFEntity& entity = EntityAt(aEntity);
-  const TIndex node = fIndex.FindFirst(
-      entity, [this](TIndex i) -> const TDXFEntity& { return EntityAt(fNodeEntities[static_cast<std::size_t>(i)]); });
-  if (node != kNotFound) return known = node;
+  if (fRepeats.MayRepeat(aEntity)) known = FindNodeOfEqual(aEntity);
+  if (known != kNotFound) return known;
   const TIndex added = AddNode(aEntity);
+  const TDXFEntity& entity = EntityAt(aEntity);
   if (entity == entity) known = added;  // what equals nothing gets a node for each of its points
   return added;
 }
 
+TIndex TRecordedPoints::FindNodeOfEqual(TIndex aEntity) const {
+  const auto nodeAt = [this](TIndex i) { return fIndexedNodes[static_cast<std::size_t>(i)]; };
+  const auto entityAt = [&](TIndex i) -> const TDXFEntity& {
+    return EntityAt(fNodeEntities[static_cast<std::size_t>(nodeAt(i))]);
+  };
+  const TIndex first = fIndex.FindFirst(EntityAt(aEntity), entityAt);
+  return first == kNotFound ? kNotFound : nodeAt(first);
+}
+
 TIndex TRecordedPoints::AddNode(TIndex aEntity) {
-  fIndex.Add(EntityAt(aEntity));
+  const TIndex node = ToIndex(fNodeEntities.size());
   fNodeEntities.push_back(aEntity);
-  return ToIndex(fNodeEntities.size() - 1);
+  if (fRepeats.MayRepeat(aEntity)) {
+    fIndex.Add(EntityAt(aEntity));
+    fIndexedNodes.push_back(node);
+  }
+  return node;
 }
 
 /// Where each node's records begin once they stand node by node; with the end of the last.
@@ -50,44 +60,26 @@ std::vector<std::size_t> TRecordedPoints::GetStarts() const {
   return starts;
 }
 
-/// The place of each record among the children of its node; kNotFound for a point that is known already.
-std::vector<TIndex> TRecordedPoints::GetPlaces() const {
+std::unique_ptr<TInterceptRows> TRecordedPoints::GetRows() const {
   const std::vector<std::size_t> starts = GetStarts();
   std::vector<std::size_t> ends(starts.begin(), starts.end() - 1);
   std::vector<TRowPoint> points(fRecords.size());
-  std::vector<std::size_t> recordOf(fRecords.size());
+  std::vector<TIndex> turns(fRecords.size());
   for (std::size_t i = 0; i < fRecords.size(); ++i) {
-    const TRecord& record = fRecords[i];
-    const std::size_t slot = ends[static_cast<std::size_t>(record.fNode)]++;
-    points[slot] = {record.fPoint, &EntityAt(record.fEntity)};
-    recordOf[slot] = i;
+    const std::size_t slot = ends[static_cast<std::size_t>(fRecords[i].fNode)]++;
+    points[slot] = {fRecords[i].fPoint, &EntityAt(fRecords[i].fEntity)};
+    turns[slot] = ToIndex(i);
   }
-  std::vector<TIndex> places(fRecords.size(), kNotFound);
+  auto rows = std::make_unique<TInterceptRows>(fNodeEntities.size(), fRecords.size(), ToIndex(fRecords.size()));
   TPointRow row;
-  for (std::size_t node = 0; node + 1 < starts.size(); ++node) {
-    TIndex place = 0;
-    const std::span<const TRowPoint> own(points.begin() + static_cast<std::ptrdiff_t>(starts[node]),
-                                         starts[node + 1] - starts[node]);
-    for (const std::size_t position : row.Arrange(own)) places[recordOf[starts[node] + position]] = place++;
-  }
-  return places;
-}
-
-void TRecordedPoints::FillTree(TEntityTree& aTree) const {
-  const std::vector<TIndex> places = GetPlaces();
-  TNodeBatch nodes(aTree, fRecords.size() + fNodeEntities.size());
-  std::vector<TTreeNode*> entityNodes(fNodeEntities.size(), nullptr);
-  TIndex count = 0;
-  for (std::size_t i = 0; i < fRecords.size(); ++i) {
-    const std::size_t entity = static_cast<std::size_t>(fRecords[i].fNode);
-    TTreeNode*& node = entityNodes[entity];
-    if (node == nullptr) {
-      node = &nodes.AddToRoot(count++);
-      node->EntityIndex(fNodeEntities[entity]);
+  for (std::size_t node = 0; node < fNodeEntities.size(); ++node) {
+    const std::size_t start = starts[node];
+    rows->AddRow(fNodeEntities[node]);
+    for (const std::size_t position : row.Arrange(std::span(points).subspan(start, starts[node + 1] - start))) {
+      rows->AddPoint({points[start + position].fPoint, turns[start + position]});
     }
-    if (places[i] != kNotFound) nodes.Add(*node, places[i]).Coordinates(fRecords[i].fPoint);
   }
-  nodes.Finish();
+  return rows;
 }
 
 }  // namespace GeometryEngine::detail

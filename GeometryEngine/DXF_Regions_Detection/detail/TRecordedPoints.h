@@ -4,18 +4,20 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <vector>
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 #include "GeometryEngine/DXF_Entity_Types/detail/TEntityIndex.h"
-#include "GeometryEngine/DXF_Regions_TreeClasses/TEntityTree.h"
+#include "GeometryEngine/DXF_Entity_Types/detail/TEntityRepeats.h"
+#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TInterceptRows.h"
 #include "GeometryEngine/host/TIndex.h"
 
 namespace GeometryEngine::detail {
 
-/// Takes points in the order of AddInterception and makes the nodes that its calls, one by one, would have made: the
-/// same nodes with the same indexes, in the same order.
+/// Takes points in the order of AddInterception and gives the rows of which the nodes are made that its calls, one by
+/// one, would have made: the same nodes with the same indexes, in the same order.
 ///
 /// COST: n log n for the points of an entity, as long as no long row of them stands within the tolerance of each other.
 class TRecordedPoints {
@@ -25,8 +27,7 @@ class TRecordedPoints {
 
   /// Takes a point of an entity.
   void Add(TIndex aEntity, const TEntityCoordinate& aPoint);
-  /// Adds the nodes to an intercept tree. REQUIRES: a tree just cleared; one that fails midway is to be cleared again.
-  void FillTree(TEntityTree& aTree) const;
+  std::unique_ptr<TInterceptRows> GetRows() const;
 
  private:
   struct TRecord {
@@ -36,13 +37,15 @@ class TRecordedPoints {
   };
 
   TIndex FindNode(TIndex aEntity);
+  TIndex FindNodeOfEqual(TIndex aEntity) const;
   TIndex AddNode(TIndex aEntity);
   std::vector<std::size_t> GetStarts() const;
-  std::vector<TIndex> GetPlaces() const;
   const TDXFEntity& EntityAt(TIndex aIndex) const { return fEntities[static_cast<std::size_t>(aIndex)]; }
 
   std::span<const TDXFEntity> fEntities;
-  TEntityIndex fIndex;                ///< the entities of the nodes
+  TEntityRepeats fRepeats;
+  TEntityIndex fIndex;                ///< the entities of those nodes whose entities may repeat
+  std::vector<TIndex> fIndexedNodes;  ///< those nodes
   std::vector<TIndex> fNodeOf;        ///< by entity, once it is certain which node takes its points
   std::vector<TIndex> fNodeEntities;  ///< by node
   std::vector<TRecord> fRecords;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 #include "GeometryEngine/DXF_EntityStorage/detail/OtherEnd.h"
 #include "GeometryEngine/DXF_Entity_Types/detail/TPointIndex.h"
@@ -92,8 +93,15 @@ class TTwins {
 
 }  // namespace
 
-TVertexGraph::TVertexGraph(const TEntityTree& aTree) : fEntities(EntitiesOf(aTree)), fTolerance(ReadLinearTolerance()) {
-  ReadTree(aTree);
+TVertexGraph::TVertexGraph(const TEntityTree& aTree)
+    : fEntities(EntitiesOf(aTree)),
+      fTolerance(ReadLinearTolerance()),
+      fPending(dynamic_cast<TPendingGraph*>(aTree.PendingNodes())) {
+  if (fPending == nullptr) {
+    ReadTree(aTree);
+  } else {
+    ReadPendingGraph();
+  }
   FindFarVertices();
 }
 
@@ -115,6 +123,35 @@ void TVertexGraph::ReadTree(const TEntityTree& aTree) {
     fPoints.push_back(vertex->Coordinates());
   }
   fFirst.push_back(HalfEdgeCount());
+}
+
+void TVertexGraph::ReadPendingGraph() {
+  const std::span<const TIndex> vertexOf = fPending->VertexOfHalfEdges();
+  fPoints = fPending->Points();
+  fFirst = fPending->GetCounts();
+  fFirst.push_back(0);
+  std::exclusive_scan(fFirst.begin(), fFirst.end(), fFirst.begin(), 0);
+  fHalfEdges.resize(vertexOf.size());
+  fPendingOrder.resize(vertexOf.size());
+  std::vector<TIndex> places = fFirst;
+  for (TIndex i = 0; i < ToIndex(vertexOf.size()); ++i) {
+    const TIndex vertex = vertexOf[At(i)];
+    const std::size_t place = At(places[At(vertex)]++);
+    THalfEdge& halfEdge = fHalfEdges[place];
+    halfEdge.fVertex = vertex;
+    halfEdge.fEntityIndex = i / 2;
+    halfEdge.fIsTravelled = fPending->Travelled(i);
+    fPendingOrder[place] = i;
+  }
+}
+
+void TVertexGraph::MarkTravelled(TIndex aHalfEdge) const {
+  const std::size_t h = At(aHalfEdge);
+  if (fPending == nullptr) {
+    fNodes[h]->Travelled(true);
+  } else {
+    fPending->MarkTravelled(fPendingOrder[h]);
+  }
 }
 
 void TVertexGraph::FindFarVertices() {

@@ -9,6 +9,7 @@
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 #include "GeometryEngine/DXF_Regions_TreeClasses/TEntityTree.h"
+#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TPendingGraph.h"
 #include "GeometryEngine/host/TIndex.h"
 
 namespace GeometryEngine::detail {
@@ -48,7 +49,8 @@ class TVertexGraph {
   bool IsDangling(TIndex aVertex) const { return Degree(aVertex) == 1; }
 
   const THalfEdge& HalfEdge(TIndex aHalfEdge) const { return fHalfEdges[At(aHalfEdge)]; }
-  TTreeNode& Node(TIndex aHalfEdge) const { return *fNodes[At(aHalfEdge)]; }
+  /// Marks a half-edge in the tree, whose nodes need not be there for it.
+  void MarkTravelled(TIndex aHalfEdge) const;
   const TDXFEntity& Entity(const THalfEdge& aHalfEdge) const;
   /// The same, for who knows the ends and asks for the curve between them: one line stands for all, and is at hand.
   const TDXFEntity& Curve(const THalfEdge& aHalfEdge) const { return aHalfEdge.fIsLine ? fAnyLine : Entity(aHalfEdge); }
@@ -69,6 +71,7 @@ class TVertexGraph {
  private:
   static std::size_t At(TIndex aIndex) { return static_cast<std::size_t>(aIndex); }
   void ReadTree(const TEntityTree& aTree);
+  void ReadPendingGraph();
   void FindFarVertices();
   bool JoinTwins(TIndex aHalfEdge, TIndex aTwin);
   bool IsExact(const THalfEdge& aHalfEdge, const TEntityCoordinate& aFarEnd) const;
@@ -79,7 +82,9 @@ class TVertexGraph {
   std::vector<TEntityCoordinate> fPoints;
   std::vector<TIndex> fFirst;  // one more than vertices
   std::vector<THalfEdge> fHalfEdges;
-  std::vector<TTreeNode*> fNodes;
+  std::vector<TTreeNode*> fNodes;     // of the half-edges, or none when the tree's nodes are pending
+  TPendingGraph* fPending;            // nil when they are there
+  std::vector<TIndex> fPendingOrder;  // of the half-edges, their numbers there
   TDXFEntity fAnyLine;
   bool fIsRegular = true;
 };

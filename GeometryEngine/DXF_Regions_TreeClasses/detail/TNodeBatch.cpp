@@ -1,44 +1,44 @@
 #include "GeometryEngine/DXF_Regions_TreeClasses/detail/TNodeBatch.h"
 
-#include <algorithm>
-#include <span>
-
 namespace GeometryEngine::detail {
 
-TNodeBatch::TNodeBatch(TEntityTree& aTree, std::size_t aMostNodes)
-    : fTree(aTree), fFirst(aTree.fTreeNodes.size()), fSlots(aTree.Allocate<TTreeNode>(aMostNodes)) {
-  fTree.fTreeNodes.reserve(fFirst + aMostNodes);
+TNodeBatch::TNodeBatch(TEntityTree& aTree, std::size_t aRootChildren, std::size_t aOthers)
+    : fTree(aTree),
+      fSlots(aTree.Allocate<TTreeNode>(aRootChildren + aOthers)),
+      fLists(aTree.Allocate<TTreeNode*>(aRootChildren + aOthers)) {
+  fTree.fTreeNodes.reserve(fTree.fTreeNodes.size() + aRootChildren + aOthers);
+  fTree.fRootNode->fChildren = fLists;
+  fTree.fRootNode->fRoomForChildren = ToIndex(aRootChildren);
+  fLists += aRootChildren;
 }
 
-TTreeNode& TNodeBatch::Add(TTreeNode& aParent, TIndex aPlace) {
+TNodeBatch::TParent TNodeBatch::AddToRoot(TIndex aChildren) {
+  TTreeNode& root = *fTree.fRootNode;
+  TTreeNode& node = MakeNode(root, root.fNumChildNodes);
+  root.fChildren[root.fNumChildNodes++] = &node;
+  node.fLevel = 1;
+  node.fChildren = fLists;
+  node.fNumChildNodes = aChildren;
+  node.fRoomForChildren = aChildren;
+  fLists += aChildren;
+  return {&node, node.fChildren};
+}
+
+TTreeNode& TNodeBatch::Add(const TParent& aParent, TIndex aPlace) {
+  TTreeNode& node = MakeNode(*aParent.fNode, aPlace);
+  aParent.fChildren[aPlace] = &node;
+  node.fLevel = 2;
+  return node;
+}
+
+TTreeNode& TNodeBatch::MakeNode(TTreeNode& aParent, TIndex aPlace) {
   const bool isFirst = fTree.fTreeNodes.empty();
-  TTreeNode* node = isFirst ? &fTree.MakeNode() : new (fSlots++) TTreeNode(&fTree);
+  TTreeNode* node = isFirst ? &fTree.MakeNode() : new (fSlots++) TTreeNode(&fTree, fTree.findex++);
   node->fIsPooled = !isFirst;
   node->fParent = &aParent;
-  node->fLevel = aParent.fLevel + 1;
   node->frelindex = aPlace;
-  ++aParent.fNumChildNodes;
   fTree.fTreeNodes.push_back(node);
   return *node;
-}
-
-TTreeNode& TNodeBatch::AddToRoot(TIndex aPlace) {
-  return Add(*fTree.fRootNode, aPlace);
-}
-
-void TNodeBatch::Finish() {
-  const std::span<TTreeNode* const> nodes = std::span(fTree.fTreeNodes).subspan(fFirst);
-  TTreeNode** lists = fTree.Allocate<TTreeNode*>(nodes.size());
-  const auto giveList = [&](TTreeNode& node) {
-    node.fChildren = lists;
-    node.fRoomForChildren = node.fNumChildNodes;
-    lists += node.fNumChildNodes;
-  };
-  giveList(*fTree.fRootNode);
-  for (TTreeNode* node : nodes) {
-    giveList(*node);
-    node->fParent->fChildren[node->frelindex] = node;
-  }
 }
 
 }  // namespace GeometryEngine::detail

@@ -8,24 +8,31 @@
 
 namespace GeometryEngine::detail {
 
-/// Adds nodes to a tree that will know its children only at the end: a pass that knows the place of each node
-/// beforehand, and about how many there will be, needs no list of children that grows.
+/// Adds nodes to a tree without children, by a pass that knows beforehand how many there will be, how many children
+/// each has and the place of each: no list of children grows.
 ///
-/// REQUIRES: nobody else adds to the tree meanwhile. A batch that does not come to `Finish` leaves a tree that can only
-/// be cleared.
+/// REQUIRES: nobody else adds to the tree meanwhile, and all nodes are added in the end. A tree of which some are
+/// missing can only be cleared.
 class TNodeBatch {
  public:
-  TNodeBatch(TEntityTree& aTree, std::size_t aMostNodes);
-  /// A new node. REQUIRES: in the end each place among the new children of a parent is taken once, without gaps.
-  TTreeNode& Add(TTreeNode& aParent, TIndex aPlace);
-  TTreeNode& AddToRoot(TIndex aPlace);
-  /// Gives each node its list of children.
-  void Finish();
+  /// A node and its room for children, so that adding one needn't look at the node.
+  struct TParent {
+    TTreeNode* fNode;
+    TTreeNode** fChildren;
+  };
+
+  TNodeBatch(TEntityTree& aTree, std::size_t aRootChildren, std::size_t aOthers);
+  /// A new last node of level 1, with so many children.
+  TParent AddToRoot(TIndex aChildren);
+  /// A new node of level 2. REQUIRES: each place below a parent is taken once.
+  TTreeNode& Add(const TParent& aParent, TIndex aPlace);
 
  private:
+  TTreeNode& MakeNode(TTreeNode& aParent, TIndex aPlace);
+
   TEntityTree& fTree;
-  std::size_t fFirst;  ///< position of the first new node
-  TTreeNode* fSlots;   ///< what is left of the room
+  TTreeNode* fSlots;   ///< what is left of the room for nodes
+  TTreeNode** fLists;  ///< what is left of the room for lists of children
 };
 
 }  // namespace GeometryEngine::detail
