@@ -9,6 +9,7 @@
 #include "GeometryEngine/DXF_Regions_Detection/detail/TBoxIndex.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/THeightIndex.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TRegionOutline.h"
+#include "GeometryEngine/DXF_Regions_TreeClasses/detail/FetchAhead.h"
 
 namespace GeometryEngine::detail {
 
@@ -33,6 +34,9 @@ class TNesting {
   // REQUIRES: candidates in ascending order, each once.
   void KeepNested(TIndex aContainer, TIntegerArray& aCandidates) const {
     if (aCandidates.empty()) return;
+    for (const TIndex region : aCandidates) {
+      FetchEntitiesAhead(fCoordinateTree, *fRegions[static_cast<std::size_t>(region)]);
+    }
     TRegionOutline outline(fCoordinateTree, *fRegions[static_cast<std::size_t>(aContainer)]);
     std::erase_if(aCandidates, [&](TIndex region) { return region == aContainer || !LiesInside(region, outline); });
   }
