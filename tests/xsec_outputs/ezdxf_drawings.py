@@ -85,8 +85,22 @@ def splines(space, _):
     return [(abs(area), CURVE_ERROR)]
 
 
+def fit_points(space, _):
+    """A closed spline given by nothing but points on a circle, in a block that is mirrored, and one left open."""
+    block = space.doc.blocks.new("ring")
+    angles = [math.radians(15 * i) for i in range(24)]
+    ring = block.add_spline(fit_points=[(10 * math.cos(a), 10 * math.sin(a)) for a in angles])
+    ring.closed = True
+    space.add_blockref("ring", (0, 0), dxfattribs={"xscale": -1})
+    space.add_spline(fit_points=[(20, 0), (25, 3), (30, 0)])
+    space.add_line((20, 0), (30, 0))
+    # Through (0, 0), (h, y), (2 h, 0), straight at its ends, a cubic spline bounds 5 / 4 h y.
+    return [(math.pi * 100, CURVE_ERROR), (5 / 4 * 5 * 3, CURVE_ERROR)]
+
+
 OLD = [bulges, arcs, mirrored_inserts, array_of_inserts, stretched_insert, extrusions]
-RELEASES = {"R12": OLD, "R2000": OLD + [ellipses, splines], "R2018": OLD + [ellipses, splines]}
+RELEASES = {"R12": OLD, "R2000": OLD + [ellipses, splines, fit_points],
+            "R2018": OLD + [ellipses, splines, fit_points]}
 
 
 def faults_of(areas, wanted):
