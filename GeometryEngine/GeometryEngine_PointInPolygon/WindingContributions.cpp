@@ -9,6 +9,7 @@
 
 #include "GeometryEngine/GeometryEngine_PointInPolygon/detail/SegmentWinding.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/ArcWalking.h"
+#include "GeometryEngine/GetFunctions_GeometryOperations/detail/LimitedSegments.h"
 #include "GeometryEngine/host/Numerics.h"
 
 namespace GeometryEngine {
@@ -35,14 +36,19 @@ class TArcWalk {
         fTolerance(detail::ReadLinearTolerance()),
         fStartAngle(GetEntityStartAngle_Arc(aStart, aArc)),
         fDirection(GetArcTravelDirection(fStartAngle, aArc)),
-        fSegments(GetArcSegmentPoints_Surf(aArc, kChordTolerance)) {}
+        fSegments(GetArcSegmentPoints_Surf(aArc, kChordTolerance)) {
+    if (IsTurnedTooFar()) fSegments = detail::GetLimitedSegments(fSegments);
+  }
 
   std::int32_t GetWinding() const {
-    const bool inFull = fSegments.aCount <= kFewChords || !(std::abs(fStartAngle) <= kLargestAngle);
+    const bool inFull = fSegments.aCount <= kFewChords || IsTurnedTooFar();
     return inFull ? SumUp({0, fSegments.aCount - 1}) : GetWinding_AtHeight();
   }
 
  private:
+  // Then a height doesn't tell which chords pass it, and all of them are looked at.
+  bool IsTurnedTooFar() const { return !(std::abs(fStartAngle) <= kLargestAngle); }
+
   std::int32_t SumUp(const TChordRange& aRange) const {
     if (aRange.fLast < aRange.fFirst) return 0;
     std::int32_t sum = 0;

@@ -18,8 +18,8 @@ namespace GeometryEngine {
 /// The contribution of an entity that the walk enters at `aStart` and leaves at `aEnd`. An arc counts as chords within
 /// 0.01 drawing units of it; its direction follows from `aStart` alone, and `aEnd` is not used.
 /// DEGENERATE: an arc entered at neither of its ends is walked from angle 0; an arc of sweep 0 and entities that are
-/// neither line nor arc contribute 0.
-/// COST: proportional to the number of chords, which grows with the square root of the radius.
+/// neither line nor arc contribute 0; an arc whose start angle is beyond a million degrees has a million chords at
+/// most. COST: constant; for such start angles proportional to the number of chords.
 GEOMETRYENGINE_API std::int32_t GetWindingNumber_Entity_Addition(const TDXFEntity& aEntity,
                                                                  const TEntityCoordinate& aStart,
                                                                  const TEntityCoordinate& aEnd,

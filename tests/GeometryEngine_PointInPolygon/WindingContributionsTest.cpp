@@ -145,6 +145,19 @@ TEST(GetWindingNumber_Entity_Addition, ArcOfSweepZeroCountsNothing) {
   EXPECT_EQ(GetWindingNumber_Entity_Addition(arc, arc.StartCoords, arc.EndCoords, {-5, 1}), 0);
 }
 
+TEST(GetWindingNumber_Entity_Addition, ArcTurnedByMillionsOfDegreesIsWalkedInAMillionChordsAtMost) {
+  TSettingsGuard settings;
+  TDXFEntity arc = ParseEntity("A c 0,0 r 2 -90..90");
+  arc.radius = 1e13;  // 140 million chords of their own for the half circle
+  arc.startAngle = 360e6 - 90;
+  arc.endAngle = 360e6 + 90;
+  arc.StartCoords = {0, -1e13};
+  arc.EndCoords = {0, 1e13};
+  for (const double y : {-0.9e13, 0.0, 0.9e13}) {
+    EXPECT_EQ(GetWindingNumber_Entity_Addition(arc, arc.StartCoords, arc.EndCoords, {0, y}), 1) << y;
+  }
+}
+
 TEST(GetWindingNumber_Entity_Addition, OtherTypesCountNothing) {
   TSettingsGuard settings;
   TDXFEntity region = ParseEntity("L 0,0 0,2");

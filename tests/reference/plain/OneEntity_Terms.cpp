@@ -15,6 +15,7 @@ namespace {
 constexpr double kChordTolerance = 0.01;
 constexpr std::int32_t kLeastChords = 3;
 constexpr std::int32_t kMostChords = 1'000'000;
+constexpr double kLargestAngle = 1e6;  // degrees; from there on a winding number limits its chords
 constexpr std::int32_t kAreaSegments = 5;
 constexpr double kFullTurn = 6.283185307179586;  // radians
 
@@ -157,7 +158,8 @@ std::int32_t GetWindingNumber_Entity_Addition(const TDXFEntity& aEntity, const T
                                               const TEntityCoordinate& aEnd, const TEntityCoordinate& aPoint) {
   if (aEntity.EntityType == DXFLine) return WindingOfSegment(aStart, aEnd, aPoint);
   if (aEntity.EntityType != DXFArc) return 0;
-  const TArcWalk walk = Plain::WalkArc_Surf(aEntity, aStart);
+  const TArcWalk all = Plain::WalkArc_Surf(aEntity, aStart);
+  const TArcWalk walk = std::abs(all.fStartAngle) <= kLargestAngle ? all : all.Limited();
   std::int32_t sum = 0;
   TEntityCoordinate from = walk.Point(0);
   for (std::int32_t i = 0; i < walk.fCount; ++i) {
