@@ -2,13 +2,16 @@
 
 #include <limits>
 #include <optional>
-#include <random>
 
 #include <gmock/gmock.h>
+
+#include "tests/DXF_Regions_Detection/Boxes.h"
 
 using namespace GeometryEngine;
 using detail::TBox;
 using detail::TBoxGrid;
+using support::TRandomBoxes;
+using support::WithinOneByOne;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Optional;
@@ -23,14 +26,6 @@ std::optional<std::vector<TIndex>> Within(const TBoxGrid& aGrid, const TBox& aBo
   std::vector<TIndex> found;
   const bool areFew = aGrid.ForFewWithin(aBox, [&](TIndex index) { found.push_back(index); });
   return areFew ? std::optional(found) : std::nullopt;
-}
-
-std::vector<TIndex> WithinOneByOne(const std::vector<TBox>& aBoxes, const TBox& aBox) {
-  std::vector<TIndex> found;
-  for (std::size_t i = 0; i < aBoxes.size(); ++i) {
-    if (aBoxes[i].IsWithin(aBox)) found.push_back(ToIndex(i));
-  }
-  return found;
 }
 
 }  // namespace
@@ -73,20 +68,13 @@ TEST(TBoxGrid, DeclinesWhereItWouldLookAtMany) {
 }
 
 TEST(TBoxGrid, FindsAmongManyWhatALookAtEachFinds) {
-  std::mt19937 random(1);
-  const auto below = [&](int aEnd) { return static_cast<int>(random() % static_cast<unsigned>(aEnd)); };
-  const auto box = [&]() -> TBox {
-    const double left = below(30);
-    const double bottom = below(30);
-    return {left, left + below(below(5) == 0 ? 30 : 3), bottom, bottom + below(below(5) == 0 ? 30 : 3)};
-  };
+  TRandomBoxes random;
   int answered = 0;
   for (int count = 1; count < 1500; count += 53) {
-    std::vector<TBox> boxes;
-    for (int i = 0; i < count; ++i) boxes.push_back(box());
+    const std::vector<TBox> boxes = random.Next(count);
     const TBoxGrid grid(boxes);
     for (int query = 0; query < 100; ++query) {
-      const TBox around = box();
+      const TBox around = random.Next();
       const auto found = Within(grid, around);
       if (!found) continue;
       ASSERT_THAT(*found, UnorderedElementsAreArray(WithinOneByOne(boxes, around))) << count;

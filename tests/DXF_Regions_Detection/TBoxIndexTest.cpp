@@ -1,12 +1,14 @@
 #include "GeometryEngine/DXF_Regions_Detection/detail/TBoxIndex.h"
 
-#include <random>
-
 #include <gmock/gmock.h>
+
+#include "tests/DXF_Regions_Detection/Boxes.h"
 
 using namespace GeometryEngine;
 using detail::TBox;
 using detail::TBoxIndex;
+using support::TRandomBoxes;
+using support::WithinOneByOne;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::UnorderedElementsAreArray;
@@ -16,14 +18,6 @@ namespace {
 std::vector<TIndex> Within(const TBoxIndex& aIndex, const TBox& aBox) {
   std::vector<TIndex> found;
   aIndex.ForEachWithin(aBox, [&](TIndex index) { found.push_back(index); });
-  return found;
-}
-
-std::vector<TIndex> WithinOneByOne(const std::vector<TBox>& aBoxes, const TBox& aBox) {
-  std::vector<TIndex> found;
-  for (std::size_t i = 0; i < aBoxes.size(); ++i) {
-    if (aBoxes[i].IsWithin(aBox)) found.push_back(ToIndex(i));
-  }
   return found;
 }
 
@@ -48,19 +42,12 @@ TEST(TBoxIndex, SidesMayTouch) {
 }
 
 TEST(TBoxIndex, FindsAmongManyWhatALookAtEachFinds) {
-  std::mt19937 random(1);
-  const auto below = [&](int aEnd) { return static_cast<int>(random() % static_cast<unsigned>(aEnd)); };
-  const auto box = [&]() -> TBox {
-    const double left = below(30);
-    const double bottom = below(30);
-    return {left, left + below(below(5) == 0 ? 30 : 3), bottom, bottom + below(below(5) == 0 ? 30 : 3)};
-  };
+  TRandomBoxes random;
   for (int count = 1; count < 300; count += 13) {
-    std::vector<TBox> boxes;
-    for (int i = 0; i < count; ++i) boxes.push_back(box());
+    const std::vector<TBox> boxes = random.Next(count);
     const TBoxIndex index(boxes);
     for (int query = 0; query < 100; ++query) {
-      const TBox around = box();
+      const TBox around = random.Next();
       ASSERT_THAT(Within(index, around), UnorderedElementsAreArray(WithinOneByOne(boxes, around))) << count;
     }
   }
