@@ -74,7 +74,8 @@ void TGraphWalk::AddStepsOverBridges() {
   fNextLook = kNever;
   std::size_t copied = 0;
   const auto copyUpTo = [&](std::size_t aEnd) {
-    fSteps.insert(fSteps.end(), &walked[copied], walked.data() + aEnd);
+    const std::span<const TIndex> next = std::span(walked).subspan(copied, aEnd - copied);
+    fSteps.insert(fSteps.end(), next.begin(), next.end());
     copied = aEnd;
   };
   for (const auto& [steps, bridge] : fPassed) {
