@@ -21,6 +21,8 @@ class TwinDetection {
 
   /// The most regions that a pass found.
   TIndex Regions() const { return fRegions; }
+  /// How often labels were left out that would have been asked for, because outlines had too many chords.
+  unsigned long Unlabelled() const { return fUnlabelled; }
 
   TwinRecord Run() {
     Tree& graph = fDriver.CoordinateTree();
@@ -201,13 +203,22 @@ class TwinDetection {
       Record("handed over", i, *nodes.back());
     }
     AttachChildren(tree, nodes);
-    const bool areLabelled = fRandom.Chance(0.15);
+    const bool areLabelled = fRandom.Chance(0.15) && AreLabelsAffordable(nodes);
     for (std::size_t i = 0; i < nodes.size() && areLabelled; ++i) {
       nodes[i]->UpdateGeometry_Outputs();
       Record("with outputs", ToIndex(i), *nodes[i]);
     }
     fRecord.Section("entities without duplicates");
     if (fRandom.Chance(0.3)) fRecord.Add("entity", tree.GetEntities_NoDuplicates());
+  }
+
+  /// A plain pole search goes through all chords for each of thousands of cells: beside huge arcs it takes hours.
+  bool AreLabelsAffordable(const std::vector<Region*>& aNodes) {
+    constexpr std::size_t kMostChords = 10'000;
+    std::size_t chords = 0;
+    for (Region* node : aNodes) chords += node->Entities().GetVertices_Surf(false).size();
+    if (chords > kMostChords) ++fUnlabelled;
+    return chords <= kMostChords;
   }
 
   /// Below each region those that it lists, unless one would come to lie below itself.
@@ -308,6 +319,7 @@ class TwinDetection {
   typename TEngine::Driver fDriver;
   TwinRecord fRecord;
   TIndex fRegions = 0;
+  unsigned long fUnlabelled = 0;
 };
 
 }  // namespace GeometryEngine::properties
