@@ -1,5 +1,6 @@
 // A drawing through everything that a driver and a region tree do, by the library and by its plain twin: the same bits.
 
+#include <algorithm>
 #include <cstdio>
 
 #include "tests/fuzz/Bytes.h"
@@ -12,6 +13,7 @@ using namespace GeometryEngine::properties;
 namespace {
 
 constexpr std::size_t kMostEntities = 16;  // the twin compares all with all
+constexpr double kFinestResolution = 50;   // the twin winds round every chord of every arc from each of their points
 
 double Sensible(fuzz::Bytes& aBytes, double aUsual) {
   constexpr double kOthers[] = {1e-6, 0.01, 0.3, 0};
@@ -27,7 +29,7 @@ TwinDrawing DrawingOf(fuzz::Bytes& aBytes) {
   drawing.settings.linearTolerance = Sensible(aBytes, 1e-4);
   drawing.settings.angleTolerance = Sensible(aBytes, 1e-4);
   drawing.settings.snappingMode = Sensible(aBytes, 1);
-  drawing.settings.arcResolution = Sensible(aBytes, 5);
+  drawing.settings.arcResolution = std::min(Sensible(aBytes, 5), kFinestResolution);  // not-a-number stays
   drawing.settings.minimumLabelArea = Sensible(aBytes, 0);
   drawing.settings.tracingTolerance = aBytes.Byte() < 240 ? drawing.settings.linearTolerance : aBytes.Number();
   Apply(drawing.settings);
