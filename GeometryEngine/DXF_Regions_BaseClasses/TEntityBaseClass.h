@@ -88,6 +88,8 @@ class GEOMETRYENGINE_API TEntityBaseClass {
   /// value keeps none. Dangling pieces and bridges bound no region and are in no loop.
   /// COST: proportional to the pieces, but for kept loops that bridges join to others: each of them is walked with all
   /// that lies beyond its bridges.
+  /// LIMIT: the same goes for clockwise loops so small that the rounding of those steps might hide their sense, until
+  /// they have stepped back 1,000,000 times beyond bridges; from then on their own pieces tell which sense they have.
   void DetermineRegions(TEntityTree& aTree, std::int32_t aRegionType);
   /// Traces an open chain from each vertex that a single piece reaches into the region tree; a chain met from both of
   /// its ends is listed once. A chain that runs into a closed loop goes on round it.

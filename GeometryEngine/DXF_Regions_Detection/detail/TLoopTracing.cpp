@@ -13,10 +13,10 @@ bool TLoopTracing::Trace(TIndex aHalfEdge, bool aNegativeToo) {
   if (fWalk.IsBridge(aHalfEdge)) return false;
   fWalk.Walk(aHalfEdge, true);
   if (!fWalk.HasClosed()) return false;
-  const bool mayPassOver = !aNegativeToo && fKnowsBridges && IsSurelyNegative();
+  const bool mayPassOver = !aNegativeToo && fKnowsBridges && IsTakenAsNegative();
   if (!mayPassOver) {
     // The steps over a bridge and back leave their rounding in the sums.
-    if (fWalk.PassedByBridges()) fWalk.AddStepsOverBridges();
+    if (fWalk.PassedByBridges()) AddStepsOverBridges();
     fArea = fWalk.GetArea();
   }
   if (fKnowsBridges) CountOffLoop();
@@ -76,16 +76,27 @@ void TLoopTracing::CountOffLoop() {
   }
 }
 
+void TLoopTracing::AddStepsOverBridges() {
+  const std::size_t before = fWalk.StepsBack();
+  fWalk.AddStepsOverBridges();
+  if (fPathArea < 0) fStepsInDoubt += fWalk.StepsBack() - before;
+}
+
+bool TLoopTracing::IsTakenAsNegative() {
+  fPathArea = 0;
+  for (const TIndex h : fWalk.Path()) fPathArea += fWalk.GetAreaTerm(h);
+  fArea = fPathArea;
+  return IsSurelyNegative() || (fPathArea < 0 && fStepsInDoubt > kMostStepsInDoubt);
+}
+
 // Whether the sum along the whole walk is negative, as the one along its path is but for rounding. Along a walk each
 // free half-edge is entered once, and entered again or taken out three times more for each step back, of which there
 // are no more than half-edges. Each of these steps rounds by half an epsilon of the sum so far, which is that along a
 // path without any piece twice: about the middle, no more than the magnitudes of all free pieces. The sum along the
 // path rounds a quarter as often at most.
-bool TLoopTracing::IsSurelyNegative() {
+bool TLoopTracing::IsSurelyNegative() const {
   constexpr double kRounding = 2.5 * std::numeric_limits<double>::epsilon();
-  fArea = 0;
-  for (const TIndex h : fWalk.Path()) fArea += fWalk.GetAreaTerm(h);
-  return fArea < -kRounding * (fFree + 1) * (fFreeMagnitudes + fFromMiddle);
+  return fPathArea < -kRounding * (fFree + 1) * (fFreeMagnitudes + fFromMiddle);
 }
 
 }  // namespace GeometryEngine::detail

@@ -13,10 +13,16 @@ namespace GeometryEngine::detail {
 /// neither start on one nor turn into one: what lies beyond would be walked in vain, by one walk after the other.
 /// docs/numerics.md says why that changes no answer.
 ///
+/// A clockwise loop whose area is within what all that rounding might come to has its sign from the area along its own
+/// pieces, once loops in such doubt have stepped back `kMostStepsInDoubt` times beyond bridges.
+///
 /// REQUIRES: a graph that outlives the tracing.
 /// COST: few steps for each half-edge, and the steps that kept loops make beyond bridges and back.
 class TLoopTracing {
  public:
+  /// Small drawings never come to it. In large ones each such loop may walk all that its bridge joins it to.
+  static constexpr std::size_t kMostStepsInDoubt = 1'000'000;
+
   explicit TLoopTracing(const TVertexGraph& aGraph) : fGraph(aGraph), fWalk(aGraph) {}
 
   /// Traces the loop that starts with the half-edge. False when there is none. A loop of negative area may have its
@@ -34,11 +40,15 @@ class TLoopTracing {
   double GetTermAboutMiddle(TIndex aHalfEdge);
   void CountFree();
   void CountOffLoop();
-  bool IsSurelyNegative();
+  void AddStepsOverBridges();
+  bool IsTakenAsNegative();
+  bool IsSurelyNegative() const;
 
   const TVertexGraph& fGraph;
   TGraphWalk fWalk;
   double fArea = 0;
+  double fPathArea = 0;           // the same without the steps to and fro
+  std::size_t fStepsInDoubt = 0;  // back, beyond bridges of loops that may be clockwise
   bool fKnowsBridges = false;
   double fFree = 0;            // half-edges that no loop has taken, counted once bridges are known
   double fFreeMagnitudes = 0;  // of the area terms of their pieces about the middle, and somewhat more than that
