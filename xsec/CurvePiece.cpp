@@ -15,6 +15,7 @@ constexpr int kMostHalvings = 20;                // of one piece
 constexpr std::size_t kMostVertices = 100'000;   // of a whole path
 constexpr double kLittle = 0.01;                 // of the tolerance: what bends less is a line
 constexpr double kMostBulge = 0.41421356237309;  // of an arc over a right angle
+constexpr double kLeastBulge = 2.5e-4;           // of an arc with a radius of a thousand chords
 constexpr double kMostRadiusShare = 0.25;        // of an arc's radius: the ring round the arc is no wider
 
 // Along and across the chord from the start of a piece to its end. DEGENERATE: not a number when they are one point.
@@ -122,6 +123,10 @@ Fit FitSegment(const std::array<CurvePiece, 2>& halves, double tolerance) {
   if (both([&](const CurvePiece& half) { return IsStraight(half, chord, little); })) return {true, 0};
   const double bulge = BulgeThrough(start, Projected(right.front()), end);
   if (!(std::abs(bulge) <= kMostBulge)) return {};
+  // What an arc of a far larger radius adds to an area is lost in rounding.
+  if (std::abs(bulge) < kLeastBulge) {
+    return {both([&](const CurvePiece& half) { return IsStraight(half, chord, tolerance); }), 0};
+  }
   const Point centre = CentreOf(start, end, bulge);
   return {both([&](const CurvePiece& half) { return FitsCircle(half, centre, tolerance); }), bulge};
 }

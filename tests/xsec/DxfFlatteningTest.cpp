@@ -71,6 +71,21 @@ TEST(ReadEllipse, WholeOneIsAClosedRingOfArcsWithinTheTolerance) {
   EXPECT_LT(drawing.entities.size(), 180U);  // chords would be above a thousand
 }
 
+TEST(ReadEllipse, NeedleOfAnEllipseHasNoArcsOfHugeRadius) {
+  const Drawing drawing = ReadEntities("0 ELLIPSE | 11 3 | 40 3000", kFine);
+  EXPECT_GT(CountArcs(drawing), 0U);  // round its tips
+  double furthest = 0;
+  for (int i = 0; i < 500; ++i) {
+    const double t = i * 2 * std::numbers::pi / 500;
+    furthest = std::max(furthest, DistanceToDrawing(drawing, 3 * std::cos(t), 9000 * std::sin(t)));
+  }
+  EXPECT_LE(furthest, 1e-4);
+  for (const DrawingEntity& entity : drawing.entities) {
+    const auto& [start, end] = std::tie(entity.geometry.StartCoords, entity.geometry.EndCoords);
+    EXPECT_LE(entity.geometry.radius, 1001 * std::hypot(end.x - start.x, end.y - start.y));
+  }
+}
+
 TEST(ReadEllipse, PartRunsFromItsFirstParameterToItsLast) {
   const Drawing drawing = ReadEntities("0 ELLIPSE | 11 10 | 40 0.5 | 41 1.5707963267948966 | 42 3.141592653589793");
   EXPECT_THAT(drawing.entities.front().geometry.StartCoords, IsNear(0, 5, 1e-12));
