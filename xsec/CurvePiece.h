@@ -30,8 +30,8 @@ using ArcPath = std::vector<SourceVertex>;
 /// Goes on along a piece from where the path ends, which is where the piece begins, to the very end of the piece. No
 /// point of the piece is further than aTolerance from the path; vertices lie on the curve, no arc exceeds a right
 /// angle, and none has a radius of more than a thousand chords: chords do there. Once the path has 100,000 vertices,
-/// whatever is left gets a chord: numbers that overflow on the way come to no end otherwise. COST: arcs grow with the
-/// third root of 1 / aTolerance, each tried with the square of the number of control points.
+/// whatever is left gets a chord: numbers that overflow on the way come to no end otherwise.
+/// COST: arcs grow with the third root of 1 / aTolerance, each tried with the square of the number of control points.
 void FollowByArcs(CurvePiece aPiece, double aTolerance, ArcPath& aPath);
 
 }  // namespace xsec

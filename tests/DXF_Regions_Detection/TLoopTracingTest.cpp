@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include "tests/support/Detection.h"
-#include "tests/support/Geometry.h"
 
 namespace GeometryEngine {
 

@@ -212,7 +212,7 @@ class TwinDetection {
     if (fRandom.Chance(0.3)) fRecord.Add("entity", tree.GetEntities_NoDuplicates());
   }
 
-  /// A plain pole search goes through all chords for each of thousands of cells: beside huge arcs it takes hours.
+  /// A plain pole search goes through all chords for each of thousands of cells: beside huge arcs it hardly ends.
   bool AreLabelsAffordable(const std::vector<Region*>& aNodes) {
     constexpr std::size_t kMostChords = 10'000;
     std::size_t chords = 0;

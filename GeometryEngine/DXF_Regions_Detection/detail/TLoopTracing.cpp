@@ -86,7 +86,7 @@ bool TLoopTracing::IsTakenAsNegative() {
   fPathArea = 0;
   for (const TIndex h : fWalk.Path()) fPathArea += fWalk.GetAreaTerm(h);
   fArea = fPathArea;
-  return IsSurelyNegative() || (fPathArea < 0 && fStepsInDoubt > kMostStepsInDoubt);
+  return IsSurelyNegative() || (fPathArea < 0 && fStepsInDoubt >= kMostStepsInDoubt);
 }
 
 // Whether the sum along the whole walk is negative, as the one along its path is but for rounding. Along a walk each

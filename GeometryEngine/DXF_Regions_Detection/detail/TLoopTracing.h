@@ -47,7 +47,7 @@ class TLoopTracing {
   const TVertexGraph& fGraph;
   TGraphWalk fWalk;
   double fArea = 0;
-  double fPathArea = 0;           // the same without the steps to and fro
+  double fPathArea = 0;           // the same without the steps to and fro, for loops that may be passed over
   std::size_t fStepsInDoubt = 0;  // back, beyond bridges of loops that may be clockwise
   bool fKnowsBridges = false;
   double fFree = 0;            // half-edges that no loop has taken, counted once bridges are known
