@@ -120,51 +120,79 @@ void TEntityTree::AttachChild(TTreeNode& aParentNode, TTreeNode& aNode, TIndex a
   for (TIndex i = position; i <= count; ++i) siblings[i]->frelindex = i;
 }
 
-void TEntityTree::DetachChild(TTreeNode& aParentNode, const TTreeNode& aNode) {
-  TTreeNode** end = aParentNode.fChildren + aParentNode.fNumChildNodes;
-  aParentNode.fNumChildNodes -=
-      ToIndex(static_cast<std::size_t>(end - std::remove(aParentNode.fChildren, end, &aNode)));
+/// Whether the node is in the flat list, and not the root.
+bool TEntityTree::IsListed(const TTreeNode& aNode) const {
+  const bool isOwned = aNode.fIsPooled || &aNode == fFirstNode.get();
+  return aNode.ftree == this && isOwned && &aNode != fDroppedNode;
 }
 
 void TEntityTree::RemoveTreeNode(TTreeNode* aNode, bool aRemoveChildren) {
   MakePendingNodes();
   ++fNestingChanges;
-  const auto entry = std::find(fTreeNodes.begin(), fTreeNodes.end(), aNode);
-  if (entry == fTreeNodes.end() || aNode == fRootNode.get()) return;
+  if (aNode == nullptr || !IsListed(*aNode)) return;
   TTreeNode& parent = *aNode->fParent;
-  if (!aRemoveChildren) MakeRoomForChildren(parent, aNode->Children().size());
-  DetachChild(parent, *aNode);
-  if (!aRemoveChildren) HandChildrenTo(parent, *aNode);
+  const std::span<TTreeNode* const> handedOver = aRemoveChildren ? std::span<TTreeNode* const>{} : aNode->Children();
+  if (!handedOver.empty()) {
+    MakeRoomForChildren(parent, handedOver.size());
+    aNode->fNumChildNodes = 0;
+  }
+  --parent.fNumChildNodes;
+  parent.fHasGaps = true;
   ReleaseSubtree(*aNode);
+  AttachChildren(parent, handedOver);
+  if (2 * fReleasedNodes > fTreeNodes.size()) CloseGaps();
 }
 
-void TEntityTree::HandChildrenTo(TTreeNode& aParentNode, TTreeNode& aNode) {
-  // Taken out of the old list first: what stays in it is destroyed together with the node.
-  const std::span<TTreeNode* const> children = aNode.Children();
-  aNode.fNumChildNodes = 0;
-  for (TTreeNode* child : children) AttachChild(aParentNode, *child, aParentNode.fNumChildNodes);
+// REQUIRES: room for them.
+void TEntityTree::AttachChildren(TTreeNode& aParentNode, std::span<TTreeNode* const> aNodes) {
+  if (!aNodes.empty()) CloseChildGaps(aParentNode);
+  for (TTreeNode* node : aNodes) AttachChild(aParentNode, *node, aParentNode.fNumChildNodes);
 }
 
+// Whatever is released stands in the lists as a node of no tree until they are next read.
 void TEntityTree::ReleaseSubtree(TTreeNode& aNode) {
   ++fNestingChanges;
-  if (fRemoveAll) return;
   // Leaf by leaf and without memory of its own, since a destructor gets here when memory has run out.
   TIndex released = 0;
   for (TTreeNode* node = &aNode; node != nullptr;) {
+    CloseChildGaps(*node);
     if (node->fNumChildNodes > 0) {
       node = node->fChildren[--node->fNumChildNodes];
       continue;
     }
     ++released;
+    if (IsListed(*node)) ++fReleasedNodes;
     node->ftree = nullptr;
     node = node == &aNode ? nullptr : node->fParent;
   }
   // KEPT: every node below the released one is counted off twice, once for itself and once by its parent, so that
   // absolute indexes given out afterwards may repeat earlier ones; index arrays don't survive a removal anyway.
   findex -= 2 * released - 1;
+}
+
+/// What a node that stands free does when it goes.
+void TEntityTree::ReleaseFreeNode(TTreeNode& aNode) {
+  if (fRemoveAll) return;
+  ReleaseSubtree(aNode);
+  CloseGaps();  // its children know it as their parent
+}
+
+void TEntityTree::CloseChildGaps(TTreeNode& aParentNode) {
+  if (!aParentNode.fHasGaps) return;
+  TIndex kept = 0;
+  for (TTreeNode** child = aParentNode.fChildren; kept < aParentNode.fNumChildNodes; ++child) {
+    if ((*child)->ftree != nullptr) aParentNode.fChildren[kept++] = *child;
+  }
+  aParentNode.fHasGaps = false;
+}
+
+void TEntityTree::CloseGaps() {
   const auto isReleased = [](const TTreeNode* node) { return node->ftree == nullptr; };
   std::erase_if(fRegionNodes, isReleased);
   std::erase_if(fFreeParents, isReleased);
+  for (const TTreeNode* node : fTreeNodes) {
+    if (isReleased(node)) CloseChildGaps(*node->fParent);
+  }
   auto kept = fTreeNodes.begin();
   for (TTreeNode* node : fTreeNodes) {
     if (isReleased(node)) {
@@ -174,6 +202,7 @@ void TEntityTree::ReleaseSubtree(TTreeNode& aNode) {
     }
   }
   fTreeNodes.erase(kept, fTreeNodes.end());
+  fReleasedNodes = 0;
 }
 
 void TEntityTree::DestroyNode(TTreeNode& aNode) {
@@ -186,6 +215,7 @@ void TEntityTree::DestroyNode(TTreeNode& aNode) {
 }
 
 void TEntityTree::Clear() {
+  CloseGapsIfAny();
   ++fNestingChanges;
   fRemoveAll = true;
   findex = 0;
@@ -281,6 +311,7 @@ void TEntityTree::ResetTravelledFlag(TIndex aIndex) {
 
 TTreeNode* TEntityTree::GetNodeFromIndex(TIndex aIndex) const {
   MakePendingNodes();
+  CloseGapsIfAny();
   return IsIndexWithin(aIndex, fTreeNodes.size()) ? fTreeNodes[static_cast<std::size_t>(aIndex)] : nullptr;
 }
 
@@ -301,7 +332,7 @@ TTreeNode* TEntityTree::Item(TIndex aIndex) const {
 
 TIndex TEntityTree::GetCount() const {
   MakePendingNodes();
-  return ToIndex(fTreeNodes.size());
+  return ToIndex(fTreeNodes.size() - fReleasedNodes);
 }
 
 TIndex TEntityTree::Count() const {
@@ -337,15 +368,16 @@ TTreeNode::TTreeNode(TEntityTree* aTree) : ftree(aTree) {
 }
 
 TTreeNode::~TTreeNode() {
-  if (ftree != nullptr) ftree->ReleaseSubtree(*this);
+  if (ftree != nullptr) ftree->ReleaseFreeNode(*this);
 }
 
 void TTreeNode::NoteNestingChange() const {
   if (ftree != nullptr) ++ftree->fNestingChanges;
 }
 
-void TTreeNode::MakePendingChildren() const {
-  ftree->MakePendingNodes();
+void TTreeNode::SettleChildren() const {
+  if (fIsPending) ftree->MakePendingNodes();
+  TEntityTree::CloseChildGaps(const_cast<TTreeNode&>(*this));
 }
 
 TTreeNode::TRegionFields& TTreeNode::RegionFields() {

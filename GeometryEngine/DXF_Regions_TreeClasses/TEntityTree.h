@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <memory>
 #include <memory_resource>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -48,7 +49,7 @@ class TVertexGraph;
 /// root. When memory runs out then, that look throws, and the next one tries again.
 ///
 /// OWNS: its nodes, from AddTreeNode on until they are removed, cleared or go with the tree; not the storage.
-/// COST: each search compares node after node.
+/// COST: each search compares node after node; a node added in the middle moves the siblings behind it.
 class GEOMETRYENGINE_API TEntityTree {
  public:
   /// A tree with its root alone and without a storage. The root has level 0 and the region index -2.
@@ -69,6 +70,8 @@ class GEOMETRYENGINE_API TEntityTree {
   /// Destroys the node. Its children go with it, all the way down, or become the last children of its parent; only they
   /// themselves then get a new level, not what lies below them. DEGENERATE: nothing happens for the root, for nil and
   /// for a node that is not in the flat list.
+  /// COST: constant, with what lies below the node and what it hands over; lists close their gaps when they are next
+  /// read, in time proportional to their length.
   void RemoveTreeNode(TTreeNode* aNode, bool aRemoveChildren);
   /// Destroys every node but the root and starts absolute indexes from 0 again.
   /// From the second Clear on the first node of the list is not destroyed: it drops out of the tree, without children,
@@ -133,9 +136,15 @@ class GEOMETRYENGINE_API TEntityTree {
   void* TakeSlot();
   void MakeRoomForChildren(TTreeNode& aParentNode, std::size_t aCount);
   void AttachChild(TTreeNode& aParentNode, TTreeNode& aNode, TIndex aIndex);
-  void DetachChild(TTreeNode& aParentNode, const TTreeNode& aNode);
-  void HandChildrenTo(TTreeNode& aParentNode, TTreeNode& aNode);
+  void AttachChildren(TTreeNode& aParentNode, std::span<TTreeNode* const> aNodes);
+  bool IsListed(const TTreeNode& aNode) const;
   void ReleaseSubtree(TTreeNode& aNode);
+  void ReleaseFreeNode(TTreeNode& aNode);
+  static void CloseChildGaps(TTreeNode& aParentNode);
+  void CloseGaps();
+  void CloseGapsIfAny() const {
+    if (fReleasedNodes > 0) const_cast<TEntityTree*>(this)->CloseGaps();
+  }
   void DestroyNode(TTreeNode& aNode);
   void ReleaseAllNodes();
   void EmptyChildLists();
@@ -148,7 +157,8 @@ class GEOMETRYENGINE_API TEntityTree {
   }
 
   std::unique_ptr<TTreeNode> fRootNode;
-  std::vector<TTreeNode*> fTreeNodes;
+  std::vector<TTreeNode*> fTreeNodes;  ///< the flat list, and between its nodes those released since it was last read
+  std::size_t fReleasedNodes = 0;      ///< in the list, of no tree any longer, and destroyed once its gaps are closed
   std::uint64_t fNestingChanges = 0;
   TIndex findex = 0;        ///< the absolute index of the next node
   bool fRemoveAll = false;  ///< true while all nodes go; they then leave the tree's lists alone

@@ -40,7 +40,7 @@ std::int32_t TTreeNode::Level() const {
 }
 
 TIndex TTreeNode::GetCount() const {
-  if (fIsPending) MakePendingChildren();
+  if (fIsPending) SettleChildren();
   return fNumChildNodes;
 }
 
@@ -49,12 +49,12 @@ TIndex TTreeNode::Count() const {
 }
 
 std::span<TTreeNode* const> TTreeNode::Children() const {
-  if (fIsPending) MakePendingChildren();
+  if (fIsPending || fHasGaps) SettleChildren();
   return {fChildren, static_cast<std::size_t>(fNumChildNodes)};
 }
 
 TTreeNode* TTreeNode::GetNode(TIndex aIndex) const {
-  if (fIsPending) MakePendingChildren();
+  if (fIsPending || fHasGaps) SettleChildren();
   return aIndex >= 0 && aIndex < fNumChildNodes ? fChildren[aIndex] : nullptr;
 }
 

@@ -119,7 +119,8 @@ class GEOMETRYENGINE_API TTreeNode {
   const TRegionFields& RegionFields() const;
   TRegionFields& RegionFields();
   void NoteNestingChange() const;
-  void MakePendingChildren() const;
+  /// Makes the children that are pending, and closes the gaps that removed ones have left.
+  void SettleChildren() const;
 
   TEntityTree* ftree;
   TTreeNode* fParent = nullptr;
@@ -135,6 +136,7 @@ class GEOMETRYENGINE_API TTreeNode {
   std::int32_t fRegionIndex = 0;
   bool fTravelled = false;
   bool fIsPending = false;  ///< true for the root of a tree that makes its nodes when somebody looks at them
+  bool fHasGaps = false;    ///< true while nodes that have been removed still stand among the children
   bool fIsPooled = false;   ///< true for a node in the memory of its tree, which doesn't destroy nodes one by one
 };
 

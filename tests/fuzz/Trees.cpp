@@ -125,6 +125,19 @@ void NameRegion(TTree_Geometry& aTree, Bytes& aBytes) {
   region->IsOfType_WithinSet(TGeometryRegionTypesSet::All());
 }
 
+/// Children of one node and then itself, without a look at the tree in between.
+void RemoveDetectionNodes(TEntityTree& aTree, TTreeNode* aNode, Bytes& aBytes) {
+  if (aNode != nullptr) {
+    TTreeNode* const first = aNode->GetNode(aBytes.Index());
+    TTreeNode* const second = aNode->GetNode(aBytes.Index());
+    const TIndex count = aNode->Count() - (first != nullptr ? 1 : 0) - (second != nullptr && second != first ? 1 : 0);
+    aTree.RemoveTreeNode(first, true);
+    if (second != first) aTree.RemoveTreeNode(second, true);
+    Require(aNode->Count() == count, "a node that is removed is counted off");
+  }
+  aTree.RemoveTreeNode(aNode, aBytes.Flag());
+}
+
 void ChangeDetectionTree(TEntityTree& aTree, TEntityStorage& aStorage, Bytes& aBytes) {
   TTreeNode* node = aTree.GetNodeFromIndex(aBytes.Index());
   const TIndex count = aTree.GetCount();
@@ -136,7 +149,7 @@ void ChangeDetectionTree(TEntityTree& aTree, TEntityStorage& aStorage, Bytes& aB
       if (count < kMostNodes) aTree.AddTreeNode_AtIndex(node, aBytes.Index());
       break;
     case 2:
-      aTree.RemoveTreeNode(node, aBytes.Flag());
+      RemoveDetectionNodes(aTree, node, aBytes);
       break;
     case 3:
       aTree.Clear();
