@@ -30,6 +30,9 @@ class TwinChain {
     return std::move(fRecord);
   }
 
+  /// Offsets that were not asked for.
+  unsigned long OffsetsLeftOut() const { return fOffsetsLeftOut; }
+
  private:
   using Storage = typename TEngine::Storage;
   using Region = typename TEngine::Region;
@@ -117,9 +120,19 @@ class TwinChain {
     storage.AddEntities(fChain.entities);
     constexpr double kDistances[] = {0.5, -0.5, 3, -3, 0.001, 60, 0};
     for (int i = 0; i < 2; ++i) {
-      storage.Offset(kDistances[Whole(0, static_cast<int>(std::size(kDistances)) - 1)]);
+      OffsetIfAffordable(storage, kDistances[Whole(0, static_cast<int>(std::size(kDistances)) - 1)]);
       fRecord.Section("offset", i);
       fRecord.Add("entity", storage.EntityArray());
+    }
+  }
+
+  /// A plain offset looks for each point of an outline among all of them, and a huge arc has a million.
+  void OffsetIfAffordable(Storage& aStorage, double aDistance) {
+    constexpr std::size_t kMostPoints = 10'000;
+    if (aStorage.GetVertices_Surf(false).size() <= kMostPoints) {
+      aStorage.Offset(aDistance);
+    } else {
+      ++fOffsetsLeftOut;
     }
   }
 
@@ -144,7 +157,7 @@ class TwinChain {
     if (fRandom.Chance(0.15)) {
       Storage& internal = region.Entities_Internal();
       internal.AddEntities(fChain.entities);
-      internal.Offset(-5);
+      OffsetIfAffordable(internal, -5);
       internal.StartCoordinate(internal.GetStartCoordinate());
     }
     for (int i = fRandom.Chance(0.3) ? Whole(1, 2) : 0; i > 0; --i) AddChild(tree, region);
@@ -169,7 +182,7 @@ class TwinChain {
   void AddChild(typename TEngine::RegionTree& aTree, Region& aParent) {
     Region& child = *TEngine::AddRegion(aTree);
     child.Entities().AddEntities(fChain.entities);
-    child.Entities().Offset(-3.0 * Whole(1, 5));
+    OffsetIfAffordable(child.Entities(), -3.0 * Whole(1, 5));
     child.Entities().StartCoordinate(child.Entities().GetStartCoordinate());
     TEngine::Attach(aTree, &child, &aParent);
   }
@@ -201,6 +214,7 @@ class TwinChain {
   Random fRandom;
   Storage fStorage;
   TwinRecord fRecord;
+  unsigned long fOffsetsLeftOut = 0;
 };
 
 }  // namespace GeometryEngine::properties
