@@ -3,7 +3,7 @@
 #include <cmath>
 #include <utility>
 
-#include "GeometryEngine/DXF_Regions_TreeClasses/detail/FetchAhead.h"
+#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TRegionEntities.h"
 #include "GeometryEngine/FloatingPoint/TFloatEnvironment.h"
 
 namespace GeometryEngine {
@@ -11,9 +11,10 @@ namespace GeometryEngine {
 namespace {
 
 TEntityArray GetRegionEntities(const TEntityTree& aRegionTree, const TTreeNode& aRegion) {
+  const detail::TRegionEntities walked(aRegionTree, aRegion);
   TEntityArray entities;
-  entities.reserve(static_cast<std::size_t>(aRegion.Count()));
-  for (const TTreeNode* child : aRegion.Children()) entities.push_back(aRegionTree.GetNodeEntity(*child));
+  entities.reserve(walked.size());
+  for (std::size_t i = 0; i < walked.size(); ++i) entities.push_back(walked[i]);
   return entities;
 }
 
@@ -80,7 +81,7 @@ void TEntityBaseClass::AddRegionEntities(TTreeNode_Geometry* aRegion, TIndex aRe
   if (aRegion == nullptr || region == nullptr) return;
   const TFloatEnvironment environment;
   if (const TTreeNode* next = fRegionTree.RootNode()->GetNode(aRegionIndex + 1)) {
-    detail::FetchEntitiesAhead(fRegionTree, *next);  // hosts take region after region
+    detail::TRegionEntities(fRegionTree, *next).FetchAhead();  // hosts take region after region
   }
   TEntityArray chain = GetRegionEntities(fRegionTree, *region);
   const bool closed = aRegion->RegionPolyType() == ptClosed;

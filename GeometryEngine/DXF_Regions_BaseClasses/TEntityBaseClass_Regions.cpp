@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "GeometryEngine/DXF_Entity_Types/detail/TEntityIndex.h"
@@ -47,20 +48,15 @@ class TKeptLoops {
   explicit TKeptLoops(const detail::TVertexGraph& aGraph) : fGraph(aGraph) {}
 
   void Add(detail::TGraphWalk& aWalk, double aArea) {
-    for (const TIndex h : aWalk.Path()) fEntities.push_back(fGraph.HalfEdge(h).fEntityIndex);
-    fLoops.push_back({StartOf(fGraph, aWalk), aWalk.GetCentroid(aArea), aArea, fEntities.size()});
+    for (const TIndex h : aWalk.Path()) fEntities.fEntityIndexes.push_back(fGraph.HalfEdge(h).fEntityIndex);
+    fEntities.fFirst.push_back(fEntities.fEntityIndexes.size());
+    fLoops.push_back({StartOf(fGraph, aWalk), aWalk.GetCentroid(aArea), aArea});
   }
 
-  void FillTree(TEntityTree& aRegionTree) const {
-    detail::TNodeBatch nodes(aRegionTree, fLoops.size(), fEntities.size());
-    std::size_t entity = 0;
-    for (const auto& [start, centroid, area, endOfEntities] : fLoops) {
-      const detail::TNodeBatch::TParent region = nodes.AddToRoot(ToIndex(endOfEntities - entity));
-      SetRegion(*region.fNode, start, centroid, area);
-      for (TIndex place = 0; entity < endOfEntities; ++place) {
-        nodes.Add(region, place).EntityIndex(fEntities[entity++]);
-      }
-    }
+  void MoveToTree(TEntityTree& aRegionTree) {
+    detail::TNodeBatch nodes(aRegionTree, fLoops.size(), 0);
+    for (const auto& [start, centroid, area] : fLoops) SetRegion(*nodes.AddToRoot(0).fNode, start, centroid, area);
+    nodes.AddPending(std::move(fEntities));
   }
 
  private:
@@ -68,12 +64,11 @@ class TKeptLoops {
     TEntityCoordinate fStart;
     TEntityCoordinate fCentroid;
     double fArea;
-    std::size_t fEndOfEntities;
   };
 
   const detail::TVertexGraph& fGraph;
   std::vector<TLoop> fLoops;
-  std::vector<TIndex> fEntities;  // of the loops, one after the other
+  detail::TPendingLeaves fEntities{{}, {0}};
 };
 
 // The open chains found so far, to recognise one that is walked from its other end.
@@ -125,7 +120,7 @@ void TEntityBaseClass::DetermineRegions(TEntityTree& aTree, std::int32_t aRegion
     if (!tracing.Trace(h, wantsNegative) || !IsWanted(tracing.Area(), aRegionType)) continue;
     loops.Add(tracing.Walk(), tracing.Area());
   }
-  loops.FillTree(fRegionTree);
+  loops.MoveToTree(fRegionTree);
   tracing.Walk().WriteMarks();
   pass.Done();
 }

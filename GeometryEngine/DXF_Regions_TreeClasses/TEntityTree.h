@@ -23,6 +23,8 @@ namespace GeometryEngine {
 namespace detail {
 class TNodeBatch;
 class TPendingNodes;
+class TRegionEntities;
+struct TPendingLeaves;
 class TVertexGraph;
 }  // namespace detail
 
@@ -117,6 +119,7 @@ class GEOMETRYENGINE_API TEntityTree {
   friend class TEntityBaseClass;
   friend class TTreeNode;
   friend class detail::TNodeBatch;
+  friend class detail::TRegionEntities;
   friend class detail::TVertexGraph;
   struct TFreeSlot {
     TFreeSlot* fNext;
@@ -129,8 +132,14 @@ class GEOMETRYENGINE_API TEntityTree {
   /// Called before anything that looks at the nodes: for whoever looks, they have been there all along.
   void MakePendingNodes() const {
     if (fPendingNodes != nullptr) const_cast<TEntityTree*>(this)->AddPendingNodes();
+    if (fPendingLeaves != nullptr) const_cast<TEntityTree*>(this)->AddPendingLeaves();
   }
   void AddPendingNodes();
+  /// Leaves nodes of level 1, the only ones there are, to get their children when somebody first looks at them.
+  void PendingLeaves(std::unique_ptr<detail::TPendingLeaves> aLeaves);
+  /// What the children of this node are among; nil when they are there.
+  static const detail::TPendingLeaves* PendingLeavesOf(const TTreeNode& aNode);
+  void AddPendingLeaves();
   const TDXFEntity& GetEntity(TIndex aIndex) const;
   TTreeNode& MakeNode();
   void* TakeSlot();
@@ -165,6 +174,7 @@ class GEOMETRYENGINE_API TEntityTree {
   std::string fTreeName;
   TEntityStorage* fEntityStorage = nullptr;
   std::unique_ptr<detail::TPendingNodes> fPendingNodes;
+  std::unique_ptr<detail::TPendingLeaves> fPendingLeaves;
 
   /// Memory of the nodes and of their lists of children. The other one is empty, or holds the dropped node.
   std::array<std::pmr::monotonic_buffer_resource, 2> fMemories;

@@ -135,7 +135,7 @@ class GEOMETRYENGINE_API TTreeNode {
   TIndex fEntityIndex = kNotFound;
   std::int32_t fRegionIndex = 0;
   bool fTravelled = false;
-  bool fIsPending = false;  ///< true for the root of a tree that makes its nodes when somebody looks at them
+  bool fIsPending = false;  ///< true while the nodes below it are still to be made
   bool fHasGaps = false;    ///< true while nodes that have been removed still stand among the children
   bool fIsPooled = false;   ///< true for a node in the memory of its tree, which doesn't destroy nodes one by one
 };

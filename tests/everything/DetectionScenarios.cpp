@@ -146,6 +146,7 @@ std::vector<TScenario> DriverScenarios() {
                          [](TBeforeNesting& s) {
                            s.driver->CoordinateTree().RootNode()->Count();
                            s.driver->InterceptTree().RootNode()->Count();
+                           s.driver->RegionTree().RootNode()->GetNode(0)->Count();
                          }),
       On<TBeforeNesting>("IdentifySubRegions", Unchanged,
                          [](TBeforeNesting& s) { s.driver->IdentifySubRegions(s.driver->CoordinateTree()); }),

@@ -9,7 +9,7 @@
 #include "GeometryEngine/DXF_Regions_Detection/detail/TBoxIndex.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/THeightIndex.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TRegionOutline.h"
-#include "GeometryEngine/DXF_Regions_TreeClasses/detail/FetchAhead.h"
+#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TRegionEntities.h"
 
 namespace GeometryEngine::detail {
 
@@ -35,16 +35,22 @@ class TNesting {
   void KeepNested(TIndex aContainer, TIntegerArray& aCandidates) const {
     if (aCandidates.empty()) return;
     for (const TIndex region : aCandidates) {
-      FetchEntitiesAhead(fCoordinateTree, *fRegions[static_cast<std::size_t>(region)]);
+      EntitiesOf(region).FetchAhead();
     }
     TRegionOutline outline(fCoordinateTree, *fRegions[static_cast<std::size_t>(aContainer)]);
     std::erase_if(aCandidates, [&](TIndex region) { return region == aContainer || !LiesInside(region, outline); });
   }
 
+  TRegionEntities EntitiesOf(TIndex aRegion) const {
+    return {fCoordinateTree, *fRegions[static_cast<std::size_t>(aRegion)]};
+  }
+
   bool LiesInside(TIndex aRegion, TRegionOutline& aOutline) const {
-    return std::ranges::all_of(fRegions[static_cast<std::size_t>(aRegion)]->Children(), [&](const TTreeNode* child) {
-      return aOutline.GetWindingNumber(fCoordinateTree.GetNodeEntity(*child).StartCoords) >= 1;
-    });
+    const TRegionEntities entities = EntitiesOf(aRegion);
+    for (std::size_t i = 0; i < entities.size(); ++i) {
+      if (aOutline.GetWindingNumber(entities[i].StartCoords) < 1) return false;
+    }
+    return true;
   }
 
   std::vector<TIntegerArray> FindCandidates() {

@@ -6,7 +6,7 @@
 #include <span>
 
 #include "GeometryEngine/DXF_EntityStorage/detail/OtherEnd.h"
-#include "GeometryEngine/DXF_Regions_TreeClasses/detail/FetchAhead.h"
+#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TRegionEntities.h"
 #include "GeometryEngine/GeometryFuncts/detail/CirclePoint.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/ArcWalking.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ArcAngles.h"
@@ -44,9 +44,10 @@ void Include(TStartPoints& aPoints, const TEntityCoordinate& aPoint) {
 }
 
 TStartPoints GetStartPoints(const TEntityTree& aCoordinateTree, const TTreeNode& aRegion) {
+  const TRegionEntities entities(aCoordinateTree, aRegion);
   TStartPoints points;
-  points.fLieNowhere = aRegion.Children().empty();
-  for (const TTreeNode* child : aRegion.Children()) Include(points, aCoordinateTree.GetNodeEntity(*child).StartCoords);
+  points.fLieNowhere = entities.empty();
+  for (std::size_t i = 0; i < entities.size(); ++i) Include(points, entities[i].StartCoords);
   return points;
 }
 
@@ -75,10 +76,11 @@ class TReachOfRegion {
         fHeightsBefore_Right(aReaches.fOpenToTheRight.size()) {}
 
   TBox Get(const TEntityTree& aCoordinateTree, const TTreeNode& aRegion, TStartPoints& aStartPoints) {
+    const TRegionEntities entities(aCoordinateTree, aRegion);
     TEntityCoordinate from = aRegion.Coordinates();
-    aStartPoints.fLieNowhere = aRegion.Children().empty();
-    for (const TTreeNode* child : aRegion.Children()) {
-      const TDXFEntity& entity = aCoordinateTree.GetNodeEntity(*child);
+    aStartPoints.fLieNowhere = entities.empty();
+    for (std::size_t i = 0; i < entities.size(); ++i) {
+      const TDXFEntity& entity = entities[i];
       Include(aStartPoints, entity.StartCoords);
       const TEntityCoordinate farEnd = GetOtherEnd(from, entity, fTolerance);
       if (entity.EntityType == DXFLine) AddLine(from, farEnd);
@@ -218,7 +220,7 @@ TRegionReaches GetRegionReaches(const TEntityTree& aRegionTree, const TEntityTre
   reaches.fStartPoints.resize(regions.size());
   const bool isTame = tolerance > 0 && tolerance < kLargest;
   for (std::size_t i = 0; i < regions.size(); ++i) {
-    if (i + kRegionsAhead < regions.size()) FetchEntitiesAhead(aCoordinateTree, *regions[i + kRegionsAhead]);
+    if (i + kRegionsAhead < regions.size()) TRegionEntities(aCoordinateTree, *regions[i + kRegionsAhead]).FetchAhead();
     TStartPoints& points = reaches.fStartPoints[i];
     if (isTame) {
       reaches.fBoxes[i] = TReachOfRegion(ToIndex(i), tolerance, reaches).Get(aCoordinateTree, *regions[i], points);

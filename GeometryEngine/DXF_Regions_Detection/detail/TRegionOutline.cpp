@@ -1,6 +1,7 @@
 #include "GeometryEngine/DXF_Regions_Detection/detail/TRegionOutline.h"
 
 #include "GeometryEngine/DXF_EntityStorage/detail/OtherEnd.h"
+#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TRegionEntities.h"
 
 namespace GeometryEngine::detail {
 
@@ -8,11 +9,12 @@ TRegionOutline::TRegionOutline(const TEntityTree& aTree, const TTreeNode& aRegio
     : fTolerance(ReadLinearTolerance()), fEntities(GetEntities(aTree, aRegion)), fTree(GetHeights()) {}
 
 std::vector<TWalkedEntity> TRegionOutline::GetEntities(const TEntityTree& aTree, const TTreeNode& aRegion) const {
+  const TRegionEntities walked(aTree, aRegion);
   std::vector<TWalkedEntity> entities;
-  entities.reserve(aRegion.Children().size());
+  entities.reserve(walked.size());
   TEntityCoordinate from = aRegion.Coordinates();
-  for (const TTreeNode* child : aRegion.Children()) {
-    const TDXFEntity& entity = aTree.GetNodeEntity(*child);
+  for (std::size_t i = 0; i < walked.size(); ++i) {
+    const TDXFEntity& entity = walked[i];
     const TEntityCoordinate farEnd = GetOtherEnd(from, entity, fTolerance);
     if (entity.EntityType == DXFLine || entity.EntityType == DXFArc) {
       entities.emplace_back(entity, from, farEnd, fTolerance);

@@ -1,5 +1,8 @@
 #include "GeometryEngine/DXF_Regions_TreeClasses/detail/TNodeBatch.h"
 
+#include <memory>
+#include <utility>
+
 namespace GeometryEngine::detail {
 
 TNodeBatch::TNodeBatch(TEntityTree& aTree, std::size_t aRootChildren, std::size_t aOthers)
@@ -29,6 +32,12 @@ TTreeNode& TNodeBatch::Add(const TParent& aParent, TIndex aPlace) {
   aParent.fChildren[aPlace] = &node;
   node.fLevel = 2;
   return node;
+}
+
+void TNodeBatch::AddPending(TPendingLeaves aLeaves) {
+  auto leaves = std::make_unique<TPendingLeaves>(std::move(aLeaves));
+  fTree.findex = 0;
+  fTree.PendingLeaves(std::move(leaves));
 }
 
 TTreeNode& TNodeBatch::MakeNode(TTreeNode& aParent, TIndex aPlace) {

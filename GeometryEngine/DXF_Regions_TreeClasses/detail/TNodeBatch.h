@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "GeometryEngine/DXF_Regions_TreeClasses/TEntityTree.h"
+#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TPendingLeaves.h"
 
 namespace GeometryEngine::detail {
 
@@ -26,6 +27,9 @@ class TNodeBatch {
   TParent AddToRoot(TIndex aChildren);
   /// A new node of level 2. REQUIRES: each place below a parent is taken once.
   TTreeNode& Add(const TParent& aParent, TIndex aPlace);
+  /// All nodes of level 2, to be made when somebody first looks at them. REQUIRES: all of level 1, added without
+  /// children to a tree that has been cleared.
+  void AddPending(TPendingLeaves aLeaves);
 
  private:
   TTreeNode& MakeNode(TTreeNode& aParent, TIndex aPlace);
