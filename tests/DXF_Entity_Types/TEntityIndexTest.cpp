@@ -6,6 +6,7 @@
 #include <set>
 
 #include "tests/support/Geometry.h"
+#include "tests/support/Repetitions.h"
 #include "tests/support/Settings.h"
 
 namespace GeometryEngine {
@@ -49,8 +50,8 @@ TEST(TEntityIndex, AnswersWhatALinearSearchAnswers) {
   int hits = 0;
   for (const double tolerance : {1e-3, 0.5, 1e-9}) {
     settings.With(ifLinearTolerance, tolerance);
-    for (std::uint32_t seed = 0; seed < 30; ++seed) {
-      std::mt19937 random(seed);
+    for (int seed = support::Repetitions(30); seed > 0; --seed) {
+      std::mt19937 random(static_cast<std::uint32_t>(seed));
       TEntityArray entities;
       TEntityIndex index;
       for (int i = 0; i < 150; ++i) {

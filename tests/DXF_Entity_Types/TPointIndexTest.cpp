@@ -6,6 +6,7 @@
 #include <random>
 #include <vector>
 
+#include "tests/support/Repetitions.h"
 #include "tests/support/Settings.h"
 
 namespace GeometryEngine {
@@ -59,9 +60,9 @@ TEST(TPointIndex, AnswersWhatALinearSearchAnswers) {
   TAnswers total;
   for (const double tolerance : {1e-3, 0.5, 1e-9, 1.0 / 3, 1e-300, 1e300}) {
     settings.With(ifLinearTolerance, tolerance);
-    for (std::uint32_t seed = 0; seed < 40; ++seed) {
+    for (int seed = support::Repetitions(40); seed > 0; --seed) {
       for (const double origin : {0.0, 1234.56789, -1e6}) {
-        const TAnswers answers = CompareOnLattice(tolerance, origin, seed);
+        const TAnswers answers = CompareOnLattice(tolerance, origin, static_cast<std::uint32_t>(seed));
         EXPECT_EQ(answers.fDifferences, 0) << "tolerance " << tolerance << " origin " << origin << " seed " << seed;
         total.fSearches += answers.fSearches;
         total.fHits += answers.fHits;

@@ -13,6 +13,7 @@
 
 #include "GeometryEngine/GeometryEngine_Tree_MotorProperties/TTree_CoreProperties.h"
 #include "tests/support/Regions.h"
+#include "tests/support/Repetitions.h"
 #include "tests/support/Settings.h"
 
 namespace GeometryEngine {
@@ -97,9 +98,9 @@ class ChangingTree {
 };
 
 TEST(ManyNames, AreThoseOfTheLoopOverAllCandidatesAndNodes) {
-  for (unsigned seed = 0; seed < 2000; ++seed) {
+  for (int seed = support::Repetitions(1000); seed > 0; --seed) {
     SCOPED_TRACE(seed);
-    ChangingTree tree(seed);
+    ChangingTree tree(static_cast<unsigned>(seed));
     for (int step = 0; step < 40; ++step) {
       tree.Step();
       if (step % 4 == 3) tree.ExpectPlainNames();

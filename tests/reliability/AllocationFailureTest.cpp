@@ -1,6 +1,6 @@
-// Every operation, with its first, second, third ... allocation failing until it needs no more (of operations with very
-// many of them the later ones by sample): nothing but the
-// standard exception comes out, nothing leaks, and the objects are as promised.
+// Every operation, with its first, second, third ... allocation failing until it needs no more: nothing but the
+// standard exception comes out, nothing leaks, and the objects are as promised. Of operations with more than two
+// hundred allocations the later ones fail by sample, with tools/reliability all of them.
 
 #include <new>
 
@@ -9,6 +9,7 @@
 #include "tests/everything/Scenarios.h"
 #include "tests/reliability/Allocations.h"
 #include "tests/reliability/ScenarioNames.h"
+#include "tests/support/Repetitions.h"
 
 using everything::TGuarantee;
 using everything::TScenario;
@@ -20,10 +21,9 @@ using GeometryEngine::support::TFailure;
 namespace {
 
 constexpr std::int64_t kMostAllocations = 100000;  // of one operation
-constexpr std::int64_t kEachByItself = 200;        // of the later ones every so many
 
 std::int64_t Next(std::int64_t aNumber) {
-  return aNumber + 1 + (aNumber < kEachByItself ? 0 : aNumber / 40);
+  return aNumber + 1 + (aNumber < GeometryEngine::support::Repetitions(200) ? 0 : aNumber / 40);
 }
 
 std::uint64_t Seen(TSubject& aSubject) {

@@ -4,7 +4,7 @@
 
 #include "tests/everything/Observations.h"
 #include "tests/reliability/Allocations.h"
-#include "tests/reliability/Repetitions.h"
+#include "tests/support/Repetitions.h"
 
 using namespace GeometryEngine;
 using support::LiveAllocations;

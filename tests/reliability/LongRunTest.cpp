@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "GeometryEngine/GeometryEngine.h"
-#include "tests/reliability/Repetitions.h"
+#include "tests/support/Repetitions.h"
 #include "tests/support/RunWithStack.h"
 
 using namespace GeometryEngine;

@@ -7,8 +7,8 @@
 #include <gtest/gtest.h>
 
 #include "tests/everything/Scenarios.h"
-#include "tests/reliability/Repetitions.h"
 #include "tests/reliability/ScenarioNames.h"
+#include "tests/support/Repetitions.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "tests/reliability/Repetitions.h"
+#include "tests/support/Repetitions.h"
 
 #include <cstdlib>
 
