@@ -1,5 +1,8 @@
 #include "tests/reliability/Allocations.h"
 
+#include <malloc.h>
+
+#include <algorithm>
 #include <atomic>
 #include <cstdlib>
 #include <limits>
@@ -8,7 +11,8 @@
 namespace {
 
 std::atomic<std::int64_t> live_allocations{0};
-thread_local std::int64_t made = 0;
+std::atomic<std::int64_t> live_bytes{0};
+thread_local std::int64_t most_bytes = 0;
 thread_local std::int64_t left = 0;  // allocations until the one that fails; 0: none does
 thread_local bool for_good = false;
 thread_local bool has_failed = false;
@@ -21,18 +25,23 @@ bool Fails() {
   return true;
 }
 
+std::int64_t BytesOf(void* aMemory) {
+  return static_cast<std::int64_t>(malloc_usable_size(aMemory));
+}
+
 void* Allocate(std::size_t aSize) {
   if (Fails() || aSize > largest) return nullptr;
   void* memory = std::malloc(aSize == 0 ? 1 : aSize);
   if (memory == nullptr) return nullptr;
-  ++made;
   live_allocations.fetch_add(1, std::memory_order_relaxed);
+  most_bytes = std::max(most_bytes, live_bytes += BytesOf(memory));
   return memory;
 }
 
 void Free(void* aMemory) {
   if (aMemory == nullptr) return;
   live_allocations.fetch_sub(1, std::memory_order_relaxed);
+  live_bytes -= BytesOf(aMemory);
   std::free(aMemory);
 }
 
@@ -65,8 +74,8 @@ std::int64_t LiveAllocations() {
   return live_allocations.load(std::memory_order_relaxed);
 }
 
-std::int64_t AllocationsOfThread() {
-  return made;
+std::int64_t LiveBytes() {
+  return live_bytes;
 }
 
 TFailingAllocation::TFailingAllocation(std::int64_t aNumber, TFailure aFailure) {
@@ -83,6 +92,14 @@ TFailingAllocation::~TFailingAllocation() {
 
 bool TFailingAllocation::HasFailed() const {
   return has_failed;
+}
+
+TMostMemory::TMostMemory() : fBefore(live_bytes) {
+  most_bytes = fBefore;
+}
+
+std::int64_t TMostMemory::Bytes() const {
+  return most_bytes - fBefore;
 }
 
 TLargestAllocation::TLargestAllocation(std::size_t aBytes) {

@@ -11,8 +11,8 @@ namespace GeometryEngine::support {
 /// How many allocations of the process are not freed yet.
 std::int64_t LiveAllocations();
 
-/// How many allocations the calling thread has made.
-std::int64_t AllocationsOfThread();
+/// What they take, in bytes.
+std::int64_t LiveBytes();
 
 enum class TFailure { Once, ForGood };
 
@@ -27,6 +27,16 @@ class TFailingAllocation {
 
   /// Whether that many allocations have been asked for.
   bool HasFailed() const;
+};
+
+/// How many bytes more than at its beginning the process has held at most, as the calling thread's allocations saw it.
+class TMostMemory {
+ public:
+  TMostMemory();
+  std::int64_t Bytes() const;
+
+ private:
+  std::int64_t fBefore;
 };
 
 /// While it lives, the calling thread's allocations of more bytes than these throw std::bad_alloc, as in a host with

@@ -12,6 +12,7 @@
 
 using namespace GeometryEngine;
 using support::TLargestAllocation;
+using support::TMostMemory;
 
 namespace {
 
@@ -64,6 +65,21 @@ TEST(Counts, OfCopiesOfAnEmptyChainCostNothing) {
   chain.DuplicateAroundAxis(INT_MAX, INT_MAX, 1, true);
   chain.DuplicateAlongAxis(INT_MAX, 1);
   EXPECT_EQ(chain.GetCount(), 0);
+}
+
+TEST(Counts, OfSquaresInThePoleSearchTakeLessThan100MB) {
+  for (const double length : {1e6, 1e9}) {
+    TEntityStorage box;
+    box.AddEntities({CreateEntity_Line(0, 0, length, 0), CreateEntity_Line(length, 0, length, 1),
+                     CreateEntity_Line(length, 1, 0, 1), CreateEntity_Line(0, 1, 0, 0)});
+    TPoleRegion region;
+    region.fOutline = &box;
+    region.fSearchable = true;
+    const TMostMemory memory;
+    const TEntityCoordinate pole = FindPoleInaccessibility(region, 1, 0.001);
+    EXPECT_LT(memory.Bytes(), 100'000'000) << length;
+    EXPECT_EQ(pole.y, length == 1e6 ? 0.5 : 0) << length;
+  }
 }
 
 TEST(Counts, OfCopiesOfARegionAreAskedForBeforeAnyIsMade) {

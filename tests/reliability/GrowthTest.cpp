@@ -8,6 +8,7 @@
 
 using namespace GeometryEngine;
 using support::LiveAllocations;
+using support::LiveBytes;
 using support::Repetitions;
 
 namespace {
@@ -17,13 +18,27 @@ TEntityArray Square() {
           CreateEntity_Line(0, 4, 0, 0), CreateEntity_Line(9, 0, 10, 0)};
 }
 
-// What `aCall` keeps after many calls, beyond what it kept after a few.
+constexpr std::int64_t kMostGrowth = 1'000'000;  // bytes; the same allocation may get a few more than before
+
+// What `aCall` keeps after many calls, beyond what it kept after a few, is nothing.
 template <typename TCall>
-std::int64_t GrowthOver(int aTimes, const TCall& aCall) {
+void ExpectNoGrowthOver(int aTimes, const TCall& aCall) {
   for (int i = 0; i < 4; ++i) aCall();
-  const std::int64_t before = LiveAllocations();
+  const std::int64_t allocations = LiveAllocations();
+  const std::int64_t bytes = LiveBytes();
   for (int i = 0; i < aTimes; ++i) aCall();
-  return LiveAllocations() - before;
+  EXPECT_EQ(LiveAllocations(), allocations);
+  EXPECT_LT(LiveBytes(), bytes + kMostGrowth);
+}
+
+// The allocations that live after a clear of a tree of three nodes, one of which holds a list.
+std::int64_t LiveAfterClear(TEntityTree& aTree, TIndex aNodeWithList) {
+  for (TIndex i = 0; i < 3; ++i) {
+    TTreeNode* node = aTree.AddTreeNode_ToRoot();
+    if (i == aNodeWithList) node->AddSubRegion(7);
+  }
+  aTree.Clear();
+  return LiveAllocations();
 }
 
 }  // namespace
@@ -34,7 +49,18 @@ TEST(Growth, OfADetectionTreeThatIsFilledAndClearedIsNone) {
     for (int i = 0; i < 3; ++i) tree.AddTreeNode(tree.AddTreeNode_ToRoot());
     tree.Clear();
   };
-  EXPECT_EQ(GrowthOver(Repetitions(10'000), fillAndClear), 0);
+  ExpectNoGrowthOver(Repetitions(10'000), fillAndClear);
+}
+
+// The first clear passes over the root, each later one over a node, which goes with the next.
+TEST(Growth, OfAClearIsTheOneNodeThatItPassesOver) {
+  TEntityTree tree("Tree");
+  const std::int64_t fresh = LiveAfterClear(tree, 0);
+  LiveAfterClear(tree, 1);
+  const std::int64_t without = LiveAfterClear(tree, 1);
+  EXPECT_EQ(fresh, without - 1) << "every node has gone; since then one is kept";
+  EXPECT_EQ(LiveAfterClear(tree, 0), without + 2) << "and its list with it";
+  EXPECT_EQ(LiveAfterClear(tree, 2), without);
 }
 
 TEST(Growth, OfADriverThatDetectsAgainAndAgainIsNone) {
@@ -47,7 +73,7 @@ TEST(Growth, OfADriverThatDetectsAgainAndAgainIsNone) {
     driver.IdentifySubRegions(driver.CoordinateTree());
     driver.RemoveDuplicatedSubRegions();
   };
-  EXPECT_EQ(GrowthOver(Repetitions(10'000), detect), 0);
+  ExpectNoGrowthOver(Repetitions(10'000), detect);
   EXPECT_EQ(driver.RegionTree().RootNode()->Count(), 1);
 }
 
@@ -59,7 +85,7 @@ TEST(Growth, OfDriversThatComeAndGoIsNone) {
     driver.DetermineInterceptions(&drawing);
     driver.DetermineRegions(driver.CoordinateTree(), 1);
   };
-  EXPECT_EQ(GrowthOver(Repetitions(100), detect), 0);
+  ExpectNoGrowthOver(Repetitions(100), detect);
 }
 
 TEST(Growth, OfARegionTreeThatIsFilledNamedAndClearedIsNone) {
@@ -74,5 +100,5 @@ TEST(Growth, OfARegionTreeThatIsFilledNamedAndClearedIsNone) {
     tree.RemoveFreeTreeNode(tree.GetNodeFromIndex(2), true);
     tree.Clear();
   };
-  EXPECT_EQ(GrowthOver(Repetitions(10'000), fillAndClear), 0);
+  ExpectNoGrowthOver(Repetitions(10'000), fillAndClear);
 }
