@@ -1,6 +1,8 @@
 // Settings of every kind, in pairs, and changed between every two calls of a detection: each call ends, and what it
 // leaves can be used.
 
+#include <algorithm>
+#include <functional>
 #include <limits>
 #include <string>
 
@@ -8,6 +10,8 @@
 
 #include "GeometryEngine/host/TDataStore.h"
 #include "tests/everything/Observations.h"
+#include "tests/support/Detection.h"
+#include "tests/support/Repetitions.h"
 #include "tests/support/Settings.h"
 
 using namespace GeometryEngine;
@@ -36,35 +40,13 @@ TEntityArray SmallDrawing() {
   return drawing;
 }
 
-// The passes of a detection, with `aBetween` called between each two of them; the number of regions.
-template <typename TBetween>
-TIndex DetectAll(const TEntityArray& aDrawing, const TBetween& aBetween) {
-  TEntityStorage drawing;
-  drawing.AddEntities(aDrawing);
+// The number of regions.
+TIndex DetectAll(
+    const TEntityArray& aDrawing, const std::function<void()>& aBetween = [] {}) {
   TEntityBaseClass driver;
-  driver.DetermineInterceptions(&drawing);
-  aBetween();
-  driver.DetermineRegions(driver.CoordinateTree(), 0);
-  aBetween();
-  driver.IdentifySubRegions(driver.CoordinateTree());
-  aBetween();
-  driver.RemoveDuplicatedSubRegions();
-  TTree_Geometry tree;
-  const TIndex regions = driver.RegionTree().RootNode()->Count();
-  for (TIndex i = 0; i < regions; ++i) {
-    auto node = tree.CreateTreeNode();
-    auto* region = TTreeNode_Geometry::TypeCast(tree.AddNewTreeNode(node));
-    driver.AddRegionEntities(region, i);
-    aBetween();
-    region->UpdateGeometry_Outputs();
-    region->SetRegionName("Region");
-  }
-  aBetween();
-  driver.DetermineInterceptions(&drawing);
-  aBetween();
-  driver.DetectOrphanEntities(driver.CoordinateTree());
+  support::RunEveryPass(driver, aDrawing, aBetween);
   for (const TMachineLocation location : {mlShaft, mlArmature, mlField}) GetDuplicationNumber_Regions(location);
-  return regions;
+  return driver.RegionTree().RootNode()->Count();
 }
 
 class SettingsMatrix : public testing::TestWithParam<Maindataenum::TInputFields> {
@@ -80,18 +62,18 @@ std::string NameOf(const testing::TestParamInfo<Maindataenum::TInputFields>& aIn
 
 TEST_P(SettingsMatrix, OfTwoFieldsEndsAndLeavesADriverThatDetectsAgain) {
   const TEntityArray drawing = SmallDrawing();
-  const TIndex expected = DetectAll(drawing, [] {});
+  const TIndex expected = DetectAll(drawing);
   ASSERT_GT(expected, 3);
   for (const auto other : kFields) {
     for (const double value : kValues) {
       for (const double second : {-1.0, 0.3, kNotANumber}) {
         fSettings.With(GetParam(), ValueFor(GetParam(), value)).With(other, second);
-        EXPECT_LE(DetectAll(drawing, [] {}), 200);
+        EXPECT_LE(DetectAll(drawing), 200);
         Kelvaralinks::dataStore.Reset();
       }
     }
   }
-  EXPECT_EQ(DetectAll(drawing, [] {}), expected);
+  EXPECT_EQ(DetectAll(drawing), expected);
 }
 
 TEST_P(SettingsMatrix, ChangedBetweenEveryTwoCallsEnds) {
@@ -107,7 +89,28 @@ TEST_P(SettingsMatrix, ChangedBetweenEveryTwoCallsEnds) {
       Kelvaralinks::dataStore.Reset();
     }
   }
-  EXPECT_GT(DetectAll(drawing, [] {}), 3);
+  EXPECT_GT(DetectAll(drawing), 3);
 }
 
 INSTANTIATE_TEST_SUITE_P(Fields, SettingsMatrix, testing::ValuesIn(kFields), NameOf);
+
+// The two tolerances, the snapping mode and the resolution of arcs, each at every value with every value of the others:
+// every ninety-seventh of the 5184, all with tools/reliability.
+TEST(LongRun, EveryFourFieldsTogetherEnd) {
+  constexpr double kTolerances[] = {1e-4, 0,   -1,    1e-300,    5e-324,     1e-12,
+                                    0.5,  1e9, 1e300, kInfinity, -kInfinity, kNotANumber};
+  constexpr double kModes[] = {0, 1, 2, kNotANumber};
+  constexpr double kResolutions[] = {5, 0, -1, 1e-300, 0.3, 50, 1000, -kInfinity, kNotANumber};
+  constexpr std::size_t kAll = 12 * 12 * 4 * 9;
+  support::TSettingsGuard settings;
+  const TEntityArray drawing = SmallDrawing();
+  const TIndex expected = DetectAll(drawing);
+  const auto step = static_cast<std::size_t>(std::max(1, 97 / support::Repetitions(1)));
+  for (std::size_t i = 0; i < kAll; i += step) {
+    settings.With(ifLinearTolerance, kTolerances[i % 12]).With(ifAngleTolerance, kTolerances[i / 12 % 12]);
+    settings.With(ifSnappingMode, kModes[i / 144 % 4]).With(ifArcResolution, kResolutions[i / 576]);
+    EXPECT_LE(DetectAll(drawing), 200) << i;
+  }
+  Kelvaralinks::dataStore.Reset();
+  EXPECT_EQ(DetectAll(drawing), expected);
+}

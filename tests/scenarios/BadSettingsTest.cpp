@@ -5,13 +5,12 @@
 
 #include <gmock/gmock.h>
 
-#include "GeometryEngine/GeometryEngine_Tree_Geometry/TTree_Geometry.h"
 #include "tests/support/Detection.h"
+#include "tests/support/Geometry.h"
 #include "tests/support/Settings.h"
 
 using namespace GeometryEngine;
 using enum Maindataenum::TInputFields;
-using support::TDetection;
 
 namespace {
 
@@ -27,20 +26,8 @@ constexpr const char* kMixed =
 
 /// Everything that a driver does, one after the other; the loops of both signs.
 std::vector<support::TLoop> RunEverything(const char* aDrawing) {
-  TDetection detection(aDrawing);
-  TEntityBaseClass& driver = detection.driver;
-  driver.DetectOrphanEntities(driver.CoordinateTree());
-  driver.DetermineInterceptions(&detection.drawing);
-  driver.DetermineRegions(driver.CoordinateTree(), 0);
-  driver.IdentifySubRegions(driver.CoordinateTree());
-  driver.RemoveDuplicatedSubRegions();
-  TTree_Geometry tree;
-  for (TIndex i = 0; i < driver.RegionTree().RootNode()->Count(); ++i) {
-    auto node = tree.CreateTreeNode();
-    auto* region = TTreeNode_Geometry::TypeCast(tree.AddNewTreeNode(node));
-    driver.AddRegionEntities(region, i);
-    region->UpdateGeometry_Outputs();
-  }
+  TEntityBaseClass driver;
+  support::RunEveryPass(driver, support::ParseEntities(aDrawing));
   return support::GetLoops(driver);
 }
 
@@ -80,6 +67,18 @@ TEST_P(BadSettings, ArcResolutionDoesNotTouchTheRegions) {
   fSettings.With(ifArcResolution, GetParam());
   EXPECT_EQ(RunEverything(kSquares).size(), 4U);
   EXPECT_GT(RunEverything(kMixed).size(), 4U);
+}
+
+// The far end of every line is looked up among the vertices, and none is found.
+TEST_P(BadSettings, LinearToleranceUnderWhichNothingMeetsEndsChainsOfOneLine) {
+  fSettings.With(ifLinearTolerance, GetParam());
+  support::TDetection apart("L 0,0 1,0; L 2,0 3,0");
+  apart.driver.DetectOrphanEntities(apart.driver.CoordinateTree());
+  for (const support::TLoop& chain : support::GetLoops(apart.driver)) EXPECT_EQ(chain.count, 1);
+  TEntityBaseClass driver;
+  driver.AddEntityToCoordinateTree(driver.CoordinateTree(), support::ParseEntity("L 0,0 1,0"));
+  driver.DetectOrphanEntities(driver.CoordinateTree());
+  for (const support::TLoop& chain : support::GetLoops(driver)) EXPECT_EQ(chain.count, 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(Values, BadSettings, testing::ValuesIn(kSenseless));

@@ -1,7 +1,10 @@
 // Whole drawings and the loops that come out of them, each drawing also shuffled and turned.
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
+#include <iterator>
+#include <limits>
 #include <ostream>
 #include <random>
 #include <string>
@@ -21,11 +24,16 @@ using support::DetectLoops;
 using support::IsLoop;
 using support::ParseEntities;
 using support::TLoop;
+using enum Maindataenum::TInputFields;
 
 namespace {
 
 constexpr double kPi = 3.141592653589793;
 constexpr double kRounding = 1e-9;
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
+constexpr double kTolerances[] = {1e-4,  0,   -1,  kNotANumber, kInfinity, -kInfinity,
+                                  1e300, 1e9, 0.5, 1e-12,       1e-300,    5e-324};
 
 using TExpected = std::pair<TIndex, double>;  // entities, signed area
 
@@ -125,6 +133,12 @@ class ClosedRegions : public testing::TestWithParam<TScenario> {
     for (const auto& [count, area] : aExpected) matchers.push_back(IsLoop(count, area));
     return matchers;
   }
+  /// Of both signs, in ascending order of area.
+  static std::vector<TExpected> All() {
+    std::vector<TExpected> all = GetParam().outlines;
+    all.insert(all.end(), GetParam().faces.begin(), GetParam().faces.end());
+    return all;
+  }
   TEntityArray Drawing() const { return ParseEntities(GetParam().drawing); }
   TEntityArray Turned(double aAngle) const {
     TEntityArray drawing = Drawing();
@@ -155,9 +169,7 @@ TEST_P(ClosedRegions, OutlinesOfConnectedGroupsComeOutClockwise) {
 }
 
 TEST_P(ClosedRegions, BothComeOutTogether) {
-  std::vector<TExpected> all = GetParam().outlines;
-  all.insert(all.end(), GetParam().faces.begin(), GetParam().faces.end());
-  EXPECT_THAT(DetectLoops(Drawing(), 0), testing::ElementsAreArray(Loops(all)));
+  EXPECT_THAT(DetectLoops(Drawing(), 0), testing::ElementsAreArray(Loops(All())));
 }
 
 TEST_P(ClosedRegions, OrderAndDirectionOfTheDrawingAreFree) {
@@ -174,6 +186,33 @@ TEST_P(ClosedRegions, TurningTheDrawingTurnsTheFaces) {
   for (const double angle : {17.0, 45.0, 90.0, 180.0, 271.0}) {
     EXPECT_THAT(DetectLoops(Turned(angle), 1), testing::ElementsAreArray(Loops(GetParam().faces))) << angle;
   }
+}
+
+TEST_P(ClosedRegions, EveryToleranceEndsAndLeavesADriverThatFindsTheRegions) {
+  TEntityBaseClass driver;
+  for (const double tolerance : kTolerances) {
+    fSettings.With(ifLinearTolerance, tolerance);
+    support::RunEveryPass(driver, Drawing());
+  }
+  fSettings.With(ifLinearTolerance, kTolerances[0]);
+  support::RunEveryPass(driver, Drawing());
+  EXPECT_THAT(support::GetLoops(driver), testing::ElementsAreArray(Loops(All())));
+}
+
+TEST_P(ClosedRegions, AToleranceThatChangesBetweenEveryTwoCallsEnds) {
+  TEntityBaseClass driver;
+  for (std::size_t first = 0; first < std::size(kTolerances); ++first) {
+    for (const std::size_t step : {1U, 5U, 7U, 11U}) {
+      std::size_t next = first;
+      support::RunEveryPass(driver, Drawing(), [&] {
+        next += step;
+        fSettings.With(ifLinearTolerance, kTolerances[next % std::size(kTolerances)]);
+      });
+    }
+  }
+  fSettings.With(ifLinearTolerance, kTolerances[0]);
+  support::RunEveryPass(driver, Drawing());
+  EXPECT_THAT(support::GetLoops(driver), testing::ElementsAreArray(Loops(All())));
 }
 
 INSTANTIATE_TEST_SUITE_P(Drawings, ClosedRegions, testing::ValuesIn(kScenarios),

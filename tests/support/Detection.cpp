@@ -4,6 +4,7 @@
 #include <cmath>
 #include <tuple>
 
+#include "GeometryEngine/GeometryEngine_Tree_Geometry/TTree_Geometry.h"
 #include "tests/support/Chains.h"
 #include "tests/support/Geometry.h"
 
@@ -55,6 +56,33 @@ TDetection::TDetection(std::string_view aDrawing) : TDetection(ParseEntities(aDr
 TDetection::TDetection(const TEntityArray& aDrawing) {
   drawing.AddEntities(aDrawing);
   driver.DetermineInterceptions(&drawing);
+}
+
+void RunEveryPass(TEntityBaseClass& aDriver, const TEntityArray& aDrawing, const std::function<void()>& aBetween) {
+  TEntityStorage drawing;
+  drawing.AddEntities(aDrawing);
+  aDriver.DetermineInterceptions(&drawing);
+  aBetween();
+  aDriver.DetectOrphanEntities(aDriver.CoordinateTree());
+  aBetween();
+  aDriver.DetermineInterceptions(&drawing);
+  aBetween();
+  aDriver.DetermineRegions(aDriver.CoordinateTree(), 0);
+  aBetween();
+  aDriver.IdentifySubRegions(aDriver.CoordinateTree());
+  aBetween();
+  aDriver.RemoveDuplicatedSubRegions();
+  TTree_Geometry tree;
+  for (TIndex i = 0; i < aDriver.RegionTree().RootNode()->Count(); ++i) {
+    auto node = tree.CreateTreeNode();
+    auto* region = TTreeNode_Geometry::TypeCast(tree.AddNewTreeNode(node));
+    aBetween();
+    aDriver.AddRegionEntities(region, i);
+    aBetween();
+    region->UpdateGeometry_Outputs();
+    aBetween();
+    region->SetRegionName("Region");
+  }
 }
 
 void PrintTo(const TLoop& aLoop, std::ostream* aOut) {

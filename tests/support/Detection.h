@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <ostream>
 #include <string_view>
 #include <vector>
@@ -19,6 +20,11 @@ struct TDetection {
   TEntityStorage drawing;
   TEntityBaseClass driver;
 };
+
+/// Every pass of a driver over a drawing, open chains and regions, with `aBetween` called between each two of them, to
+/// region nodes with label points and names. The regions stay in the driver's region tree.
+void RunEveryPass(
+    TEntityBaseClass& aDriver, const TEntityArray& aDrawing, const std::function<void()>& aBetween = [] {});
 
 /// What tells one traced loop or chain from another, however the drawing was ordered.
 struct TLoop {
