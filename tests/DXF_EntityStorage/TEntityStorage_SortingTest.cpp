@@ -31,6 +31,7 @@ using support::TSettingsGuard;
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr std::size_t kSmallStack = 256 * 1024;
 constexpr int kLarge = 100'000;
+constexpr int kKeys = 30'000;  // on which a scheme that is recursive overflows the small stack too
 
 /// A line, an arc or a point entity whose left-most x is one of a few values; its column tells it from its like.
 TDXFEntity MakeRandomEntity(std::mt19937_64& aRandom, int aKeys, std::int32_t aTag) {
@@ -168,6 +169,16 @@ TEST(TEntityStorage_QuickSortArray, GivesTheOrderOfItsRecursiveTwinWithKeysThatA
   }
 }
 
+TEST(TEntityStorage_QuickSortArray, GivesTheOrderOfItsRecursiveTwinOnTheWorstKeys) {
+  const TSettingsGuard settings;
+  TEntityStorage storage;
+  for (const double key : reference::MakeKillerKeys(200)) storage.AddEntity(TDXFEntity::Line({key, 0}, {1000, 1}));
+  TEntityArray twin = storage.EntityArray();
+  reference::SortByLeftMost(twin, 0, 199);
+  storage.QuickSortArray(0, 199);
+  EXPECT_THAT(storage.EntityArray(), IsBits(twin));
+}
+
 TEST(TEntityStorage_QuickSortArray, LeavesSortedInputAsItIs) {
   const TSettingsGuard settings;
   support::RunWithStack(kSmallStack, [] {
@@ -207,16 +218,18 @@ TEST(TEntityStorage_QuickSortArray, LeavesInputOfEqualKeysAsItIs) {
 /// The keys of an input that is hard on one scheme or another.
 std::vector<double> MakeKeys(const char* aKind) {
   const std::string_view kind = aKind;
+  if (kind == "killer") return reference::MakeKillerKeys(kKeys);
   std::vector<double> keys;
   std::mt19937_64 random(11);
-  for (int i = 0; i < kLarge; ++i) {
+  for (int i = 0; i < kKeys; ++i) {
     if (kind == "sorted") keys.push_back(i);
     if (kind == "reversed") keys.push_back(-i);
     if (kind == "equal") keys.push_back(1);
     if (kind == "two values") keys.push_back(i % 2);
     if (kind == "reversed pairs") keys.push_back(-(i / 2));
-    if (kind == "up and down") keys.push_back(std::min(i, kLarge - i));
-    if (kind == "sorted but the last") keys.push_back(i == kLarge - 1 ? -1 : i);
+    if (kind == "saw teeth") keys.push_back(i % 1000);
+    if (kind == "up and down") keys.push_back(std::min(i, kKeys - i));
+    if (kind == "sorted but the last") keys.push_back(i == kKeys - 1 ? -1 : i);
     if (kind == "few values") keys.push_back(static_cast<double>(random() % 5));
     if (kind == "shuffled") keys.push_back(static_cast<double>(random()));
     if (kind == "no numbers") keys.push_back(kNaN);
@@ -231,9 +244,9 @@ std::vector<detail::TSortItem> MakeItems(const std::vector<double>& aKeys) {
   return items;
 }
 
-constexpr const char* kKindsOfNumbers[] = {
-    "sorted",     "reversed", "equal", "two values", "reversed pairs", "up and down", "sorted but the last",
-    "few values", "shuffled"};
+constexpr const char* kKindsOfNumbers[] = {"sorted",         "reversed",  "equal",       "two values",
+                                           "reversed pairs", "saw teeth", "up and down", "sorted but the last",
+                                           "few values",     "shuffled",  "killer"};
 constexpr const char* kKindsWithoutOrder[] = {"no numbers", "some no numbers"};
 
 TEST(TLomutoSort, SortsNumbers) {
@@ -287,11 +300,13 @@ TEST(TLomutoSort_Comparisons, StayBelowTheLimitForShuffledInput) {
   }
 }
 
-TEST(TLomutoSort_Comparisons, PassTheLimitForReversedInputSoThatTheBoundedSortIsMet) {
-  std::vector<detail::TSortItem> items = MakeItems(MakeKeys("reversed"));
-  detail::TLomutoSort sort(items);
-  sort.Sort();
-  EXPECT_GT(sort.Comparisons(), sort.Limit());
+TEST(TLomutoSort_Comparisons, PassTheLimitForTheWorstInputSoThatTheBoundedSortIsMet) {
+  for (const char* kind : {"reversed", "sorted but the last", "killer"}) {
+    std::vector<detail::TSortItem> items = MakeItems(MakeKeys(kind));
+    detail::TLomutoSort sort(items);
+    sort.Sort();
+    EXPECT_GT(sort.Comparisons(), sort.Limit()) << kind;
+  }
 }
 
 }  // namespace

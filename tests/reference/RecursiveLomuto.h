@@ -1,10 +1,12 @@
 #pragma once
 
 // The plain twin of TEntityStorage::QuickSortArray: the same scheme, recursive, with each key computed anew for each
-// comparison and no way out.
+// comparison and no way out; and its worst input.
 
 #include <cstddef>
+#include <numeric>
 #include <utility>
+#include <vector>
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 #include "GeometryEngine/DXF_SweepLine_Utilities/ExtremeCoordinates.h"
@@ -29,6 +31,25 @@ inline void SortByLeftMost(TEntityArray& aEntities, std::ptrdiff_t aLow, std::pt
   const std::ptrdiff_t pivot = PartitionByLeftMost(aEntities, aLow, aHigh);
   SortByLeftMost(aEntities, aLow, pivot - 1);
   SortByLeftMost(aEntities, pivot + 1, aHigh);
+}
+
+/// Keys against which the scheme parts one item at a time from all others, since its pivots are the least key and the
+/// greatest of a slice in turn; and no slice of more than two is in order.
+inline std::vector<double> MakeKillerKeys(std::size_t aCount) {
+  std::vector<std::size_t> slice(aCount);  // the places of those that are not parted yet, in the order of the scheme
+  std::iota(slice.begin(), slice.end(), std::size_t{0});
+  std::vector<double> keys(aCount, static_cast<double>(aCount) / 2);
+  std::size_t first = 0;
+  for (std::size_t last = aCount; last > first + 1;) {
+    --last;
+    keys[slice[last]] = static_cast<double>(last);  // the greatest stays where it is
+    if (last > first + 1) {
+      keys[slice[last - 1]] = static_cast<double>(first);  // the least changes places with the first
+      std::swap(slice[first], slice[last - 1]);
+      ++first;
+    }
+  }
+  return keys;
 }
 
 }  // namespace GeometryEngine::reference
