@@ -115,14 +115,20 @@ TEST(TEntityStorage_Offset, KeepsTheStoredStartVertex) {
 }
 
 TEST(TEntityStorage_Offset, ChainsThatAreNoneEndSomehow) {
-  const TSettingsGuard settings;
-  for (const char* text : {"", "L 0,0 1,0", "R", "L 0,0 1,0; L 1,0 0,0", "L 0,0 0,0; L 0,0 0,0; L 0,0 0,0",
-                           "L 0,0 nan,0; L nan,0 1,1; L 1,1 0,0", "A c 0,0 r 1 0..0", "L 0,0 1,0; L 5,5 6,6; N"}) {
-    for (const double distance : {1.0, -1.0, kNaN, std::numeric_limits<double>::infinity()}) {
-      const auto chain = MakeStorage(text);
-      const TIndex vertices = static_cast<TIndex>(chain->GetVertices().size());
-      chain->Offset(distance);
-      EXPECT_EQ(chain->GetCount(), vertices) << text;
+  for (const char* text :
+       {"", "L 0,0 1,0", "R", "N; N", "A c 0,0 r 1 0..0", "A c 0,0 r 1 0..90", "L 0,0 1,0; L 1,0 0,0",
+        "A c 0,0 r 1 0..180; L -1,0 1,0", "L 0,0 1,0; L 5,5 6,6; N", "N; N; A c 0,0 r 1 0..90",
+        "L 0,0 0,0; L 0,0 0,0; L 0,0 0,0", "L 0,0 4,0; L 4,0 0,0; L 0,0 4,0; L 4,0 0,0",
+        "L 0,0 nan,0; L nan,0 1,1; L 1,1 0,0", "L nan,nan 1,0; A c 0,0 r 1 0..nan; L nan,0 0,nan"}) {
+    for (const double tolerance : {1e-4, 0.0, 1e300, kNaN}) {
+      for (const double distance : {1.0, -1.0, kNaN, std::numeric_limits<double>::infinity()}) {
+        TSettingsGuard settings;
+        const auto chain = MakeStorage(text);
+        settings.With(Maindataenum::TInputFields::ifLinearTolerance, tolerance);
+        const TIndex vertices = static_cast<TIndex>(chain->GetVertices().size());
+        chain->Offset(distance);
+        EXPECT_EQ(chain->GetCount(), vertices) << text << " under " << tolerance;
+      }
     }
   }
 }

@@ -1,3 +1,4 @@
+#include <limits>
 #include <optional>
 
 #include <gmock/gmock.h>
@@ -124,6 +125,20 @@ TEST_F(RemoveDuplicatedSubRegions, ContainerOfTenToTheTwelfthIsNeverTheClosestKe
   driver.RemoveDuplicatedSubRegions();
   EXPECT_THAT(huge->SubRegions(), ElementsAre(0)) << "it never was the best, so nothing takes the region from it";
   EXPECT_THAT(ordinary->SubRegions(), ElementsAre(0));
+}
+
+TEST_F(RemoveDuplicatedSubRegions, ContainerWhoseAreaIsNoNumberIsNeverTheClosest) {
+  for (const double area : {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()}) {
+    TEntityBaseClass driver;
+    AddRegion(driver, 1, {});
+    const TTreeNode* without = AddRegion(driver, area, {0});
+    const TTreeNode* ordinary = AddRegion(driver, 5, {0});
+    const TTreeNode* withoutToo = AddRegion(driver, area, {0});
+    driver.RemoveDuplicatedSubRegions();
+    EXPECT_THAT(without->SubRegions(), ElementsAre(0)) << "the first listing stands: there is no best to take it from";
+    EXPECT_THAT(ordinary->SubRegions(), ElementsAre(0));
+    EXPECT_THAT(withoutToo->SubRegions(), IsEmpty());
+  }
 }
 
 TEST_F(GetIsRegionSubRegion, HoldsForListedRegionsOnly) {

@@ -297,10 +297,17 @@ TEST_F(CopyRegionParameters, TheAngleWinsOverTheNumber) {
 }
 
 TEST_F(CopyRegionParameters, ANumberWhoseAngleIsRoundedUpComesOutOneLess) {
-  fSource.NumberDuplications(169);
-  fRegion.CopyRegionParameters(fSource, false);
-  EXPECT_EQ(fRegion.NumberDuplications(), 168);
-  EXPECT_EQ(fRegion.DuplicationAngle(), 360.0 / 169);
+  std::vector<std::int32_t> oneLess;
+  for (std::int32_t number = 1; number < 1000; ++number) {
+    fSource.NumberDuplications(number);
+    fRegion.CopyRegionParameters(fSource, false);
+    EXPECT_EQ(fRegion.DuplicationAngle(), 360.0 / number);
+    if (fRegion.NumberDuplications() == number) continue;
+    EXPECT_EQ(fRegion.NumberDuplications(), number - 1);
+    oneLess.push_back(number);
+  }
+  EXPECT_THAT(oneLess, ElementsAre(169, 237, 255, 338, 339, 471, 474, 477, 499, 510, 609, 676, 678, 715, 885, 931, 942,
+                                   948, 954, 977, 997, 998));
 }
 
 TEST_F(CopyRegionParameters, FromItselfKeepsTheAngle) {

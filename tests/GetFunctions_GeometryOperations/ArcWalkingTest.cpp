@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include "tests/support/Geometry.h"
 #include "tests/support/Settings.h"
@@ -80,6 +81,16 @@ TEST(GetArcSegmentPoints_Surf, DegenerateRadiiAndTolerancesGiveThreeChords) {
     EXPECT_EQ(GetArcSegmentPoints_Surf(WithRadius(radius), 0.01).aCount, 3) << "radius " << radius;
   for (const double tolerance : {0.0, -1.0, 3.0, 1e-30, kInfinity, kNaN})
     EXPECT_EQ(GetArcSegmentPoints_Surf(WithRadius(1), tolerance).aCount, 3) << "tolerance " << tolerance;
+}
+
+TEST(GetArcSegmentPoints_Surf, AnglesThatAreNoneGiveThreeChords) {
+  for (const double angle : {kInfinity, -kInfinity, kNaN}) {
+    TDXFEntity arc = WithRadius(50);
+    arc.startAngle = angle;
+    EXPECT_EQ(GetArcSegmentPoints_Surf(arc, 0.01).aCount, 3) << angle;
+    std::swap(arc.startAngle, arc.endAngle);
+    EXPECT_EQ(GetArcSegmentPoints_Surf(arc, 0.01).aCount, 3) << angle;
+  }
 }
 
 TEST(GetArcSegmentPoints_Surf, ChordsOfHugeCirclesStayBelowTheFinestAngleThereIs) {

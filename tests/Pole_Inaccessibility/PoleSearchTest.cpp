@@ -277,6 +277,10 @@ TEST_F(FindPole, OfAThinBoxIsTheCentroidLevelUprightAndSlanting) {
 TEST_F(FindPole, StepsThatGetLostInLargeCoordinatesEndTheSearch) {
   Outline(RectangleText(1e16, 0, 1e16 + 4, 0.5));
   EXPECT_THAT(Find(), IsBits(kCentroid));
+  Outline(RectangleText(0, 2e6, 1.1e-10, 2e6 + 4));
+  for (const double minimumDistance : {kMinimumDistance, 0.0, -1.0}) {
+    EXPECT_THAT(Find(kPrecision, minimumDistance), IsBits(kCentroid)) << minimumDistance;
+  }
 }
 
 TEST_F(FindPole, EndlessBoxesAndBoxesOfNoNumberEndTheSearch) {

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <iterator>
 #include <limits>
 #include <random>
 
@@ -76,6 +77,48 @@ TEST(GetAngleInRange, StaysInTheRangeForRandomValues) {
     const double angle = GetAngleInRange(value, 0, 360);
     ASSERT_GE(angle, 0) << value;
     ASSERT_LT(angle, 360) << value;
+  }
+}
+
+TEST(GetAngleInRange, StaysInTheRangeForSixtyFourSpecialValues) {
+  const double magnitudes[] = {0,
+                               kSmallest,
+                               std::numeric_limits<double>::min(),
+                               1e-300,
+                               1e-20,
+                               1e-14,
+                               1e-13,
+                               std::numeric_limits<double>::epsilon(),
+                               1e-9,
+                               1,
+                               90,
+                               std::nextafter(180, 0),
+                               180,
+                               std::nextafter(180, 360),
+                               270,
+                               std::nextafter(360, 0),
+                               360,
+                               std::nextafter(360, 720),
+                               540,
+                               std::nextafter(720, 0),
+                               720,
+                               1e6,
+                               360e9,
+                               2147483648,
+                               9007199254740992,
+                               1e15,
+                               1e19,
+                               1e22,
+                               1e100,
+                               kLargest,
+                               kInfinity,
+                               kNaN};
+  static_assert(2 * std::size(magnitudes) == 64);
+  for (const double magnitude : magnitudes) {
+    for (const double value : {magnitude, -magnitude}) {
+      const double angle = GetAngleInRange(value, 0, 360);
+      EXPECT_TRUE(std::isfinite(value) ? angle >= 0 && angle < 360 : std::isnan(angle)) << value;
+    }
   }
 }
 
