@@ -2,7 +2,9 @@
 // container nothing changes, but for what an operation says of itself.
 
 #include <climits>
+#include <span>
 #include <string>
+#include <string_view>
 
 #include <gtest/gtest.h>
 
@@ -77,6 +79,12 @@ constexpr TIndexed<TContainers> kOperations[] = {
     {"GetIsIndexValid", ChangesNothing, [](TContainers& c, TIndex i) { c.storage.GetIsIndexValid(i); }},
     {"GetEntityFromIndex", ChangesNothing, [](TContainers& c, TIndex i) { c.storage.GetEntityFromIndex(i); }},
     {"Entities", ChangesNothing, [](TContainers& c, TIndex i) { c.storage.Entities(i, SomeLine(9)); }},
+    {"Entities_P", ChangesNothing,
+     [](TContainers& c, TIndex i) { EXPECT_EQ(c.storage.Entities_P(i) != nullptr, c.storage.GetIsIndexValid(i)); }},
+    {"GetEntityFromIndex_Pointer", ChangesNothing,
+     [](TContainers& c, TIndex i) {
+       EXPECT_EQ(c.storage.GetEntityFromIndex_Pointer(i) != nullptr, c.storage.GetIsIndexValid(i));
+     }},
     {"SetEntityFromIndex", ChangesNothing,
      [](TContainers& c, TIndex i) { c.storage.SetEntityFromIndex(i, SomeLine(9)); }},
     {"SetEntityColour", ChangesNothing, [](TContainers& c, TIndex i) { c.storage.SetEntityColour(i, "red"); }},
@@ -100,8 +108,23 @@ constexpr TIndexed<TContainers> kOperations[] = {
      [](TContainers& c, TIndex i) { TCoordinateArray_Helper::GetCoordinate_Next(c.points, i); }},
     {"RemoveCoordinateFromArray", ChangesNothing,
      [](TContainers& c, TIndex i) { RemoveCoordinateFromArray(c.points, i); }},
+    {"GetPoint", ChangesNothing,
+     [](TContainers& c, TIndex i) {
+       TInterceptionPoints points;
+       for (const TEntityCoordinate& point : c.points) points.AddUnique(point);
+       points.GetPoint(i);
+     }},
     {"ResetTravelledFlag", ChangesNothing, [](TContainers& c, TIndex i) { c.tree.ResetTravelledFlag(i); }},
     {"GetNodeFromIndex", ChangesNothing, [](TContainers& c, TIndex i) { c.tree.GetNodeFromIndex(i); }},
+    {"Item", ChangesNothing, [](TContainers& c, TIndex i) { c.tree.Item(i); }},
+    {"GetSubRegion", ChangesNothing,
+     [](TContainers& c, TIndex i) {
+       TTreeNode free(nullptr);
+       for (TIndex k = 0; k < c.storage.Count(); ++k) free.AddSubRegion(k);
+       EXPECT_EQ(free.GetSubRegion(i), c.storage.GetIsIndexValid(i) ? i : kNotFound);
+       free.RemoveSubRegion(i);
+       EXPECT_EQ(free.NumSubRegions(), c.storage.Count() - (c.storage.GetIsIndexValid(i) ? 1 : 0));
+     }},
     {"GetNode", ChangesNothing, [](TContainers& c, TIndex i) { c.tree.RootNode()->GetNode(i); }},
     {"AddTreeNode_AtIndex", AddsOne,
      [](TContainers& c, TIndex i) { c.tree.AddTreeNode_AtIndex(c.tree.RootNode(), i); }},
@@ -112,6 +135,7 @@ constexpr TIndexed<TContainers> kOperations[] = {
        c.tree.GetNodeEntity(free);
      }},
     {"RegionTree_GetNodeFromIndex", ChangesNothing, [](TContainers& c, TIndex i) { c.regions.GetNodeFromIndex(i); }},
+    {"RegionTree_Item", ChangesNothing, [](TContainers& c, TIndex i) { c.regions.Item(i); }},
     {"RegionTree_AddNewTreeNode_AtIndex", AddsOne,
      [](TContainers& c, TIndex i) {
        auto node = c.regions.CreateTreeNode();
@@ -183,6 +207,49 @@ TEST(IndexMatrix, OfADriversOperationsIsAbsorbed) {
     driver.AddRegionCoordinates(driver.CoordinateTree(), path, {}, {}, 1);
   }
   EXPECT_EQ(driver.RegionTree().RootNode()->Count(), regions + 8);
+}
+
+// Half-edges and interceptions of entities that there are not, merges at places that there are not.
+TEST(IndexMatrix, OfEntitiesInTreesIsAbsorbed) {
+  for (const TIndex size : kSizes) {
+    for (const TIndex index : IndexesFor(size)) {
+      TContainers containers(size);
+      AddInterception(containers.tree, SomeLine(9), index, {1, 1});
+      TTreeNode* region = containers.tree.AddTreeNode_ToRoot();
+      TEntityMerge merge;
+      merge.fParent = region;
+      merge.fEntity = CreateEntity_Line(0, 0, 1, 0);
+      merge.fPoint_2 = {1, 0};
+      EXPECT_TRUE(DetectMergeEntity(containers.tree, merge, CreateEntity_Line(1, 0, 2, 0), {2, 0}, index));
+      EXPECT_EQ(region->Count(), 1);
+      TEntityBaseClass driver;
+      driver.AddCoordinateNode(containers.tree, {7, 7}, index);
+      driver.DetermineRegions(containers.tree, index);
+      driver.DetectOrphanEntities(containers.tree);
+      EXPECT_EQ(containers.tree.Search_L1_Coords({7, 7})->GetNode(0)->EntityIndex(), index);
+    }
+  }
+}
+
+// Numbers of copies below those that there can be; those above take memory (see Counts).
+TEST(IndexMatrix, OfNumbersOfCopiesIsAbsorbed) {
+  for (const TIndex size : kSizes) {
+    for (const TIndex number : {INT_MIN, -2, -1, 0}) {
+      TContainers containers(size);
+      containers.storage.DuplicateAlongAxis(number, 1);
+      EXPECT_EQ(containers.storage.Count(), size);
+      containers.storage.DuplicateAroundAxis(number, number, 1, true);
+      EXPECT_EQ(containers.storage.Count(), 0);
+      EXPECT_EQ(GetAxialBlocks(0, 100, number, 1).size(), 1U);
+      if (size == 0) continue;
+      TTreeNode_Geometry& region = *containers.regions.GetNodeFromIndex(1);
+      region.Entities().AddEntities(containers.entities);
+      region.NumberDuplications(number);
+      region.Duplicate();
+      region.DuplicateAndUnite(number, gpAxial);
+      EXPECT_EQ(region.GetNumEntities(), size);
+    }
+  }
 }
 
 TEST(NilNodes, AreAbsorbedByEveryOperationThatTakesOne) {
@@ -271,6 +338,93 @@ TEST(OwnArguments, LeaveEveryContainerAsTheOperationOnACopyWould) {
   EXPECT_EQ(storage.Count(), 11);
   storage.RemoveEntities(storage.EntityArray());
   EXPECT_EQ(storage.Count(), 0);
+}
+
+// An element of the container itself, or a view of a part of it, as the argument.
+TEST(OwnArguments, MayBeElementsOfTheContainer) {
+  TCoordinateArray points = {{1, 2}, {3, 4}, {5, 6}};
+  for (int i = 0; i < 9; ++i) AddCoordinate(points, points.front());
+  EXPECT_EQ(points.back().y, 2);
+  Rotate_AboutPoint(points, GetRotationMatrix(180), points[1]);
+  EXPECT_EQ(points[1].x, 3);
+  EXPECT_NEAR(points[0].x, 5, 1e-12);
+  CopyArray(points, std::span(points).subspan(1, 2));
+  EXPECT_EQ(points.size(), 2U);
+  TEntityArray entities = {SomeLine(1), SomeLine(2), SomeLine(3)};
+  for (int i = 0; i < 9; ++i) AddEntity(entities, entities.front());
+  InsertEntity(entities, entities.back(), 0);
+  EXPECT_EQ(entities.size(), 13U);
+  AddEntities_CheckDuplicate(entities, std::span(entities).subspan(1, 2));
+  RemoveEntity(entities, entities.front());
+  EXPECT_EQ(entities.size(), 12U);
+  EXPECT_TRUE(GetEntity_Next(entities, entities.front()) == entities[1]);
+  TEntityStorage storage;
+  storage.AddEntities({CreateEntity_Line(0, 0, 4, 0), CreateEntity_Line(4, 0, 4, 4), CreateEntity_Line(4, 4, 0, 0)});
+  storage.SetEntityColour(0, "a colour that takes memory of its own");
+  storage.SetEntityColour(0, std::string_view(storage.Entities_P(0)->Colour).substr(2));
+  EXPECT_EQ(storage.Entities(0).Colour, "colour that takes memory of its own");
+  storage.RotateEntities_AroundPoint(GetRotationMatrix(90), storage.Entities_P(0)->EndCoords);
+  EXPECT_EQ(storage.Entities(0).EndCoords.x, 4);
+  storage.Mirror(*storage.Entities_P(0));
+  storage.ReOrderEntities(storage.Entities_P(1)->StartCoords);
+  storage.StartCoordinate(storage.StartCoordinate());
+  EXPECT_EQ(storage.Count(), 3);
+}
+
+TEST(OwnArguments, MayBeTheObjectItself) {
+  TPlane plane;
+  plane.Vector_X({1, 0, 0});
+  plane.Vector_Y({0, 1, 0});
+  plane.CopyParameters(plane);
+  EXPECT_TRUE(plane.Coincident(plane));
+  TTree_Geometry tree;
+  auto created = tree.CreateTreeNode();
+  TTreeNode_Geometry& region = *TTreeNode_Geometry::TypeCast(tree.AddNewTreeNode(created));
+  region.Entities().AddEntities(everything::RoundedChain(1, 1, 4));
+  region.UpdateGeometry_Outputs();
+  region.SetRegionName("a region whose name takes memory of its own");
+  region.SetRegionName(std::string_view(region.RegionName()).substr(2));
+  region.SetRegionName(region.UniqueName());
+  EXPECT_EQ(region.RegionName(), "region whose name takes memory of its own");
+  region.CopyRegionParameters(region, true);
+  region.CopyRegionParameters(region, false);
+  region.SetRegionCoordinate_Single(region.RegionCoordinates().front());
+  EXPECT_FALSE(region.RegionInsideRegion(region, false));
+  tree.MoveTreeNode(&region, &region);
+  EXPECT_EQ(region.GetParent(), tree.GetRootNode());
+  const TAxialBlockArray blocks = GetAxialBlocks(0, 100, 3, 2);
+  EXPECT_TRUE(ElementsEqual(blocks, blocks));
+  TInterceptionPoints meetings;
+  CheckIntercepts(region.Entities().Entities(0), region.Entities().Entities(0), meetings);
+  EXPECT_FALSE(CheckEntitiesForMerge(TDXFEntity{}, TDXFEntity{}, {}, {}, {}));
+}
+
+// A driver's own storage of pieces as the drawing, its region tree as the vertex graph.
+TEST(OwnArguments, MayBeTheDriversOwn) {
+  TEntityStorage drawing;
+  drawing.AddEntities(everything::MixedDrawing());
+  TEntityBaseClass driver;
+  const auto trace = [&](TEntityTree& tree) {
+    driver.DetermineRegions(tree, 1);
+    driver.IdentifySubRegions(tree);
+    driver.RemoveDuplicatedSubRegions();
+    return driver.RegionTree().RootNode()->Count();
+  };
+  driver.DetermineInterceptions(&drawing);
+  const TIndex regions = trace(driver.CoordinateTree());
+  const TTreeNode* first = driver.RegionTree().RootNode()->GetNode(0);
+  RegionContains_SubRegion(driver.CoordinateTree(), first, first);
+  EXPECT_EQ(trace(driver.RegionTree()), 0) << "which is cleared first";
+  driver.DetectOrphanEntities(driver.RegionTree());
+  EXPECT_EQ(driver.RegionTree().RootNode()->Count(), 0);
+  TEntityTree& graph = driver.CoordinateTree();
+  const TIndex pieces = graph.pEntityStorage()->Count();
+  driver.AddEntityToCoordinateTree(graph, *graph.pEntityStorage()->Entities_P(0));
+  EXPECT_EQ(graph.pEntityStorage()->Count(), pieces);
+  driver.DetermineInterceptions(graph.pEntityStorage());
+  EXPECT_EQ(graph.pEntityStorage()->Count(), 0) << "which is emptied before it is filled";
+  driver.DetermineInterceptions(&drawing);
+  EXPECT_EQ(trace(graph), regions);
 }
 
 TEST(CyclicMoves, AreRefused) {
