@@ -108,6 +108,13 @@ struct TBeforeSweep : TDriver {
     return driver->InterceptTree().RootNode()->Count() == 0 && driver->CoordinateTree().RootNode()->Count() == 0;
   }
 };
+struct TToleranceChain : TBeforeSweep {
+  void Prepare() {
+    TBeforeSweep::Prepare();
+    drawing.FreeEntities();
+    drawing.AddEntities(ToleranceChain());
+  }
+};
 struct TBeforeTracing : TDriver {
   void Prepare() {
     TDriver::Prepare();
@@ -129,6 +136,14 @@ struct TBeforeHandOver : TBeforeNesting {
     regions.AddNewTreeNode(node);
   }
 };
+
+template <typename TState>
+void DetectWhole(TState& aState) {
+  aState.Intercept();
+  aState.Trace();
+  aState.driver->IdentifySubRegions(aState.driver->CoordinateTree());
+  aState.driver->RemoveDuplicatedSubRegions();
+}
 
 std::vector<TScenario> DriverScenarios() {
   return {
@@ -159,13 +174,8 @@ std::vector<TScenario> DriverScenarios() {
                             const TIntegerArray path = {1, 2, 3, 4, 5};
                             s.driver->AddRegionCoordinates(s.driver->CoordinateTree(), path, {1, 2}, {3, 4}, 5);
                           }),
-      On<TBeforeSweep>("WholeDetection", Usable,
-                       [](TBeforeSweep& s) {
-                         s.Intercept();
-                         s.Trace();
-                         s.driver->IdentifySubRegions(s.driver->CoordinateTree());
-                         s.driver->RemoveDuplicatedSubRegions();
-                       }),
+      On<TBeforeSweep>("WholeDetection", Usable, DetectWhole<TBeforeSweep>),
+      On<TToleranceChain>("WholeDetection_ToleranceChain", Usable, DetectWhole<TToleranceChain>),
       On<TBeforeNesting>(
           "IdentifyRegionFromCoordinate", Unchanged,
           [](TBeforeNesting& s) {

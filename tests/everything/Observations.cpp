@@ -123,4 +123,16 @@ TEntityArray MixedDrawing() {
   return drawing;
 }
 
+TEntityArray ToleranceChain() {
+  TEntityArray drawing;
+  for (int i = 0; i < 6; ++i) {
+    const double x = 0.9e-4 * i;
+    drawing.push_back(CreateEntity_Line(x, 0, 4, 1 + i));
+    drawing.push_back(CreateEntity_Line(4, 1 + i, -4 + x, 1));
+  }
+  drawing.push_back(CreateEntity_Line(-4, 1, 0, 0));
+  drawing.push_back(CreateEntity_Line(9, 0, 10, 0));
+  return drawing;
+}
+
 }  // namespace everything

@@ -22,5 +22,7 @@ GeometryEngine::TDXFEntity Tagged(GeometryEngine::TDXFEntity aEntity);
 GeometryEngine::TEntityArray RoundedChain(double aX, double aY, double aSize);
 /// A drawing with crossing lines, circles within, an equal pair and a dangling line.
 GeometryEngine::TEntityArray MixedDrawing();
+/// Lines to and from points 0.9 starting tolerances apart, so that which of them meet depends on the order.
+GeometryEngine::TEntityArray ToleranceChain();
 
 }  // namespace everything

@@ -34,7 +34,8 @@ constexpr const char* kGuardedByThemselves[] = {"AddEntityToCoordinateTree",
                                                 "RegionOffset",
                                                 "RemoveDuplicatedSubRegions",
                                                 "UpdateGeometry_Outputs",
-                                                "WholeDetection"};
+                                                "WholeDetection",
+                                                "WholeDetection_ToleranceChain"};
 
 bool IsGuardedByItself(const TScenario& aScenario) {
   return std::ranges::find(kGuardedByThemselves, aScenario.name) != std::end(kGuardedByThemselves);
