@@ -203,6 +203,23 @@ TEST(ReadInsert, ExpansionIsBounded) {
               HasSubstr(" makes more than 2000000 entities; "));
 }
 
+TEST(ReadInsert, TenLevelsOfTenInsertsAreCountedNotPlaced) {
+  std::string blocks = Block("n1", "0 LINE | 11 1");
+  for (int i = 2; i <= 11; ++i) {
+    std::string ten = "0 INSERT | 2 n" + std::to_string(i - 1);
+    for (int k = 1; k < 10; ++k) ten += " | 0 INSERT | 2 n" + std::to_string(i - 1);
+    blocks += Block("n" + std::to_string(i), ten);
+  }
+  EXPECT_EQ(ReadBlocks(blocks, "0 INSERT | 2 n5").entities.size(), 10'000U);
+  EXPECT_THAT(RefusalOfBlocks(blocks, "0 INSERT | 2 n11"), HasSubstr(" makes more than 2000000 entities; "));
+}
+
+TEST(ReadInsert, ScalesThatLeaveTheRangeOfNumbersAreSkipped) {
+  const Drawing drawing = ReadBlocks(kBar, "0 INSERT | 2 bar | 41 1e308 | 42 1e308 | 0 INSERT | 2 bar | 41 1e300");
+  EXPECT_EQ(SkippedCount(drawing, "LINE", "0", "its coordinates are out of range"), 1U);
+  EXPECT_THAT(GeometryOf(drawing), IsBits("L 1e300,0 3e300,0"));
+}
+
 TEST(ReadInsert, SecondDefinitionOfABlockIsUsedAndReported) {
   const Drawing drawing = ReadBlocks(kBar + Block("BAR", "0 LINE | 11 7"), "0 INSERT | 2 bar");
   EXPECT_THAT(GeometryOf(drawing), IsBits("L 0,0 7,0"));

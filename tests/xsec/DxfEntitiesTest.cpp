@@ -126,6 +126,12 @@ TEST(ReadDrawingText, ObliqueExtrusionIsSkipped) {
   EXPECT_THAT(GeometryOf(drawing), IsBits("L 0,0 1,0"));
 }
 
+TEST(ReadDrawingText, ExtrusionAlongNothingIsSkipped) {
+  const Drawing drawing = ReadEntities("0 ARC | 40 2 | 51 60 | 210 0 | 220 0 | 230 0 | 0 CIRCLE | 40 2 | 230 0");
+  EXPECT_EQ(SkippedCount(drawing, "ARC", "0", "it is drawn in a plane that is not the xy plane"), 1U);
+  EXPECT_EQ(SkippedCount(drawing, "CIRCLE", "0", "it is drawn in a plane that is not the xy plane"), 1U);
+}
+
 TEST(ReadDrawingText, ExtrusionOfOneEntityDoesNotReachTheNext) {
   EXPECT_THAT(GeometryOf(ReadEntities("0 CIRCLE | 40 1 | 230 -1 | 0 ARC | 10 5 | 40 1 | 50 0 | 51 90")),
               IsBits("A c 0,0 r 1 0..180; A c 0,0 r 1 180..0; A c 5,0 r 1 0..90"));

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "tests/support/Geometry.h"
+#include "tests/support/Repetitions.h"
 #include "tests/xsec/DxfTexts.h"
 
 namespace xsec {
@@ -108,6 +109,23 @@ TEST(ReadPolyline, StatedCountOfVerticesIsNotBelieved) {
                 IsBits("L 1,2 3,4"))
         << count;
   }
+}
+
+TEST(ReadPolyline, BulgesThatLeaveTheRangeOfNumbersAreSkipped) {
+  for (const char* bulge : {"1e300", "-1e300", "1.7e308", "1e160"}) {
+    const Drawing drawing = ReadEntities(std::string("0 LWPOLYLINE | 10 0 | 42 ") + bulge + " | 10 4 | 20 3 | 10 9");
+    EXPECT_EQ(SkippedCount(drawing, "LWPOLYLINE", "0", "its coordinates are out of range"), 1U) << bulge;
+    EXPECT_THAT(GeometryOf(drawing), IsBits("L 4,3 9,0")) << bulge;
+  }
+}
+
+TEST(ReadPolyline, OfManyVerticesHasThemAll) {
+  const int count = GeometryEngine::support::Repetitions(10'000);
+  std::string vertices = "0 LWPOLYLINE";
+  for (int i = 0; i < count; ++i) vertices += "|10 " + std::to_string(i) + "|20 " + std::to_string(i % 2);
+  const Drawing drawing = ReadEntities(vertices);
+  ASSERT_EQ(drawing.entities.size(), static_cast<std::size_t>(count - 1));
+  EXPECT_EQ(drawing.entities.back().geometry.EndCoords.x, count - 1);
 }
 
 TEST(ReadPolyline, VerticesDoNotLeakIntoTheNextOne) {

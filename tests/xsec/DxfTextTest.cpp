@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include <cstddef>
+#include <random>
 #include <string>
 
 #include "tests/xsec/DxfTexts.h"
@@ -33,6 +34,14 @@ TEST(ParseNumber, RefusesEverythingElse) {
        {"", " ", "+", "+-1", "++1", "1,5", "1.5mm", "0x10", "nan", "inf", "-infinity", "1e999", "1 2"}) {
     EXPECT_FALSE(ParseNumber(text).has_value()) << text;
   }
+}
+
+TEST(ParseNumber, TakesAThousandDigitsAsTheNumberThatTheyAre) {
+  EXPECT_EQ(ParseNumber("0." + std::string(1000, '3')).value(), 1.0 / 3);
+  EXPECT_EQ(ParseNumber(std::string(1000, '0') + "25").value(), 25);
+  EXPECT_EQ(ParseNumber("1" + std::string(1000, '0') + "e-1000").value(), 1);
+  EXPECT_FALSE(ParseNumber(std::string(1000, '9')).has_value());
+  EXPECT_FALSE(ParseNumber("1e" + std::string(1000, '9')).has_value());
 }
 
 TEST(KindOfCode, TellsNumbersFromText) {
@@ -168,6 +177,16 @@ TEST(CheckDxfText, TextThatIsCutOffIsRefused) {
 
 TEST(CheckDxfText, TextBehindEofIsRefused) {
   EXPECT_THAT(RefusalOf(kSound + kSound), StartsWith("19: there is text behind EOF; "));
+}
+
+TEST(CheckDxfText, JunkIsRefused) {
+  std::mt19937 random(20240607);
+  for (int round = 0; round < 1000; ++round) {
+    std::string junk;
+    for (std::size_t length = 1 + random() % 300; length > 0; --length) junk += static_cast<char>(random() % 256);
+    ASSERT_NE(RefusalOf(junk), "") << round;
+    ASSERT_NE(RefusalOf(kSound.substr(0, random() % kSound.size()) + junk), "") << round;
+  }
 }
 
 TEST(CheckDxfText, EveryPrefixOfADrawingIsRefused) {

@@ -4,6 +4,7 @@
 #include <numbers>
 
 #include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
 
 #include "tests/support/Settings.h"
 #include "tests/xsec/Drawings.h"
@@ -67,6 +68,18 @@ TEST(GeoText, NamesEachGroupOnceAndTheOuterBoundary) {
   EXPECT_THAT(geo, HasSubstr("Physical Surface(\"Plate\""));
   EXPECT_THAT(geo, HasSubstr("Physical Curve(\"Outer boundary\""));
   EXPECT_THAT(geo, Not(HasSubstr("nan")));
+}
+
+// A name with all that ends a name in some format.
+TEST(OutputTexts, HoldNamesThatEndNothing) {
+  const std::string name = "../A\", \"B\" <c> & {d}; \\";
+  const Drawing drawing = DrawingOf({{name, Rectangle(0, 0, 4, 2.5)}});
+  EXPECT_EQ(nlohmann::json::parse(TextOf(drawing, &JsonText))["regions"][0]["name"], name);
+  EXPECT_THAT(TextOf(drawing, &CsvText), HasSubstr("\"../A\"\", \"\"B\"\" <c> & {d}; \\\""));
+  EXPECT_THAT(TextOf(drawing, &GeoText), HasSubstr("(\"../A', 'B' <c> & {d}; \\\", 1)"));
+  EXPECT_THAT(TextOf(drawing, &FemText), HasSubstr("\"../A', 'B' <c> & {d}; \\\"\n"));
+  EXPECT_THAT(TextOf(drawing, &SvgText), HasSubstr(">../A&quot;, &quot;B&quot; &lt;c&gt; &amp; {d}; \\</text>"));
+  EXPECT_THAT(TextOf(drawing, &DxfOutputText), HasSubstr("\n.._A_, _B_ _c_ & {d}_ _\n"));
 }
 
 TEST(RegionsSchema, IsTheFileInTheSources) {
