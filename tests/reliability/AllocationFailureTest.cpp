@@ -1,6 +1,5 @@
 // Every operation, with its first, second, third ... allocation failing until it needs no more: nothing but the
-// standard exception comes out, nothing leaks, and the objects are as promised. Of operations with more than two
-// hundred allocations the later ones fail by sample, with tools/reliability all of them.
+// standard exception comes out, nothing leaks, and the objects are as promised.
 
 #include <new>
 
@@ -9,7 +8,6 @@
 #include "tests/everything/Scenarios.h"
 #include "tests/reliability/Allocations.h"
 #include "tests/reliability/ScenarioNames.h"
-#include "tests/support/Repetitions.h"
 
 using everything::TGuarantee;
 using everything::TScenario;
@@ -21,10 +19,6 @@ using GeometryEngine::support::TFailure;
 namespace {
 
 constexpr std::int64_t kMostAllocations = 100000;  // of one operation
-
-std::int64_t Next(std::int64_t aNumber) {
-  return aNumber + 1 + (aNumber < GeometryEngine::support::Repetitions(200) ? 0 : aNumber / 40);
-}
 
 std::uint64_t Seen(TSubject& aSubject) {
   everything::THash hash;
@@ -89,7 +83,7 @@ class AllocationFailure : public testing::TestWithParam<TScenario> {
     const TScenario& scenario = GetParam();
     const TExpected expected = Expect(scenario);
     bool needsMore = true;
-    for (std::int64_t number = 1; needsMore && number < kMostAllocations; number = Next(number)) {
+    for (std::int64_t number = 1; needsMore && number < kMostAllocations; ++number) {
       const std::int64_t live = LiveAllocations();
       const TOutcome outcome = FailAt(scenario, expected, number, aFailure);
       const std::int64_t leaked = LiveAllocations() - live;
