@@ -201,6 +201,13 @@ TEST_F(DetermineClockwiseSubRegionsTest, ListsTheClockwiseLoopsInside) {
   EXPECT_THAT(outer->SubRegions(), testing::ElementsAre(2, 3));
 }
 
+TEST_F(DetermineClockwiseSubRegionsTest, ListsTheFirstRegionOfTheTreeToo) {
+  AddSquare_Clockwise(2, 4);
+  TTreeNode* outer = AddSquare(0, 10);
+  DetermineClockwiseSubRegions(fRegionTree, fCoordinateTree, outer, 1);
+  EXPECT_THAT(outer->SubRegions(), testing::ElementsAre(0));
+}
+
 TEST_F(DetermineClockwiseSubRegionsTest, KnownSubRegionsAreNotListedTwice) {
   TTreeNode* outer = AddSquare(0, 10);
   AddSquare_Clockwise(2, 4);
@@ -263,6 +270,15 @@ TEST_F(GenerateRegionPointTest, LinesOnABoundaryRayAreNotUsed) {
   EXPECT_FALSE(GenerateRegionPoint(fCoordinateTree, walked, besideRay, 0, 10, 0, 90));
   EXPECT_FALSE(GenerateRegionPoint(fCoordinateTree, walked, besideRay, 0, 10, 90, 0));
   EXPECT_TRUE(GenerateRegionPoint(fCoordinateTree, walked, besideRay, 0, 10, 45, 90));
+}
+
+TEST_F(GenerateRegionPointTest, LinesThatLeaveABoundaryRayAreUsed) {
+  TTreeNode* fromFirst = Add("L 2,0 4,4; L 4,4 0.5,4; L 0.5,4 2,0", {2, 0});
+  fromFirst->RegionCentroid({2.2, 2.7});
+  const TTreeNode* beside =
+      Add("L 2.8,1.8 3.2,1.8; L 3.2,1.8 3.2,2.2; L 3.2,2.2 2.8,2.2; L 2.8,2.2 2.8,1.8", {2.8, 1.8});
+  EXPECT_TRUE(GenerateRegionPoint(fCoordinateTree, fromFirst, beside, 0, 10, 0, 90));
+  EXPECT_TRUE(GenerateRegionPoint(fCoordinateTree, fromFirst, beside, 0, 10, 90, 0));
 }
 
 TEST_F(GenerateRegionPointTest, LooksBesideEveryChordOfAnArc) {

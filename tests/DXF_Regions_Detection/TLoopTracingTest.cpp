@@ -11,9 +11,9 @@ namespace {
 constexpr int kLines = 40;       // across the grid in each direction
 constexpr int kTriangles = 400;  // left of it
 
-// A grid, and triangles so small that the rounding of a walk through the grid might hide their area, each joined to
-// the grid by a line: walked from outside, every one of them leads into the grid.
-TEntityArray GridWithTriangles() {
+// A grid, and triangles each joined to it by a line: walked from outside, every one of them leads into the grid. The
+// rounding of a walk through the grid might hide the area of small ones.
+TEntityArray GridWithTriangles(double aSize) {
   TEntityArray drawing;
   for (int i = 0; i < kLines; ++i) {
     drawing.push_back(TDXFEntity::Line({0, 10.0 * i}, {10.0 * (kLines - 1), 10.0 * i}));
@@ -21,9 +21,10 @@ TEntityArray GridWithTriangles() {
   }
   for (int i = 0; i < kTriangles; ++i) {
     const double y = 0.5 + i * 10.0 * (kLines - 1) / kTriangles;
-    drawing.push_back(TDXFEntity::Line({-1, y}, {-1.0005, y - 0.0004}));
-    drawing.push_back(TDXFEntity::Line({-1.0005, y - 0.0004}, {-1.0005, y + 0.0005}));
-    drawing.push_back(TDXFEntity::Line({-1.0005, y + 0.0005}, {-1, y}));
+    const double x = -1 - aSize;
+    drawing.push_back(TDXFEntity::Line({-1, y}, {x, y - 0.8 * aSize}));
+    drawing.push_back(TDXFEntity::Line({x, y - 0.8 * aSize}, {x, y + aSize}));
+    drawing.push_back(TDXFEntity::Line({x, y + aSize}, {-1, y}));
     drawing.push_back(TDXFEntity::Line({-1, y}, {0, y}));
   }
   return drawing;
@@ -52,7 +53,7 @@ TTraced TraceAll(const TEntityTree& aTree, bool aNegativeToo) {
 }  // namespace
 
 TEST(TLoopTracing, LoopsInDoubtTakeNoMoreThanAMillionStepsBeyondBridgesAndKeepTheirSigns) {
-  const support::TDetection detection(GridWithTriangles());
+  const support::TDetection detection(GridWithTriangles(0.0005));
   const TTraced traced = TraceAll(detection.driver.CoordinateTree(), false);
   const TTraced whole = TraceAll(detection.driver.CoordinateTree(), true);
 
@@ -63,6 +64,14 @@ TEST(TLoopTracing, LoopsInDoubtTakeNoMoreThanAMillionStepsBeyondBridgesAndKeepTh
   EXPECT_EQ(traced.fPositive, (kLines - 1) * (kLines - 1) + kTriangles);
   EXPECT_EQ(traced.fPositive, whole.fPositive);
   EXPECT_EQ(traced.fNegative, whole.fNegative);
+}
+
+TEST(TLoopTracing, LoopsSurelyClockwiseAreNotWalkedBeyondTheirBridges) {
+  const support::TDetection detection(GridWithTriangles(0.4));
+  const TTraced traced = TraceAll(detection.driver.CoordinateTree(), false);
+  EXPECT_LT(traced.fStepsBack, 2 * traced.fHalfEdges) << "one walk through the grid alone takes about as many";
+  EXPECT_EQ(traced.fPositive, (kLines - 1) * (kLines - 1) + kTriangles);
+  EXPECT_EQ(traced.fNegative, 1 + kTriangles);
 }
 
 }  // namespace GeometryEngine

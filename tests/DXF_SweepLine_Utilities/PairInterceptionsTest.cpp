@@ -373,6 +373,12 @@ TEST(CheckArcArcInterceptions, CentresAtOneHeightYieldNoCrossingKept) {
   EXPECT_THAT(Meet("A c 0,7 r 2 300..290", "A c 1,7 r 1.5 300..290"), IsBits(TCoordinateArray{}));
 }
 
+TEST(CheckArcArcInterceptions, CentresAtOneHeightAndNearlyOnePointYieldTheCrossings) {
+  TSettingsGuard settings;
+  EXPECT_THAT(Meet("A c 0,0 r 10 300..290", "A c 0.00005,0 r 10.00002 80..70"),
+              IsNear("-4,9.16515138991168 -4,-9.16515138991168", 1e-4));
+}
+
 TEST(CheckArcArcInterceptions, CentresOneAboveTheOtherYieldTheLargerXFirst) {
   TSettingsGuard settings;
   EXPECT_THAT(Meet("A c 0,0 r 1 300..290", "A c 0,1 r 1 300..290"),

@@ -1,9 +1,11 @@
 #include "GeometryEngine/GeometryEngine_PointInPolygon/WindingContributions.h"
 
+#include <cmath>
 #include <limits>
 
 #include "GeometryEngine/DXF_EntityStorage/EntityEnds.h"
 #include "GeometryEngine/GeometryFuncts/CoordinateAngles.h"
+#include "GeometryEngine/GetFunctions_GeometryOperations/ArcWalking.h"
 #include "tests/support/Geometry.h"
 #include "tests/support/Settings.h"
 
@@ -156,6 +158,26 @@ TEST(GetWindingNumber_Entity_Addition, ArcTurnedByMillionsOfDegreesIsWalkedInAMi
   for (const double y : {-0.9e13, 0.0, 0.9e13}) {
     EXPECT_EQ(GetWindingNumber_Entity_Addition(arc, arc.StartCoords, arc.EndCoords, {0, y}), 1) << y;
   }
+}
+
+// The point lies on the near side of all chords of the arc's own, and on the far side of the middle one of a million.
+TEST(GetWindingNumber_Entity_Addition, ArcIsWalkedInMoreThanAMillionChordsWhereItHasThem) {
+  TSettingsGuard settings;
+  constexpr double kRadius = 1e10;
+  TDXFEntity arc = ParseEntity("A c 0,0 r 2 -90..90");
+  arc.radius = kRadius;
+  arc.StartCoords = {0, -kRadius};
+  arc.EndCoords = {0, kRadius};
+  const TArcSegments own = GetArcSegmentPoints_Surf(arc, 0.01);
+  ASSERT_GT(own.aCount, 2'000'000);
+  const auto sagitta = [](double step) { return kRadius * (1 - std::cos(step / 2 * M_PI / 180)); };
+  constexpr double kStep = 180.0 / 1'000'000;
+  ASSERT_LT(sagitta(own.aStep), sagitta(kStep) / 2);
+  const double depth = (sagitta(own.aStep) + sagitta(kStep)) / 2;
+  const double y = kRadius * std::sin(kStep / 2 * M_PI / 180);  // of the middle chord of a million, next to the x axis
+  const double x = std::sqrt(kRadius * kRadius - y * y);
+  EXPECT_EQ(GetWindingNumber_Entity_Addition(arc, arc.StartCoords, arc.EndCoords, {x - depth, y}), 1);
+  EXPECT_EQ(GetWindingNumber_Entity_Addition(arc, arc.StartCoords, arc.EndCoords, {x, y}), 0);
 }
 
 TEST(GetWindingNumber_Entity_Addition, OtherTypesCountNothing) {
