@@ -1,6 +1,6 @@
 #pragma once
 
-// Things by the place where they lie: a grid of cells over a box, about as many as there are things.
+// Things by the place where they lie: a grid of about square cells over a box, about as many as there are things.
 
 #include <cstddef>
 #include <vector>
@@ -26,7 +26,7 @@ class CellGrid {
   void Visit(const Extents& aBox, Take&& aTake) const {
     for (std::size_t row = Row(aBox.minY); row <= Row(aBox.maxY); ++row) {
       for (std::size_t column = Column(aBox.minX); column <= Column(aBox.maxX); ++column) {
-        for (const std::size_t number : fCells[row * fSide + column]) aTake(number);
+        for (const std::size_t number : fCells[row * fColumns + column]) aTake(number);
       }
     }
   }
@@ -36,7 +36,8 @@ class CellGrid {
   std::size_t Row(double aY) const;
 
   Extents fBox;
-  std::size_t fSide;                             ///< cells along each axis
+  std::size_t fColumns;
+  std::size_t fRows;
   std::vector<std::vector<std::size_t>> fCells;  ///< numbers, ascending
 };
 
