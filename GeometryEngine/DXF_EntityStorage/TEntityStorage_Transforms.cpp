@@ -14,14 +14,29 @@ namespace GeometryEngine {
 
 namespace {
 
-// Every image is made before the first record is overwritten, so that memory that runs out leaves all as it was; the
-// records stay in their places.
+// Every image is made before the first record is overwritten, so that memory that runs out, or a store that fails,
+// leaves all as it was; the records stay in their places.
 template <typename TTransform>
-void ReplaceEach(TEntityArray& aEntities, const TTransform& aTransform) {
+TEntityArray GetImages(const TEntityArray& aEntities, const TTransform& aTransform) {
   TEntityArray images;
   images.reserve(aEntities.size());
   for (const TDXFEntity& entity : aEntities) images.push_back(aTransform(entity));
-  std::ranges::move(images, aEntities.begin());
+  return images;
+}
+
+template <typename TTransform>
+void ReplaceEach(TEntityArray& aEntities, const TTransform& aTransform) {
+  std::ranges::move(GetImages(aEntities, aTransform), aEntities.begin());
+}
+
+/// Answers the start vertex of the images.
+template <typename TTransform>
+TEntityCoordinate ReplaceChain(TEntityArray& aEntities, const TTransform& aTransform) {
+  TEntityStorage chain;
+  chain.EntityArray() = GetImages(aEntities, aTransform);
+  const TEntityCoordinate start = chain.GetStartCoordinate();
+  std::ranges::move(chain.EntityArray(), aEntities.begin());
+  return start;
 }
 
 /// As many entities as that many copies have at most; asked for before any is made, so that too many fail at once.
@@ -44,18 +59,16 @@ void TEntityStorage::RotateEntities_AroundPoint(const TRotationMatrix& aMatrix, 
 }
 
 void TEntityStorage::Translate(double aXDistance, double aYDistance) {
-  ReplaceEach(fEntityArray,
-              [&](const TDXFEntity& aEntity) { return TranslateEntity(aEntity, aXDistance, aYDistance); });
-  fStartCoordinate = GetStartCoordinate();
+  fStartCoordinate = ReplaceChain(
+      fEntityArray, [&](const TDXFEntity& aEntity) { return TranslateEntity(aEntity, aXDistance, aYDistance); });
 }
 
 void TEntityStorage::Mirror(const TDXFEntity& aMirrorLine) {
   // The line is taken by value: it may be an entity of this storage.
-  ReplaceEach(fEntityArray,
-              [aMirrorLine](const TDXFEntity& aEntity) { return MirrorEntity_AboutLine(aEntity, aMirrorLine); });
   // KEPT: the start vertex is taken before the reversal. Chains of three or more entities have the same one after it; a
   // loop of two has the other, and whoever asks it for points inside stores GetStartCoordinate() first.
-  fStartCoordinate = GetStartCoordinate();
+  fStartCoordinate = ReplaceChain(
+      fEntityArray, [aMirrorLine](const TDXFEntity& aEntity) { return MirrorEntity_AboutLine(aEntity, aMirrorLine); });
   // A mirror image runs the other way round; in reverse order it keeps the chain's sense of travel.
   ReverseEntities();
 }

@@ -137,6 +137,16 @@ TEST_F(Xsec, GapAboveTheDefaultToleranceIsNoClosedRegionButIsStillDrawn) {
   EXPECT_THAT(ReadFile(Out("a.svg")), HasSubstr("id=\"open\""));
 }
 
+// From denormals to where squares of coordinates are infinite; and an arc of a radius as large.
+TEST_F(Xsec, CoordinatesOfAnySizeEndInAnAnswer) {
+  const std::string bulge = "0\nLWPOLYLINE\n8\nPlate\n10\n0\n20\n0\n42\n1e150\n10\n4\n20\n3\n";
+  for (const double size : {1e-320, 1e-150, 1e-9, 1e9, 1e150, 1e300}) {
+    const std::string drawing = Drawing(DxfOf(Square(0, 0, size) + Line(-size, 0, 2 * size, size) + bulge));
+    const int code = RunXsec("regions " + drawing + " -o " + Out("a.json") + " -o " + Out("a.svg"));
+    EXPECT_TRUE(code == 0 || code == 5) << size << ": " << code << fStderr;
+  }
+}
+
 TEST_F(Xsec, EmptyDrawingHasNoClosedRegion) {
   EXPECT_EQ(RunXsec("regions " + Drawing(DxfOf(""))), 5);
 }

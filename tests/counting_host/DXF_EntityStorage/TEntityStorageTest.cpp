@@ -5,7 +5,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "GeometryEngine/GeometryEngine_Arrays/EntityArrays.h"
+#include "GeometryEngine/GeometryFuncts/Rotation.h"
 #include "GeometryEngine/host/TDataStore.h"
+#include "tests/support/Chains.h"
 #include "tests/support/Geometry.h"
 #include "tests/support/Settings.h"
 
@@ -39,6 +42,62 @@ TEST(TEntityStorage_QuickSortArray, LeavesTheStorageAsItWasWhenTheStoreFails) {
   dataStore.FailAfter(ifLinearTolerance, 5);
   EXPECT_THROW(storage.QuickSortArray(0, 9), Kelvaralinks::TStoreFailure);
   EXPECT_THAT(storage.EntityArray(), IsBits(before));
+}
+
+struct TOperation {
+  const char* name;
+  void (*operate)(TEntityStorage&);
+};
+
+constexpr TOperation kOperations[] = {
+    {"RotateEntities", [](TEntityStorage& s) { s.RotateEntities(GetRotationMatrix(33)); }},
+    {"RotateEntities_AroundPoint",
+     [](TEntityStorage& s) {
+       s.RotateEntities_AroundPoint(GetRotationMatrix(33), {1, 2});
+     }},
+    {"Translate", [](TEntityStorage& s) { s.Translate(1, 2); }},
+    {"Mirror",
+     [](TEntityStorage& s) {
+       s.Mirror(TDXFEntity::Line({0, 0}, {3, 1}));
+     }},
+    {"DuplicateAroundAxis", [](TEntityStorage& s) { s.DuplicateAroundAxis(3, 8, 45, false); }},
+    {"DuplicateAlongAxis", [](TEntityStorage& s) { s.DuplicateAlongAxis(3, 4); }},
+    {"Offset", [](TEntityStorage& s) { s.Offset(0.3); }},
+    {"ReOrderEntities",
+     [](TEntityStorage& s) {
+       s.ReOrderEntities({4, 2});
+     }},
+    {"RemoveEntities", [](TEntityStorage& s) { s.RemoveEntities({s.Entities(2)}); }},
+    {"AddEntities_CheckDuplicate",
+     [](TEntityStorage& s) { AddEntities_CheckDuplicate(s.EntityArray(), s.EntityArray()); }},
+};
+
+TEST(TEntityStorage_Operations, LeaveTheChainAsItWasWhereverTheStoreFails) {
+  const TSettingsGuard settings;
+  std::size_t failures = 0;
+  for (const TOperation& operation : kOperations) {
+    for (const auto field : {ifLinearTolerance, ifSnappingMode, ifAngleTolerance, ifArcResolution}) {
+      const auto fresh = [] { return support::MakeChain("L 0,0 4,0; L 4,0 4,2; A c 2,2 r 2 0..180; L 0,2 0,0"); };
+      const auto measured = fresh();
+      dataStore.ForgetReads();
+      operation.operate(*measured);
+      const std::size_t reads = dataStore.Reads(field);
+      for (std::size_t place = 0; place < reads; ++place) {
+        const auto chain = fresh();
+        const TEntityArray before = chain->EntityArray();
+        dataStore.FailAfter(field, place);
+        try {
+          operation.operate(*chain);
+        } catch (const Kelvaralinks::TStoreFailure&) {
+          ++failures;
+          EXPECT_TRUE(support::TGeometryMatcher(before).MatchAndExplain(chain->EntityArray(), nullptr))
+              << operation.name << ", field " << static_cast<int>(field) << ", reading " << place << " of " << reads;
+        }
+        dataStore.Reset();
+      }
+    }
+  }
+  EXPECT_GT(failures, 300U);
 }
 
 TEST(TEntityStorage_GetCentroid, ReadsTheArcResolutionOncePerArc) {
