@@ -1,4 +1,4 @@
-// The length of a loop or chain costs no stack: whole detections on a thread with 256 KiB.
+// The length of a loop or chain costs no stack: whole detections on a thread with 64 KiB.
 
 #include <cmath>
 #include <cstddef>
@@ -19,7 +19,7 @@ using support::TDetection;
 
 namespace {
 
-constexpr std::size_t kSmallStack = 256 * 1024;  // bytes
+constexpr std::size_t kSmallStack = 64 * 1024;  // bytes
 constexpr std::int32_t kLoopLength = 100000;     // entities
 constexpr std::int32_t kChainLength = 100000;    // entities
 // A host's own walk looks up each vertex among all: it is followed along fewer.

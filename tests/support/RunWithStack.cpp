@@ -35,7 +35,7 @@ void RunWithStack(std::size_t aBytes, const std::function<void()>& aFunction) {
   pthread_attr_t attributes;
   pthread_t thread;
   Check(pthread_attr_init(&attributes));
-  Check(pthread_attr_setstacksize(&attributes, aBytes));
+  Check(pthread_attr_setstacksize(&attributes, kStackFactor * aBytes));
   Check(pthread_create(&thread, &attributes, &Run, &job));
   Check(pthread_join(thread, nullptr));
   Check(pthread_attr_destroy(&attributes));

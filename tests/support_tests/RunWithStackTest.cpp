@@ -19,7 +19,7 @@ TEST(RunWithStack, RunsTheFunctionOnAStackOfThatSize) {
     EXPECT_EQ(pthread_attr_getstacksize(&attributes, &size), 0);
     pthread_attr_destroy(&attributes);
   });
-  EXPECT_EQ(size, std::size_t{256 * 1024});
+  EXPECT_EQ(size, kStackFactor * 256 * 1024);
 }
 
 TEST(RunWithStack, ThrowsOnWhatTheFunctionThrows) {

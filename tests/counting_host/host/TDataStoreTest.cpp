@@ -42,10 +42,7 @@ TEST_F(TCountingStoreTest, ReadsTextAsANumber) {
 }
 
 TEST_F(TCountingStoreTest, ReadsTextWhateverTheLocaleIs) {
-  const char* decimalComma = nullptr;
-  for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8"}) {
-    if (decimalComma == nullptr) decimalComma = std::setlocale(LC_ALL, name);
-  }
+  ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr);  // with decimal commas
   dataStore.SetValue(ifLinearTolerance, "0.001");
   EXPECT_EQ(dataStore.GetValue(ifLinearTolerance), 0.001);
   dataStore.SetValue(ifLinearTolerance, "0,001");
