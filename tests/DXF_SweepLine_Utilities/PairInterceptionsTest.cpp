@@ -280,6 +280,14 @@ TEST(IsAngleOnArc, BothEndsCountWithinTheAngleTolerance) {
   EXPECT_FALSE(detail::IsAngleOnArc(kNaN, {10, 350}));
 }
 
+TEST(IsAngleOnArc, NoEndCountsUnderAToleranceOfZero) {
+  TSettingsGuard settings;
+  settings.With(TInputFields::ifAngleTolerance, 0);
+  EXPECT_FALSE(detail::IsAngleOnArc(0, {350, 10}));
+  EXPECT_FALSE(detail::IsAngleOnArc(20, {20, 30}));
+  EXPECT_TRUE(detail::IsAngleOnArc(5, {350, 10}));
+}
+
 TEST(CheckLineArcInterceptions, ArcThatStartsAHairBelow360StillHoldsItsStart) {
   TSettingsGuard settings;
   EXPECT_EQ(Meet("L 0,-0.0000008 2,-0.0000008", "A c 0,0 r 1 359.99995..90").size(), 1U);
