@@ -162,6 +162,7 @@ void TEntityTree::DropFirstNode() {
 }
 
 void TEntityTree::ReleaseDroppedNode() {
+  std::erase(fFreeParents, fDroppedNode);
   if (fDroppedNode != nullptr && fDroppedAlone == nullptr) {
     fDroppedNode->~TTreeNode();
     fMemories[1 - fMemoryInUse].release();

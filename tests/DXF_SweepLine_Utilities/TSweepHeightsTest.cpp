@@ -89,7 +89,7 @@ TEST(TSweepHeights, LetNoPairApartThatReportsAPoint) {
     for (const double angleTolerance : {1e-4, 20.0, 400.0}) {
       for (const double origin : {0.0, 1e4, -3e6}) {
         settings.With(ifLinearTolerance, tolerance).With(ifAngleTolerance, angleTolerance);
-        TRandomEntities entities(static_cast<std::uint32_t>(origin + 1 / tolerance), tolerance, origin);
+        TRandomEntities entities(static_cast<std::uint32_t>(std::abs(origin) + 1 / tolerance), tolerance, origin);
         for (int i = 0; i < 1500; ++i) {
           const TDXFEntity entering = entities.Next();
           HoldAgainstPairCheck(entering, entities.Next(), counts);
