@@ -20,8 +20,8 @@ using support::TDetection;
 namespace {
 
 constexpr std::size_t kSmallStack = 64 * 1024;  // bytes
-constexpr std::int32_t kLoopLength = 100000;     // entities
-constexpr std::int32_t kChainLength = 100000;    // entities
+constexpr std::int32_t kLoopLength = 100000;    // entities
+constexpr std::int32_t kChainLength = 100000;   // entities
 // A host's own walk looks up each vertex among all: it is followed along fewer.
 constexpr std::int32_t kChainLength_OwnWalk = 1000;
 constexpr double kPi = 3.141592653589793;
