@@ -10,8 +10,8 @@
 
 namespace GeometryEngine::detail {
 
-/// The entities below the nodes of level 1, of which nodes of level 2 are made when somebody first looks at them. Passes
-/// that know of it read on (TRegionEntities), and no node is made.
+/// The entities below the nodes of level 1, of which nodes of level 2 are made when somebody first looks at them.
+/// Passes that know of it read on (TRegionEntities), and no node is made.
 struct TPendingLeaves {
   std::vector<TIndex> fEntityIndexes;  ///< parent after parent, each in order
   std::vector<std::size_t> fFirst;     ///< by parent where its own begin, and at last where they all end
