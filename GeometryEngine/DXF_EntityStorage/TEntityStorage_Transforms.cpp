@@ -64,11 +64,10 @@ void TEntityStorage::Translate(double aXDistance, double aYDistance) {
 }
 
 void TEntityStorage::Mirror(const TDXFEntity& aMirrorLine) {
-  // The line is taken by value: it may be an entity of this storage.
   // KEPT: the start vertex is taken before the reversal. Chains of three or more entities have the same one after it; a
   // loop of two has the other, and whoever asks it for points inside stores GetStartCoordinate() first.
   fStartCoordinate = ReplaceChain(
-      fEntityArray, [aMirrorLine](const TDXFEntity& aEntity) { return MirrorEntity_AboutLine(aEntity, aMirrorLine); });
+      fEntityArray, [&](const TDXFEntity& aEntity) { return MirrorEntity_AboutLine(aEntity, aMirrorLine); });
   // A mirror image runs the other way round; in reverse order it keeps the chain's sense of travel.
   ReverseEntities();
 }

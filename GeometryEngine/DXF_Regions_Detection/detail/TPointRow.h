@@ -23,8 +23,11 @@ struct TRowPoint {
 /// Few points are added just so. Many are sorted first and cut into runs wherever neighbours differ by more than the
 /// tolerance. Points of different runs are never the same, and stand in the order of their runs; the points of a run
 /// are added one after another as before.
+///
 /// REQUIRES: points that are numbers. No pair test accepts others, and an entity with an end that is none equals
-/// nothing, so that each of its points has a row of its own. COST: n log n, besides the square of the longest run.
+/// nothing, so that each of its points has a row of its own.
+///
+/// COST: n log n, besides the square of the longest run.
 class TPointRow {
  public:
   /// The positions of the points that stay, in order along the entity. The points are of equal entities, lines or arcs.
