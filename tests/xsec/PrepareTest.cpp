@@ -2,6 +2,7 @@
 #include "xsec/prepare/Prepare.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -10,6 +11,7 @@
 #include "tests/support/Settings.h"
 #include "tests/xsec/Drawings.h"
 #include "xsec/RegionDetection.h"
+#include "xsec/prepare/EntityGrid.h"
 
 namespace xsec {
 namespace {
@@ -35,6 +37,14 @@ Detection DetectAt(const Drawing& drawing, bool prepares, double tolerance = 1e-
 std::size_t Count(const std::vector<Cure>& cures, CureKind kind) {
   return static_cast<std::size_t>(
       std::count_if(cures.begin(), cures.end(), [&](const Cure& cure) { return cure.kind == kind; }));
+}
+
+bool AreSameBits(const GeometryEngine::TDXFEntity& a, const GeometryEngine::TDXFEntity& b) {
+  const auto bits = [](const GeometryEngine::TDXFEntity& entity) {
+    return std::array{entity.StartCoords.x, entity.StartCoords.y, entity.EndCoords.x,    entity.EndCoords.y,
+                      entity.radius,        entity.startAngle,    entity.CentreCoords.x, entity.CentreCoords.y};
+  };
+  return a.EntityType == b.EntityType && bits(a) == bits(b);
 }
 
 TEST(Prepare, LeavesADrawingWithoutDifficultiesAlone) {
@@ -69,6 +79,62 @@ TEST(Prepare, LinesThatLieOnEachOtherAreCutAtEachOthersEndsAndKeptOnce) {
   EXPECT_EQ(Count(prepared.cures, CureKind::Overlap), 1U);
   EXPECT_EQ(Count(prepared.cures, CureKind::Duplicate), 1U);
   EXPECT_THAT(prepared.pieces, SizeIs(3));
+}
+
+TEST(Prepare, DrawnTwoThousandTimesGivesThePiecesOfDrawnOnce) {
+  const std::string once = Rectangle(0, 0, 9, 9) + "L 3,0 3,9; " + Circle(6, 4, 1) + Circle(7, 4, 1);
+  std::string often;
+  for (int i = 0; i < 2000; ++i) often += once;
+  const PreparedDrawing expected = Prepared(DrawingOf(once));
+  const PreparedDrawing prepared = Prepared(DrawingOf(often));
+  ASSERT_THAT(prepared.pieces, SizeIs(expected.pieces.size()));
+  for (std::size_t i = 0; i < expected.pieces.size(); ++i) {
+    EXPECT_TRUE(AreSameBits(prepared.pieces[i].geometry, expected.pieces[i].geometry)) << i;
+    EXPECT_EQ(prepared.pieces[i].source, expected.pieces[i].source);
+  }
+  EXPECT_EQ(Count(prepared.cures, CureKind::Overlap), 1999 * DrawingOf(once).entities.size());
+  EXPECT_EQ(Count(prepared.cures, CureKind::Duplicate), 1999 * expected.pieces.size());
+}
+
+TEST(Prepare, LineDrawnTheOtherWayIsADouble) {
+  const PreparedDrawing prepared = Prepared(DrawingOf("L 0,0 9,1; L 4,-3 5,3; L 9,1 0,0"));
+  EXPECT_THAT(prepared.pieces, SizeIs(2));
+  EXPECT_EQ(Count(prepared.cures, CureKind::Overlap), 1U);
+  EXPECT_EQ(Count(prepared.cures, CureKind::Duplicate), 1U);
+}
+
+TEST(Prepare, HalfOfACircleThatIsDrawnAloneAsWellDoesNotTakeItsPlace) {
+  const PreparedDrawing prepared = Prepared(DrawingOf("A c 6,4 r 1 0..180; L 0,0 9,0; " + Circle(6, 4, 1)));
+  EXPECT_THAT(prepared.pieces, SizeIs(3));
+  EXPECT_EQ(Count(prepared.cures, CureKind::Duplicate), 1U);
+}
+
+TEST(Prepare, ThousandLinesFromOnePointInOneDirectionAreCutAtEachOthersEnds) {
+  constexpr std::size_t kLines = 1000;
+  std::string drawing;
+  for (std::size_t i = 1; i <= kLines; ++i)
+    drawing += "L 0,0 " + std::to_string(2 * i) + "," + std::to_string(i) + "; ";
+  const PreparedDrawing prepared = Prepared(DrawingOf(drawing));
+  EXPECT_THAT(prepared.pieces, SizeIs(kLines));
+  EXPECT_EQ(Count(prepared.cures, CureKind::Overlap), kLines * (kLines - 1) / 2);
+  EXPECT_EQ(Count(prepared.cures, CureKind::Duplicate), kLines * (kLines - 1) / 2);
+}
+
+TEST(Prepare, HundredsOfArcsOfOneCircleAreCutAtEachOthersEnds) {
+  constexpr std::size_t kArcs = 340;
+  std::string drawing;
+  for (std::size_t i = 1; i <= kArcs; ++i) drawing += "A c 1,2 r 50 3.." + std::to_string(3 + i) + "; ";
+  const PreparedDrawing prepared = Prepared(DrawingOf(drawing));
+  EXPECT_THAT(prepared.pieces, SizeIs(kArcs));
+  EXPECT_EQ(Count(prepared.cures, CureKind::Overlap), kArcs * (kArcs - 1) / 2);
+}
+
+TEST(NearPairs, OfCirclesWithinEachOtherAreTheHalvesOfEach) {
+  std::string circles;
+  for (int i = 1; i <= 500; ++i) circles += Circle(1, 2, i);
+  std::vector<Part> parts;
+  for (const DrawingEntity& entity : DrawingOf(circles).entities) parts.push_back({entity.geometry, 0, {}, {}});
+  EXPECT_THAT(NearPairs(parts, 0.01), SizeIs(500));
 }
 
 TEST(Prepare, CircleThatTouchesAnotherFromInsideIsARegionInEveryDirection) {

@@ -1,6 +1,8 @@
 #include "xsec/prepare/Curves.h"
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "GeometryEngine/host/Numerics.h"
 
@@ -11,6 +13,9 @@ using GeometryEngine::kRadiansPerDegree;
 using GeometryEngine::TDXFEntity;
 
 namespace {
+
+constexpr double kHalfTurn = 180;        // degrees
+constexpr double kHalfTurnSlack = 1e-6;  // degrees that rounding may put to a half turn or take from it
 
 double AngleAt(const Point& centre, const Point& point) {
   const double angle = std::atan2(point.y - centre.y, point.x - centre.x) * kDegreesPerRadian;
@@ -34,6 +39,23 @@ double PositionOf(const TDXFEntity& aEntity, const Point& aPoint) {
   const Point along = aEntity.EndCoords - aEntity.StartCoords;
   const Point offset = aPoint - aEntity.StartCoords;
   return (offset.x * along.x + offset.y * along.y) / std::hypot(along.x, along.y);
+}
+
+void SortAlong(const TDXFEntity& aEntity, std::vector<Point>& aPoints) {
+  std::vector<std::pair<double, Point>> placed;
+  placed.reserve(aPoints.size());
+  for (const Point& point : aPoints) placed.emplace_back(PositionOf(aEntity, point), point);
+  std::sort(placed.begin(), placed.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+  std::transform(placed.begin(), placed.end(), aPoints.begin(), [](const auto& place) { return place.second; });
+}
+
+bool AreHalves(const TDXFEntity& aFirst, const TDXFEntity& aSecond) {
+  const TDXFEntity& a = aFirst;
+  const TDXFEntity& b = aSecond;
+  return IsArc(a) && IsArc(b) && a.CentreCoords.x == b.CentreCoords.x && a.CentreCoords.y == b.CentreCoords.y &&
+         a.radius == b.radius && std::abs(a.ArcSweep() - kHalfTurn) < kHalfTurnSlack &&
+         std::abs(b.ArcSweep() - kHalfTurn) < kHalfTurnSlack && a.EndCoords == b.StartCoords &&
+         b.EndCoords == a.StartCoords;
 }
 
 double LengthOf(const TDXFEntity& aEntity) {

@@ -2,6 +2,8 @@
 
 // Measures along one line or arc as the drawing has it, from its start to its end.
 
+#include <vector>
+
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 #include "xsec/TravelledPiece.h"
 
@@ -19,6 +21,12 @@ double PositionOf(const GeometryEngine::TDXFEntity& aEntity, const Point& aPoint
 
 double LengthOf(const GeometryEngine::TDXFEntity& aEntity);
 double DistanceTo(const GeometryEngine::TDXFEntity& aEntity, const Point& aPoint);
+
+/// Puts points in order along the entity. COST: n log n
+void SortAlong(const GeometryEngine::TDXFEntity& aEntity, std::vector<Point>& aPoints);
+
+/// Whether both arcs are the halves of a circle, one behind the other as reading makes them.
+bool AreHalves(const GeometryEngine::TDXFEntity& aFirst, const GeometryEngine::TDXFEntity& aSecond);
 
 /// An arc of that circle between two points on it, its angles taken from them.
 GeometryEngine::TDXFEntity ArcBetween(const Point& aStart, const Point& aEnd, const Point& aCentre, double aRadius);

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <cmath>
 
 #include "xsec/prepare/Curves.h"
@@ -15,9 +14,7 @@ std::vector<Point> PointsInOrder(const Part& part) {
   std::vector<Point> points = part.meetings;
   points.push_back(part.geometry.StartCoords);
   points.push_back(part.geometry.EndCoords);
-  std::sort(points.begin(), points.end(), [&](const Point& a, const Point& b) {
-    return PositionOf(part.geometry, a) < PositionOf(part.geometry, b);
-  });
+  SortAlong(part.geometry, points);
   return points;
 }
 

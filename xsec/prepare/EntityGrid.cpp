@@ -62,6 +62,13 @@ bool AreBoxesNear(const Extents& a, const Extents& b, double reach) {
   return a.minX <= b.maxX + reach && b.minX <= a.maxX + reach && a.minY <= b.maxY + reach && b.minY <= a.maxY + reach;
 }
 
+/// Circles that lie beside or within each other with more than the reach between.
+bool AreCirclesApart(const TravelledPiece& a, const TravelledPiece& b, double reach) {
+  if (!a.isArc || !b.isArc) return false;
+  const double distance = std::hypot(a.centre.x - b.centre.x, a.centre.y - b.centre.y);
+  return distance > a.radius + b.radius + reach || distance < std::abs(a.radius - b.radius) - reach;
+}
+
 }  // namespace
 
 std::vector<PartPair> NearPairs(const std::vector<Part>& aParts, double aReach) {
@@ -79,8 +86,10 @@ std::vector<PartPair> NearPairs(const std::vector<Part>& aParts, double aReach) 
     const std::size_t first = pairs.size();
     for (const std::size_t cell : grid.CellsOf(curves[i])) {
       for (const std::size_t other : cells[cell]) {
-        if (lastSeenFor[other] == i || !AreBoxesNear(boxes[other], boxes[i], aReach)) continue;
+        if (lastSeenFor[other] == i) continue;
         lastSeenFor[other] = i;
+        if (!AreBoxesNear(boxes[other], boxes[i], aReach) || AreCirclesApart(curves[other], curves[i], aReach))
+          continue;
         pairs.emplace_back(other, i);
       }
       cells[cell].push_back(i);

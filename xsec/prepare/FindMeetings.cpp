@@ -1,8 +1,10 @@
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include "xsec/prepare/Curves.h"
 #include "xsec/prepare/PairMeetings.h"
+#include "xsec/prepare/PointCells.h"
 #include "xsec/prepare/Preparation.h"
 
 namespace xsec {
@@ -15,6 +17,8 @@ constexpr double kOneHeight =
     1e-3;  // rise of one centre over the other, as a share of their distance, that is "nearly"
 
 constexpr double kOnCurve = 1e-2;  // tolerances that a point of a curve may be off it
+
+constexpr std::size_t kFewPoints = 16;  // that comparing all with all is quicker for than cells
 
 bool IsEndOf(const Point& point, const TDXFEntity& entity) {
   return point == entity.StartCoords || point == entity.EndCoords;
@@ -72,13 +76,13 @@ class MeetingFinder {
   Part& Second() { return fWork.parts[fPair.second]; }
 
   void Meet(const Point& point) {
-    AddUnlessHeld(point, First().meetings);
-    AddUnlessHeld(point, Second().meetings);
+    First().meetings.push_back(point);
+    Second().meetings.push_back(point);
   }
 
   void Cut(const Point& point) {
     for (Part* part : {&First(), &Second()}) {
-      if (!IsEndOf(point, part->geometry)) AddUnlessHeld(point, part->cuts);
+      if (!IsEndOf(point, part->geometry)) part->cuts.push_back(point);
     }
   }
 
@@ -98,8 +102,7 @@ class MeetingFinder {
 
   /// Two half circles share both ends and nothing between: the middle between two neighbouring points tells.
   bool RunTogether(const TDXFEntity& a, const TDXFEntity& b, std::vector<Point> points) const {
-    std::sort(points.begin(), points.end(),
-              [&](const Point& p, const Point& q) { return PositionOf(a, p) < PositionOf(a, q); });
+    SortAlong(a, points);
     for (std::size_t i = 1; i < points.size(); ++i) {
       const Point middle = MidPoint(Travel(PieceBetween(a, points[i - 1], points[i]), true));
       if (DistanceTo(a, middle) < fWork.tolerance && DistanceTo(b, middle) < fWork.tolerance) return true;
@@ -134,9 +137,24 @@ class MeetingFinder {
 
 /// A cut may bend a part by as much as the tolerance; where others cross it, it has to stay in place.
 void CutWhereMet(Part& part) {
-  for (const Point& meeting : part.meetings) {
-    if (!IsEndOf(meeting, part.geometry)) AddUnlessHeld(meeting, part.cuts);
+  std::copy_if(part.meetings.begin(), part.meetings.end(), std::back_inserter(part.cuts),
+               [&](const Point& meeting) { return !IsEndOf(meeting, part.geometry); });
+}
+
+/// Without the points that are the same as one that stays before them.
+std::vector<Point> Distinct(const std::vector<Point>& points, double tolerance) {
+  std::vector<Point> distinct;
+  if (points.size() <= kFewPoints) {
+    for (const Point& point : points) AddUnlessHeld(point, distinct);
+    return distinct;
   }
+  PointCells cells(tolerance);
+  for (const Point& point : points) {
+    if (cells.Visit(point, [&](std::size_t i) { return distinct[i] == point; })) continue;
+    cells.Add(point, distinct.size());
+    distinct.push_back(point);
+  }
+  return distinct;
 }
 
 }  // namespace
@@ -145,7 +163,9 @@ void FindMeetings(Preparation& aWork) {
   MeetingFinder finder(aWork);
   for (const PartPair& pair : aWork.pairs) finder.Take(pair);
   for (Part& part : aWork.parts) {
+    part.meetings = Distinct(part.meetings, aWork.tolerance);
     if (!part.cuts.empty()) CutWhereMet(part);
+    part.cuts = Distinct(part.cuts, aWork.tolerance);
   }
 }
 

@@ -34,8 +34,7 @@ std::vector<TDXFEntity> PiecesOf(const Part& part) {
   const TDXFEntity& whole = part.geometry;
   if (part.cuts.empty()) return {whole};
   std::vector<Point> cuts = part.cuts;
-  std::sort(cuts.begin(), cuts.end(),
-            [&](const Point& a, const Point& b) { return PositionOf(whole, a) < PositionOf(whole, b); });
+  SortAlong(whole, cuts);
   cuts.push_back(whole.EndCoords);
   std::vector<TDXFEntity> pieces;
   Point from = whole.StartCoords;
@@ -48,27 +47,37 @@ std::vector<TDXFEntity> PiecesOf(const Part& part) {
   return pieces;
 }
 
-/// Pieces that lie on an earlier one all along are one too many.
+/// Pieces that lie on an earlier one all along are one too many, and so are all those of doubles.
 class PieceCollector {
  public:
   explicit PieceCollector(Preparation& work) : fWork(work), fMiddles(kReachInTolerances * work.tolerance) {}
 
-  void Take(std::size_t part) {
-    for (const TDXFEntity& piece : PiecesOf(fWork.parts[part])) Add(piece, part);
+  void TakeAll() {
+    auto twin = fWork.doubles.begin();
+    for (const Part& part : fWork.parts) {
+      for (; twin != fWork.doubles.end() && twin->source < part.source; ++twin) LeaveOut(*twin);
+      for (const TDXFEntity& piece : PiecesOf(part)) Add(piece, part.source);
+    }
+    for (; twin != fWork.doubles.end(); ++twin) LeaveOut(*twin);
   }
 
   std::vector<PreparedPiece> Result() && { return std::move(fPieces); }
 
  private:
-  void Add(const TDXFEntity& piece, std::size_t part) {
+  void Add(const TDXFEntity& piece, std::size_t source) {
     const Point middle = MidPoint(Travel(piece, true));
     const auto isSame = [&](std::size_t i) { return LieOnEachOther(fPieces[i].geometry, piece, middle); };
-    if (fMiddles.Visit(middle, isSame)) {
-      fWork.Report(CureKind::Duplicate, middle, part, kNone, LengthOf(piece));
-      return;
-    }
+    if (fMiddles.Visit(middle, isSame)) return LeaveOut(piece, source);
     fMiddles.Add(middle, fPieces.size());
-    fPieces.push_back({piece, fWork.parts[part].source});
+    fPieces.push_back({piece, source});
+  }
+
+  void LeaveOut(const Double& twin) {
+    for (const TDXFEntity& piece : PiecesOf(fWork.parts[twin.part])) LeaveOut(piece, twin.source);
+  }
+
+  void LeaveOut(const TDXFEntity& piece, std::size_t source) {
+    fWork.cures.push_back({CureKind::Duplicate, MidPoint(Travel(piece, true)), source, kNone, LengthOf(piece)});
   }
 
   bool LieOnEachOther(const TDXFEntity& a, const TDXFEntity& b, const Point& middle) const {
@@ -101,6 +110,7 @@ namespace {
 
 PreparedDrawing PrepareTurned(const Drawing& aDrawing, double aTolerance, double aTurn) {
   Preparation work = WorkOn(aDrawing, aTolerance, Turn(aTurn));
+  SetDoublesApart(work);
   UnifyCircles(work);
   work.pairs = NearPairs(work.parts, kReachInTolerances * aTolerance);
   TurnSeams(work);
@@ -108,7 +118,7 @@ PreparedDrawing PrepareTurned(const Drawing& aDrawing, double aTolerance, double
   CutSteepLines(work);
   SettleTurnOrder(work);
   PieceCollector collector(work);
-  for (std::size_t i = 0; i < work.parts.size(); ++i) collector.Take(i);
+  collector.TakeAll();
   PreparedDrawing prepared;
   prepared.pieces = std::move(collector).Result();
   for (const MeetingPlace& place : FindPlaces(work)) prepared.places.push_back(place.point);

@@ -8,6 +8,7 @@
 #include "GeometryEngine/DXF_Regions_Utilities/EntityTerms.h"
 #include "GeometryEngine/host/Numerics.h"
 #include "xsec/prepare/Curves.h"
+#include "xsec/prepare/MetPlaces.h"
 #include "xsec/prepare/Preparation.h"
 #include "xsec/prepare/VertexPlaces.h"
 
@@ -54,11 +55,31 @@ struct Parting {
   }
 };
 
+/// Where all parts are met, looked at where it is asked for.
+class Meetings {
+ public:
+  explicit Meetings(Preparation& work) : fWork(work), fPlaces(work.parts.size()) {}
+
+  const MetPlaces& Of(std::size_t part) {
+    if (!fPlaces[part]) fPlaces[part].emplace(fWork.parts[part]);
+    return *fPlaces[part];
+  }
+
+  void Add(std::size_t part, const Point& meeting) {
+    fWork.parts[part].meetings.push_back(meeting);
+    if (fPlaces[part]) fPlaces[part]->AddLatest(fWork.parts[part]);
+  }
+
+ private:
+  Preparation& fWork;
+  std::vector<std::optional<MetPlaces>> fPlaces;
+};
+
 /// A vertex and what leaves it.
 class Fan {
  public:
-  Fan(const Preparation& work, const Point& place, const std::vector<std::size_t>& parts) : fWork(work), fPlace(place) {
-    for (const std::size_t part : parts) AddPart(part);
+  Fan(const Preparation& work, Meetings& meetings, const MeetingPlace& vertex) : fWork(work), fPlace(vertex.point) {
+    for (const std::size_t part : vertex.parts) AddPart(part, meetings.Of(part));
   }
 
   bool IsAtRisk() const { return fEdges.size() > 2 && !IsInOrder(std::numeric_limits<double>::infinity()); }
@@ -84,22 +105,20 @@ class Fan {
  private:
   const TDXFEntity& Geometry(const HalfEdge& edge) const { return fWork.parts[edge.part].geometry; }
 
-  void AddPart(std::size_t part) {
+  void AddPart(std::size_t part, const MetPlaces& met) {
     const TDXFEntity& entity = fWork.parts[part].geometry;
-    if (fPlace != entity.EndCoords) AddEdge(part, true);
-    if (fPlace != entity.StartCoords) AddEdge(part, false);
+    if (fPlace != entity.EndCoords) AddEdge(part, true, met);
+    if (fPlace != entity.StartCoords) AddEdge(part, false, met);
   }
 
-  void AddEdge(std::size_t part, bool isForward) {
+  void AddEdge(std::size_t part, bool isForward, const MetPlaces& met) {
     const TDXFEntity& entity = fWork.parts[part].geometry;
     HalfEdge edge{part, isForward, 0, 0, isForward ? entity.EndCoords : entity.StartCoords, 0};
     const double here = PositionOf(entity, fPlace);
     edge.length = std::abs(PositionOf(entity, edge.next) - here);
-    for (const Point& meeting : fWork.parts[part].meetings) {
-      const double way = (PositionOf(entity, meeting) - here) * (isForward ? 1 : -1);
-      if (meeting == fPlace || !(way > 0) || way >= edge.length) continue;
-      edge.length = way;
-      edge.next = meeting;
+    if (const MetPlace* next = met.NextFrom(here, fPlace, isForward, edge.length)) {
+      edge.length = std::abs(next->position - here);
+      edge.next = next->point;
     }
     SetDirection(entity, edge);
     fEdges.push_back(edge);
@@ -165,6 +184,7 @@ class Fan {
       for (std::size_t j = i + 1; j < fEdges.size(); ++j) {
         if (AreSideBySide(fEdges[i], fEdges[j])) {
           chord = std::max(chord, PartingOf(fEdges[i], fEdges[j]).WayToGap(gap));
+          if (std::isinf(chord)) return chord;
         }
       }
     }
@@ -176,17 +196,25 @@ class Fan {
   std::vector<HalfEdge> fEdges;
 };
 
+/// Only the first chords of arcs can show another order.
+bool HasArc(const Preparation& work, const MeetingPlace& vertex) {
+  return std::any_of(vertex.parts.begin(), vertex.parts.end(),
+                     [&](std::size_t part) { return IsArc(work.parts[part].geometry); });
+}
+
 }  // namespace
 
 void SettleTurnOrder(Preparation& aWork) {
+  Meetings meetings(aWork);
   for (const MeetingPlace& vertex : FindPlaces(aWork)) {
-    const Fan fan(aWork, vertex.point, vertex.parts);
+    if (!HasArc(aWork, vertex)) continue;
+    const Fan fan(aWork, meetings, vertex);
     if (!fan.IsAtRisk()) continue;
     const auto chord = fan.BestChord();
     if (!chord) continue;
     for (const auto& [part, place] : fan.CutsFor(*chord)) {
       aWork.parts[part].cuts.push_back(place);
-      aWork.parts[part].meetings.push_back(place);
+      meetings.Add(part, place);
     }
     aWork.Report(CureKind::TurnOrder, vertex.point, vertex.parts.front(), kNone, *chord);
   }

@@ -13,17 +13,8 @@ namespace {
 
 using GeometryEngine::TDXFEntity;
 
-constexpr double kCloseToSeam = 10;      // degrees between a meeting and a seam that hide the order of turns
-constexpr double kHalfTurn = 180;        // degrees
-constexpr double kHalfTurnSlack = 1e-6;  // degrees that rounding may put to a half turn or take from it
-
-/// The two halves of a circle, one behind the other as reading made them.
-bool AreHalves(const TDXFEntity& a, const TDXFEntity& b) {
-  return IsArc(a) && IsArc(b) && a.CentreCoords.x == b.CentreCoords.x && a.CentreCoords.y == b.CentreCoords.y &&
-         a.radius == b.radius && std::abs(a.ArcSweep() - kHalfTurn) < kHalfTurnSlack &&
-         std::abs(b.ArcSweep() - kHalfTurn) < kHalfTurnSlack && a.EndCoords == b.StartCoords &&
-         b.EndCoords == a.StartCoords;
-}
+constexpr double kCloseToSeam = 10;  // degrees between a meeting and a seam that hide the order of turns
+constexpr double kHalfTurn = 180;    // degrees
 
 /// For each part that is the first half of a circle where others meet the circle, as directions modulo a half turn.
 class SeamTurner {

@@ -16,14 +16,26 @@ class PlaceCollector {
  public:
   explicit PlaceCollector(double tolerance) : fKnown(tolerance) {}
 
-  void Add(const Point& point, std::size_t part) {
-    auto& parts = fPlaces[PlaceOf(point)].parts;
-    if (std::find(parts.begin(), parts.end(), part) == parts.end()) parts.push_back(part);
+  void AddEnds(const TDXFEntity& geometry, std::size_t part) {
+    for (const Point& end : {geometry.StartCoords, geometry.EndCoords}) Add(end, part);
+  }
+
+  /// REQUIRES: the part's ends were added.
+  void AddMeetings(const Part& met, std::size_t part) {
+    for (const Point& end : {met.geometry.StartCoords, met.geometry.EndCoords}) fLastPart[PlaceOf(end)] = part;
+    for (const Point& meeting : met.meetings) Add(meeting, part);
   }
 
   std::vector<MeetingPlace> Result() && { return std::move(fPlaces); }
 
  private:
+  void Add(const Point& point, std::size_t part) {
+    const std::size_t place = PlaceOf(point);
+    if (fLastPart[place] == part) return;
+    fLastPart[place] = part;
+    fPlaces[place].parts.push_back(part);
+  }
+
   std::size_t PlaceOf(const Point& point) {
     std::size_t first = fPlaces.size();
     fKnown.Visit(point, [&](std::size_t place) {
@@ -33,12 +45,14 @@ class PlaceCollector {
     if (first == fPlaces.size()) {
       fKnown.Add(point, first);
       fPlaces.push_back({point, {}});
+      fLastPart.push_back(kNone);
     }
     return first;
   }
 
   PointCells fKnown;
   std::vector<MeetingPlace> fPlaces;
+  std::vector<std::size_t> fLastPart;  ///< for each place the part that was last found there
 };
 
 /// The closest of some points that is the same as one of others, for each of these; kNone where none is.
@@ -85,13 +99,8 @@ void MoveVertex(TTreeNode& vertex, GeometryEngine::TEntityStorage& pieces, const
 
 std::vector<MeetingPlace> FindPlaces(const Preparation& aWork) {
   PlaceCollector places(aWork.tolerance);
-  for (std::size_t i = 0; i < aWork.parts.size(); ++i) {
-    places.Add(aWork.parts[i].geometry.StartCoords, i);
-    places.Add(aWork.parts[i].geometry.EndCoords, i);
-  }
-  for (std::size_t i = 0; i < aWork.parts.size(); ++i) {
-    for (const Point& meeting : aWork.parts[i].meetings) places.Add(meeting, i);
-  }
+  for (std::size_t i = 0; i < aWork.parts.size(); ++i) places.AddEnds(aWork.parts[i].geometry, i);
+  for (std::size_t i = 0; i < aWork.parts.size(); ++i) places.AddMeetings(aWork.parts[i], i);
   return std::move(places).Result();
 }
 
