@@ -20,7 +20,7 @@ constexpr const char* kExamples =
     "xsec COMMAND --help has the options and more examples.\n"
     "\n"
     "Exit codes: 0 fine, 1 findings or differences, 2 wrong usage, 3 drawing unreadable, 4 output not written,\n"
-    "5 no closed region found, 6 an outline that cannot be offset, 7 a limit is reached.";
+    "5 no closed region found, 6 an outline that cannot be offset, 7 a limit is reached, 8 a crash, with --isolate.";
 
 }  // namespace
 

@@ -22,7 +22,7 @@ constexpr const char* kExamples =
     "  xsec check stator.dxf --tol 0.004     what is left at a tolerance that the ladder shows\n"
     "\n"
     "Exit codes: 0 nothing found, 1 findings, 2 wrong usage, 3 drawing unreadable, 4 output not written,\n"
-    "7 a limit is reached.";
+    "7 a limit is reached, 8 a crash, with --isolate.";
 
 struct CheckOptions {
   DrawingOptions drawing;
@@ -64,7 +64,9 @@ void AddCheckCommand(CLI::App& aApp, Action& aAction) {
       ->type_name("FILE")
       ->allow_extra_args(false);
   command.footer(kExamples);
-  command.callback([&aAction, options] { aAction = [options] { return RunCheck(*options); }; });
+  command.callback([&aAction, options] {
+    aAction = [options] { return RunAsAsked(options->drawing, options->outputs, [&] { return RunCheck(*options); }); };
+  });
 }
 
 }  // namespace xsec

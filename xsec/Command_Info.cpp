@@ -23,7 +23,7 @@ constexpr const char* kExamples =
     "  xsec info stator.dxf              unit, extents, what it holds, and what would be skipped\n"
     "  xsec info pole.dxf --units m      the same when it is drawn in metres\n"
     "\n"
-    "Exit codes: 0 fine, 2 wrong usage, 3 drawing unreadable, 7 a limit is reached.";
+    "Exit codes: 0 fine, 2 wrong usage, 3 drawing unreadable, 7 a limit is reached, 8 a crash, with --isolate.";
 
 using Key = std::function<std::string(const DrawingEntity&)>;
 
@@ -71,6 +71,12 @@ std::string InfoText(const Drawing& drawing, const Settings& settings) {
   return text;
 }
 
+ExitCode RunInfo(const DrawingOptions& options) {
+  const Drawing drawing = LoadDrawing(options);
+  PrintToStandardOutput(InfoText(drawing, ApplySettings(options.settings, drawing.extents)));
+  return ExitCode::Fine;
+}
+
 }  // namespace
 
 void AddInfoCommand(CLI::App& aApp, Action& aAction) {
@@ -80,11 +86,7 @@ void AddInfoCommand(CLI::App& aApp, Action& aAction) {
   AddDrawingOptions(command, *options);
   command.footer(kExamples);
   command.callback([&aAction, options] {
-    aAction = [options] {
-      const Drawing drawing = LoadDrawing(*options);
-      PrintToStandardOutput(InfoText(drawing, ApplySettings(options->settings, drawing.extents)));
-      return ExitCode::Fine;
-    };
+    aAction = [options] { return RunAsAsked(*options, {}, [&] { return RunInfo(*options); }); };
   });
 }
 

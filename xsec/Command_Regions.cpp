@@ -27,7 +27,7 @@ constexpr const char* kExamples =
     "                                                 names and materials by rules, for gmsh and FEMM\n"
     "\n"
     "Exit codes: 0 fine, 2 wrong usage, 3 drawing unreadable, 4 output not written, 5 no closed region found,\n"
-    "7 a limit is reached.";
+    "7 a limit is reached, 8 a crash, with --isolate.";
 
 struct RegionsOptions {
   DrawingOptions drawing;
@@ -62,7 +62,11 @@ void AddRegionsCommand(CLI::App& aApp, Action& aAction) {
                   "How often the machine holds what is drawn, for areas of the whole; 8 for an eighth");
   AddOutputOption(command, options->outputs);
   command.footer(kExamples);
-  command.callback([&aAction, options] { aAction = [options] { return RunRegions(*options); }; });
+  command.callback([&aAction, options] {
+    aAction = [options] {
+      return RunAsAsked(options->drawing, options->outputs, [&] { return RunRegions(*options); });
+    };
+  });
 }
 
 }  // namespace xsec

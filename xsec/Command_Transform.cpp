@@ -32,7 +32,7 @@ constexpr const char* kExamples =
     "regions that are found in the result.\n"
     "\n"
     "Exit codes: 0 fine, 2 wrong usage, 3 drawing unreadable, 4 output not written, 5 no closed region found,\n"
-    "6 an outline that cannot be offset, 7 a limit is reached.";
+    "6 an outline that cannot be offset, 7 a limit is reached, 8 a crash, with --isolate.";
 
 struct TransformOptions {
   DrawingOptions drawing;
@@ -127,7 +127,9 @@ void AddTransformCommand(CLI::App& aApp, Action& aAction) {
   command.footer(kExamples);
   command.callback([&aAction, options] {
     CheckOneIsAsked(*options);
-    aAction = [options] { return RunOrRefuse(*options); };
+    aAction = [options] {
+      return RunAsAsked(options->drawing, options->outputs, [&] { return RunOrRefuse(*options); });
+    };
   });
 }
 

@@ -12,6 +12,7 @@
 #include "xsec/DrawingExtents.h"
 #include "xsec/DxfText.h"
 #include "xsec/Errors.h"
+#include "xsec/Isolation.h"
 #include "xsec/SourceText.h"
 #include "xsec/Units.h"
 #include "xsec/naming/Rules.h"
@@ -114,6 +115,10 @@ void AddLimitOptions(CLI::App& command, DrawingOptions& options) {
                  [&](std::uint64_t size) { options.limits.memory = size * kMebibyte; });
   AddLimitOption(command, "--max-seconds", "S", "Give up when more processor time is needed", kMostSeconds,
                  [&](std::uint64_t seconds) { options.limits.seconds = seconds; });
+  command
+      .add_flag("--isolate", options.isIsolated,
+                "Work in a process apart: where that one crashes or is killed, say so, with an exit code of its own")
+      ->group("Limits");
 }
 
 bool FitsAny(const std::string& layer, const std::vector<std::string>& patterns) {
@@ -189,6 +194,11 @@ void AddDrawingOptions(CLI::App& aCommand, DrawingOptions& aOptions) {
   AddSettingsOptions(aCommand, aOptions.settings);
   AddLimitOptions(aCommand, aOptions);
   aCommand.parse_complete_callback([&aOptions] { CheckSettings(aOptions.settings); });
+}
+
+ExitCode RunAsAsked(const DrawingOptions& aOptions, const std::vector<Output>& aOutputs,
+                    const std::function<ExitCode()>& aWork) {
+  return aOptions.isIsolated ? RunApart(aOutputs, aWork) : aWork();
 }
 
 std::pair<double, double> PairOf(const std::string& aOption, const std::string& aText) {

@@ -2,6 +2,7 @@
 
 // The options that every command with a drawing has: which drawing, in which unit, and with which settings.
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -9,8 +10,10 @@
 
 #include "xsec/Drawing.h"
 #include "xsec/DxfReader.h"
+#include "xsec/Errors.h"
 #include "xsec/ProcessLimits.h"
 #include "xsec/Settings.h"
+#include "xsec/output/OutputFiles.h"
 
 namespace CLI {
 class App;
@@ -26,11 +29,16 @@ struct DrawingOptions {
   bool strict = false;                      ///< whatever is not read is an error
   SettingsRequest settings;
   ProcessLimits limits;
+  bool isIsolated = false;  ///< the work is done in a process apart
 };
 
 /// Binds the options to where they are kept, which must outlive the parsing. Values that make no sense are a UsageError
 /// while they are parsed.
 void AddDrawingOptions(CLI::App& aCommand, DrawingOptions& aOptions);
+
+/// Does a command's work as the options ask: here or in a process apart.
+ExitCode RunAsAsked(const DrawingOptions& aOptions, const std::vector<Output>& aOutputs,
+                    const std::function<ExitCode()>& aWork);
 
 /// "X,Y" as two numbers. Throws UsageError, which names the option.
 std::pair<double, double> PairOf(const std::string& aOption, const std::string& aText);

@@ -16,6 +16,7 @@ enum class ExitCode : int {
   NoClosedRegion = 5,
   CannotBeOffset = 6,
   LimitReached = 7,      ///< the memory or the time that there is, or that was given, is used up
+  EndedBySignal = 8,     ///< the process at work, where it is one apart: it crashed or was killed
   UnexpectedFault = 70,  ///< nothing the user can help: there is a mistake in the program
 };
 

@@ -1,5 +1,9 @@
 // The program as a shell sees it: exit codes, standard output and error, and the files it leaves.
 
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -11,6 +15,7 @@
 #include <numbers>
 #include <sstream>
 #include <thread>
+#include <utility>
 
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
@@ -68,8 +73,9 @@ class Xsec : public ::testing::Test {
   }
   void TearDown() override { fs::remove_all(fFolder); }
 
-  std::string Drawing(const std::string& text) {
-    const fs::path path = fFolder / "in" / "drawing.dxf";
+  std::string Drawing(const std::string& text) { return Drawing("drawing.dxf", text); }
+  std::string Drawing(const std::string& name, const std::string& text) {
+    const fs::path path = fFolder / "in" / name;
     std::ofstream(path, std::ios::binary) << text;
     return path.string();
   }
@@ -420,13 +426,15 @@ TEST_F(Xsec, LimitsOfTheDrawingAreOptions) {
 
 TEST_F(Xsec, InterruptLeavesWholeFilesOrNone) {
   const std::string drawing = Drawing(DxfOf(Grid(20)));
-  for (int milliseconds = 1; milliseconds < 1000; milliseconds = milliseconds * 3 / 2 + 1) {
+  bool isIsolated = false;
+  for (int milliseconds = 1; milliseconds < 1000; milliseconds = milliseconds * 5 / 4 + 1, isIsolated = !isIsolated) {
     const pid_t child = ::fork();
     ASSERT_GE(child, 0);
     if (child == 0) {
       const std::string null = "/dev/null";
       if (!std::freopen(null.c_str(), "w", stdout) || !std::freopen(null.c_str(), "w", stderr)) ::_exit(99);
-      ::execl(XSEC_PROGRAM, "xsec", "regions", drawing.c_str(), "-o", Out("a.json").c_str(), nullptr);
+      ::execl(XSEC_PROGRAM, "xsec", "regions", drawing.c_str(), "-o", Out("a.json").c_str(),
+              isIsolated ? "--isolate" : nullptr, nullptr);
       ::_exit(99);
     }
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
@@ -439,6 +447,138 @@ TEST_F(Xsec, InterruptLeavesWholeFilesOrNone) {
     EXPECT_TRUE(nlohmann::json::accept(ReadFile(Out("a.json"))));
     fs::remove(Out("a.json"));
   }
+}
+
+/// xsec at work in a process apart, on a drawing that does not come: a pipe that nobody has written to yet.
+class XsecApart : public Xsec {
+ protected:
+  void SetUp() override {
+    Xsec::SetUp();
+    const std::string pipe = (fFolder / "in" / "pipe.dxf").string();
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    fProgram = ::fork();
+    ASSERT_GE(fProgram, 0);
+    if (fProgram == 0) {
+      const rlimit noCore{0, 0};
+      ::setrlimit(RLIMIT_CORE, &noCore);
+      if (!std::freopen("/dev/null", "w", stdout) || !std::freopen((fFolder / "stderr").c_str(), "w", stderr)) {
+        ::_exit(99);
+      }
+      ::execl(XSEC_PROGRAM, "xsec", "regions", pipe.c_str(), "--isolate", "-o", Out("a.json").c_str(), nullptr);
+      ::_exit(99);
+    }
+    fPipe = ::open(pipe.c_str(), O_WRONLY | O_CLOEXEC);  // waits until the drawing is opened
+    ASSERT_GE(fPipe, 0);
+    const std::string id = std::to_string(fProgram);
+    std::ifstream("/proc/" + id + "/task/" + id + "/children") >> fWorker;
+    if (fWorker == 0) GTEST_SKIP() << "the system does not tell the children of a process";
+  }
+  void TearDown() override {
+    if (fPipe >= 0) ::close(fPipe);
+    if (!fHasEnded && fProgram > 0) AwaitProgram();
+    Xsec::TearDown();
+  }
+
+  /// The status of the program that was started.
+  int AwaitProgram() {
+    int status = 0;
+    EXPECT_EQ(::waitpid(fProgram, &status, 0), fProgram);
+    fHasEnded = true;
+    fStderr = ReadFile(fFolder / "stderr");
+    return status;
+  }
+
+  /// Whether nobody reads the drawing any more, within a minute.
+  bool IsWorkerGone() const {
+    pollfd writer{fPipe, 0, 0};
+    return ::poll(&writer, 1, 60000) == 1 && (writer.revents & POLLERR) != 0;
+  }
+
+  pid_t fProgram = 0;  ///< the one that waits
+  pid_t fWorker = 0;   ///< the one that reads the drawing
+  int fPipe = -1;
+  bool fHasEnded = false;
+};
+
+TEST_F(XsecApart, CrashIsToldAndHasACodeOfItsOwn) {
+  std::ofstream(Out("a.json." + std::to_string(fWorker) + "-0.tmp")) << "half of what is wri";
+  ::kill(fWorker, SIGABRT);
+  const int status = AwaitProgram();
+  ASSERT_TRUE(WIFEXITED(status));
+  EXPECT_EQ(WEXITSTATUS(status), 8);
+  EXPECT_EQ(fStderr,
+            "xsec: the process at work was ended by signal 6 (Aborted): that is a mistake in the program; "
+            "please report it, if you can with the drawing\n");
+  EXPECT_THAT(FilesWritten(), IsEmpty());
+}
+
+TEST_F(XsecApart, KillAsByASystemOutOfMemoryIsToldWithWhatHelps) {
+  ::kill(fWorker, SIGKILL);
+  const int status = AwaitProgram();
+  ASSERT_TRUE(WIFEXITED(status));
+  EXPECT_EQ(WEXITSTATUS(status), 8);
+  EXPECT_THAT(fStderr, StartsWith("xsec: the process at work was ended by signal 9 (Killed): "));
+  EXPECT_THAT(fStderr, HasSubstr("--max-memory"));
+}
+
+TEST_F(XsecApart, InterruptsReachTheWorkerAndEndTheProgramAsEver) {
+  ::kill(fProgram, SIGINT);
+  const int status = AwaitProgram();
+  ASSERT_TRUE(WIFSIGNALED(status));
+  EXPECT_EQ(WTERMSIG(status), SIGINT);
+  EXPECT_TRUE(IsWorkerGone());
+  EXPECT_THAT(fStderr, IsEmpty());
+}
+
+TEST_F(XsecApart, RequestToEndThatTheWorkerGetsEndsTheProgram) {
+  ::kill(fWorker, SIGTERM);
+  const int status = AwaitProgram();
+  ASSERT_TRUE(WIFSIGNALED(status));
+  EXPECT_EQ(WTERMSIG(status), SIGTERM);
+}
+
+TEST_F(XsecApart, WorkerEndsWithTheProgram) {
+  ::kill(fProgram, SIGKILL);
+  ASSERT_TRUE(WIFSIGNALED(AwaitProgram()));
+  EXPECT_TRUE(IsWorkerGone());
+}
+
+TEST_F(XsecApart, DrawingThatComesIsAnsweredAsEver) {
+  const std::string drawing = DxfOf(Square(0, 0, 10));
+  ASSERT_EQ(::write(fPipe, drawing.data(), drawing.size()), static_cast<ssize_t>(drawing.size()));
+  ::close(std::exchange(fPipe, -1));
+  const int status = AwaitProgram();
+  ASSERT_TRUE(WIFEXITED(status));
+  EXPECT_EQ(WEXITSTATUS(status), 0) << fStderr;
+  EXPECT_EQ(nlohmann::json::parse(ReadFile(Out("a.json")))["regions"].size(), 1U);
+}
+
+TEST_F(Xsec, IsolatedAnswersWhatItAnswersInOneProcess) {
+  const std::string array = "0\nINSERT\n2\nb\n70\n20000\n71\n20000\n44\n1\n45\n1\n";
+  const std::vector<std::pair<std::string, int>> runs = {
+      {"regions " + Drawing("square.dxf", DxfOf(Square(0, 0, 10))), 0},
+      {"check " + Drawing("open.dxf", DxfOf(Line(0, 0, 1, 0))), 1},
+      {"info no-such.dxf", 3},
+      {"regions " + Drawing("again.dxf", DxfOf(Square(0, 0, 10))) + " -o /no-such-folder/a.svg", 4},
+      {"regions " + Drawing("line.dxf", DxfOf(Line(0, 0, 1, 0))), 5},
+      {"info --max-entities 1000000000 --max-seconds 1 " + Drawing("array.dxf", DxfOf("", array)), 7}};
+  for (const auto& [arguments, code] : runs) {
+    EXPECT_EQ(RunXsec(arguments), code) << arguments;
+    const std::string printed = fStdout, told = fStderr;
+    EXPECT_EQ(RunXsec(arguments + " --isolate"), code) << arguments;
+    EXPECT_EQ(fStdout, printed);
+    EXPECT_EQ(fStderr, told);
+  }
+}
+
+TEST_F(Xsec, SignalInTheMidstOfWritingLeavesNothingBehindWhenIsolated) {
+  const std::string drawing = Drawing(DxfOf(Grid(8)));
+  std::ofstream(Out("b.json")) << "old";
+  const std::string arguments = "regions " + drawing + " -o " + Out("a.svg") + " -o " + Out("b.json");
+  EXPECT_EQ(RunXsec(arguments + " --isolate", "ulimit -c 0; ulimit -f 1;"), 8);
+  EXPECT_THAT(fStderr, HasSubstr("(File size limit exceeded)"));
+  EXPECT_THAT(FilesWritten(), ElementsAre("b.json"));
+  EXPECT_EQ(ReadFile(Out("b.json")), "old");
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "xsec/output/OutputFiles.h"
 
 #include <fmt/format.h>
-#include <signal.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -13,6 +12,7 @@
 #include <utility>
 
 #include "xsec/Errors.h"
+#include "xsec/HeldSignals.h"
 
 namespace xsec {
 
@@ -55,13 +55,22 @@ const Format& FindFormat(const std::string& path) {
   return *format;
 }
 
+/// Where a file of that path comes to stand: a link keeps its place, and the file it leads to is replaced.
+fs::path PlaceOf(const std::string& path) {
+  std::error_code error;
+  const fs::path real = fs::canonical(path, error);
+  return error ? fs::path(path) : real;
+}
+
+/// A name beside the place that no other process takes.
+std::string TemporaryName(const fs::path& place, pid_t process, int number) {
+  return fmt::format("{}.{}-{}.tmp", place.string(), process, number);
+}
+
 /// A file beside its target, removed unless it is moved into place.
 class TemporaryFile {
  public:
-  TemporaryFile(std::string target, const std::string& text) : fTarget(std::move(target)) {
-    std::error_code ignored;  // a link keeps its place and the file it leads to is replaced
-    const fs::path real = fs::canonical(fTarget, ignored);
-    fPlace = ignored ? fs::path(fTarget) : real;
+  TemporaryFile(std::string target, const std::string& text) : fTarget(std::move(target)), fPlace(PlaceOf(fTarget)) {
     std::FILE* file = Open();
     const bool written = std::fwrite(text.data(), 1, text.size(), file) == text.size();
     const int error = errno;
@@ -88,7 +97,7 @@ class TemporaryFile {
  private:
   std::FILE* Open() {
     for (int i = 0; i < kTemporaryNames; ++i) {
-      fName = fmt::format("{}.{}-{}.tmp", fPlace.string(), ::getpid(), i);
+      fName = TemporaryName(fPlace, ::getpid(), i);
       if (std::FILE* file = std::fopen(fName.c_str(), "wbx")) return file;
       if (errno != EEXIST) break;
     }
@@ -104,23 +113,6 @@ class TemporaryFile {
   std::string fTarget;
   fs::path fPlace;
   std::string fName;
-};
-
-/// Keeps interrupts, and the end of the time given, waiting while it lives.
-class HeldSignals {
- public:
-  HeldSignals() {
-    sigset_t signals;
-    sigemptyset(&signals);
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGXCPU}) sigaddset(&signals, signal);
-    ::pthread_sigmask(SIG_BLOCK, &signals, &fBefore);
-  }
-  ~HeldSignals() { ::pthread_sigmask(SIG_SETMASK, &fBefore, nullptr); }
-  HeldSignals(const HeldSignals&) = delete;
-  HeldSignals& operator=(const HeldSignals&) = delete;
-
- private:
-  sigset_t fBefore;
 };
 
 }  // namespace
@@ -152,10 +144,17 @@ void CheckOutputs(const std::vector<Output>& aOutputs) {
 void WriteOutputs(const std::vector<Output>& aOutputs, const Report& aReport) {
   std::vector<std::string> texts;
   for (const Output& output : aOutputs) texts.push_back(output.render(aReport));
-  const HeldSignals held;
+  const HeldSignals held{SIGINT, SIGTERM, SIGHUP, SIGXCPU};  // interrupts, and the end of the time given
   std::vector<TemporaryFile> files;
   for (std::size_t i = 0; i < aOutputs.size(); ++i) files.emplace_back(aOutputs[i].path, texts[i]);
   for (TemporaryFile& file : files) file.MoveIntoPlace();
+}
+
+void RemoveUnfinished(const std::vector<Output>& aOutputs, pid_t aProcess) {
+  for (const Output& output : aOutputs) {
+    const fs::path place = PlaceOf(output.path);
+    for (int i = 0; i < kTemporaryNames; ++i) std::remove(TemporaryName(place, aProcess, i).c_str());
+  }
 }
 
 }  // namespace xsec

@@ -2,6 +2,8 @@
 
 // The files that a run writes. Each appears whole or not at all, also when the run is interrupted or the disk is full.
 
+#include <sys/types.h>
+
 #include <string>
 #include <vector>
 
@@ -24,5 +26,8 @@ void CheckOutputs(const std::vector<Output>& aOutputs);
 /// Writes every file under a name of its own beside the target and then moves them all into place. Throws OutputError;
 /// no temporary file stays behind. Interrupts wait until the moves are done.
 void WriteOutputs(const std::vector<Output>& aOutputs, const Report& aReport);
+
+/// Removes what another process that wrote these outputs has left beside them because a signal ended it.
+void RemoveUnfinished(const std::vector<Output>& aOutputs, pid_t aProcess);
 
 }  // namespace xsec
