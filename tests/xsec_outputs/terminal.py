@@ -7,35 +7,37 @@ usage: terminal.py XSEC SAMPLES FOLDER
 import os
 import pty
 import subprocess
+import threading
 
 from outputs import arguments, finish
 
 WIPE = "\r\x1b[K"
+END = b"\x00end"
 YELLOW = "\x1b[33m"
 COPIES = "regions", "--copies", "10"  # ten copies of an eighth overlap, which is warned of
 
 
-def errors_on_terminal(xsec, drawing, **variables):
+def errors_on_terminal(xsec, drawing, *further, **variables):
     """What standard error gets when it is a terminal."""
     ours, its = pty.openpty()
     environment = {name: value for name, value in os.environ.items() if name != "NO_COLOR"}
     environment.update({"TERM": "xterm", **variables})
     command, *options = COPIES
-    with subprocess.Popen([xsec, command, drawing, *options], stdout=subprocess.DEVNULL, stderr=its,
+    with subprocess.Popen([xsec, command, drawing, *options, *further], stdout=subprocess.DEVNULL, stderr=its,
                           env=environment) as child:
-        os.close(its)
-        parts = []
-        while True:
-            try:
-                part = os.read(ours, 65536)
-            except OSError:  # the other side is closed
-                break
-            if not part:
-                break
-            parts.append(part)
-        child.wait()
+        # The last side to close may take with it what has not been read yet: this one stays open and tells the end.
+        def tell_end():
+            child.wait()
+            os.write(its, END)
+        teller = threading.Thread(target=tell_end)
+        teller.start()
+        text = b""
+        while not text.endswith(END):
+            text += os.read(ours, 65536)
+        teller.join()
+    os.close(its)
     os.close(ours)
-    return b"".join(parts).decode()
+    return text.removesuffix(END).decode()
 
 
 def after_wiping(text):
@@ -54,6 +56,7 @@ def main():
     checks = {
         "a terminal is told what goes on": f"{WIPE}reading {drawing} ..." in shown and "finding regions among" in shown,
         "what goes on is wiped before the rest": " ..." not in after_wiping(shown),
+        "a process apart shows the same": errors_on_terminal(xsec, drawing, "--isolate") == shown,
         "a warning is coloured": f"xsec: {YELLOW}warning: the drawing spans" in shown,
         "without colour the text is the same": after_wiping(colourless) == plain,
         "NO_COLOR is heeded": YELLOW not in colourless and WIPE in colourless,
