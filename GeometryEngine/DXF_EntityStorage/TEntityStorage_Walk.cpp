@@ -11,6 +11,7 @@
 #include "GeometryEngine/GeometryEngine_Arrays/CoordinateArrays.h"
 #include "GeometryEngine/GeometryEngine_Arrays/EntityArrays.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/ArcWalking.h"
+#include "GeometryEngine/GetFunctions_GeometryOperations/detail/ChordPoint.h"
 
 namespace GeometryEngine {
 
@@ -48,9 +49,8 @@ void AddArcPoints(TCoordinateArray& aVertices, const detail::TVertexWalk& aWalk)
   const double start_angle = GetEntityStartAngle_Arc(aWalk.From(), arc);
   const TTravelDirection direction = GetArcTravelDirection(start_angle, arc);
   const auto [aCount, aStep] = detail::GetSurfaceSegments(arc);
-  for (std::int32_t k = 0; k < aCount; ++k) {
-    AddCoordinateToArray(aVertices, GetArc_LineSegmentCoord(arc, k, direction, start_angle, aStep));
-  }
+  detail::ForEachChordPoint(arc, {direction, start_angle, aStep}, 0, std::int64_t{aCount} - 1,
+                            [&](const TEntityCoordinate& aPoint) { AddCoordinateToArray(aVertices, aPoint); });
 }
 
 }  // namespace

@@ -1,7 +1,10 @@
 #include "GeometryEngine/DXF_Regions_Utilities/EntityTerms.h"
 
+#include <algorithm>
 #include <cmath>
 
+#include "GeometryEngine/FloatingPoint/detail/TSinesCosines.h"
+#include "GeometryEngine/GeometryFuncts/detail/CirclePoint.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ArcAngles.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ChordCount.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ChordPoint.h"
@@ -13,7 +16,8 @@ namespace GeometryEngine {
 
 namespace {
 
-constexpr std::int32_t kAreaSegments = 5;        // segments of the polygon that stands for an arc's area
+constexpr std::int32_t kAreaSegments = 5;  // segments of the polygon that stands for an arc's area
+constexpr auto kMostAtOnce = static_cast<std::int64_t>(detail::TSinesCosines::kMost);
 constexpr double kDegreesPerFactor = 10;         // the resolution factor counts segments per this many degrees
 constexpr double kChordTolerance = 0.01;         // drawing length units between chord and arc
 constexpr double kFullTurn = 6.283185307179586;  // radians
@@ -38,7 +42,7 @@ double GetSweep_Segments(const TDXFEntity& aArc) {
 /// The radius on which the inner points of a fan of `n` triangles must lie for the fan to have the sector's area.
 double GetRadius_EqualArea(double r, double aSweep, double aStep, std::int32_t n) {
   const double inner = n - 2.0;
-  return (-2 * r + std::sqrt(4 * (r * r) + 4 * inner * aSweep * (r * r) / std::sin(aStep))) / (2 * inner);
+  return (-2 * r + std::sqrt(4 * (r * r) + 4 * inner * aSweep * (r * r) / detail::GetSine(aStep))) / (2 * inner);
 }
 
 TEntityCoordinate GetCentroidComponent_Arc(const TEntityCoordinate& aFrom, const TDXFEntity& aArc) {
@@ -47,14 +51,12 @@ TEntityCoordinate GetCentroidComponent_Arc(const TEntityCoordinate& aFrom, const
   const double startAngle = GetEntityStartAngle_Arc(aFrom, aArc);
   const TTravelDirection direction = GetArcTravelDirection(startAngle, aArc);
   TEntityCoordinate sum;
-  TEntityCoordinate from = detail::GetChordPoint(aArc, 0, direction, startAngle, step);
-  for (std::int32_t k = 0; k < count; ++k) {
-    const TEntityCoordinate to = detail::GetChordPoint(aArc, k + 1, direction, startAngle, step);
-    const TEntityCoordinate term = GetCentroidTerm(from, to);
-    sum.x += term.x;
-    sum.y += term.y;
-    from = to;
-  }
+  detail::ForEachChord(aArc, {direction, startAngle, step}, count,
+                       [&](const TEntityCoordinate& aChordFrom, const TEntityCoordinate& aChordTo) {
+                         const TEntityCoordinate term = GetCentroidTerm(aChordFrom, aChordTo);
+                         sum.x += term.x;
+                         sum.y += term.y;
+                       });
   return sum;
 }
 
@@ -99,14 +101,20 @@ double GetArea_Arc(const TEntityCoordinate& aFrom, const TEntityCoordinate& aTo,
   const double step = sweep / aSegments;
   const double startAngle = GetEntityStartAngle_Arc(aFrom, aArc) * kRadiansPerDegree;
   const double radius = GetRadius_EqualArea(aArc.radius, sweep, step, aSegments);
+  const double signedStep = aDirection == 0 ? step : -step;
+  detail::TSinesCosines directions;
   double sum = 0;
   TEntityCoordinate from = aFrom;
-  for (std::int32_t k = 1; k < aSegments; ++k) {
-    const double angle = aDirection == 0 ? startAngle + k * step : startAngle - k * step;
-    const TEntityCoordinate to{aArc.CentreCoords.x + radius * std::cos(angle),
-                               aArc.CentreCoords.y + radius * std::sin(angle)};
-    sum += GetCross(from, to);
-    from = to;
+  for (std::int64_t first = 1; first < aSegments; first += kMostAtOnce) {
+    const auto count = static_cast<std::size_t>(std::min(kMostAtOnce, aSegments - first));
+    directions.Compute(count, [&](std::size_t i) {
+      return startAngle + static_cast<double>(first + static_cast<std::int64_t>(i)) * signedStep;
+    });
+    for (std::size_t i = 0; i < count; ++i) {
+      const TEntityCoordinate to = detail::GetCirclePoint(aArc.CentreCoords, radius, directions[i]);
+      sum += GetCross(from, to);
+      from = to;
+    }
   }
   return sum + GetCross(from, aTo);
 }

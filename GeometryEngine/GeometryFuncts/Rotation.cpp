@@ -1,16 +1,13 @@
 #include "GeometryEngine/GeometryFuncts/Rotation.h"
 
-#include <cmath>
-
+#include "GeometryEngine/FloatingPoint/detail/SineCosine.h"
 #include "GeometryEngine/GeometryCreation_Drawing/CoordinateCleaning.h"
 #include "GeometryEngine/host/Numerics.h"
 
 namespace GeometryEngine {
 
 TRotationMatrix GetRotationMatrix(double aAngle) {
-  const double radians = aAngle * kRadiansPerDegree;
-  const double cosine = std::cos(radians);
-  const double sine = std::sin(radians);
+  const auto [sine, cosine] = detail::GetSineCosine(aAngle * kRadiansPerDegree);
   return {{{cosine, -sine}, {sine, cosine}}};
 }
 

@@ -33,7 +33,8 @@ TArcSegments GetArcSegmentPoints_Surf(const TDXFEntity& aEntity, double aToleran
 
 TEntityCoordinate GetArc_LineSegmentCoord(const TDXFEntity& aEntity, std::int32_t aIndex, TTravelDirection aDirection,
                                           double aStartAngle, double aStep) {
-  return detail::GetChordPoint(aEntity, aIndex, aDirection, aStartAngle, aStep);
+  return detail::GetCirclePoint(aEntity.CentreCoords, aEntity.radius,
+                                detail::GetWalkedAngle({aDirection, aStartAngle, aStep}, aIndex));
 }
 
 }  // namespace GeometryEngine

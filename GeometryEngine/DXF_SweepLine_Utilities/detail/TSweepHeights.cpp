@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
+#include "GeometryEngine/FloatingPoint/detail/SineCosine.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ArcAngles.h"
 #include "GeometryEngine/host/Numerics.h"
 #include "GeometryEngine/host/TDataStore.h"
@@ -57,8 +58,9 @@ void Include(double y, THeights& aHeights) {
 /// The range of the sine over the directions from `aStart`, at least -90 degrees, on for `aSweep` degrees.
 THeights GetSines(double aStart, double aSweep) {
   const double end = aStart + aSweep;
-  THeights sines{std::sin(aStart * kRadiansPerDegree), std::sin(aStart * kRadiansPerDegree)};
-  Include(std::sin(end * kRadiansPerDegree), sines);
+  const double sine = GetSine(aStart * kRadiansPerDegree);
+  THeights sines{sine, sine};
+  Include(GetSine(end * kRadiansPerDegree), sines);
   for (int quarter = -1; quarter <= 9; quarter += 2) {
     const double axis = quarter * kQuarterTurn;
     if (aStart <= axis && axis <= end) Include(quarter % 4 == 1 ? 1 : -1, sines);

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "GeometryEngine/FloatingPoint/detail/SineCosine.h"
 #include "GeometryEngine/host/Numerics.h"
 
 namespace GeometryEngine::detail {
@@ -24,8 +25,8 @@ THeightRange GetHeights(const TCirclePart& aPart) {
   const auto& [centre, radius, from, to] = aPart;
   const bool isTame = radius > 0 && std::abs(from) < kLargestAngle && std::abs(to) < kLargestAngle;
   if (!isTame) return THeightRange::All();
-  THeightRange heights = THeightRange::Of(centre + radius * std::sin(from * kRadiansPerDegree),
-                                          centre + radius * std::sin(to * kRadiansPerDegree));
+  THeightRange heights = THeightRange::Of(centre + radius * GetSine(from * kRadiansPerDegree),
+                                          centre + radius * GetSine(to * kRadiansPerDegree));
   const auto [low, high] = std::minmax(from, to);
   if (Passes(low, high, 90)) heights.fHigh = centre + radius;
   if (Passes(low, high, 270)) heights.fLow = centre - radius;

@@ -8,6 +8,7 @@
 #include "GeometryEngine/GeometryEngine_PointInPolygon/detail/ArcHeights.h"
 #include "GeometryEngine/GeometryEngine_PointInPolygon/detail/SegmentWinding.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/ArcWalking.h"
+#include "GeometryEngine/GetFunctions_GeometryOperations/detail/ChordPoint.h"
 
 namespace GeometryEngine::detail {
 
@@ -52,9 +53,8 @@ void TWalkedEntity::ListChords(double aTolerance) {
   const TTravelDirection direction = GetArcTravelDirection(startAngle, *fEntity);
   auto chords = std::make_unique<TChords>();
   chords->fEnds.reserve(static_cast<std::size_t>(count) + 1);
-  for (std::int32_t k = 0; k <= count; ++k) {
-    chords->fEnds.push_back(GetArc_LineSegmentCoord(*fEntity, k, direction, startAngle, step));
-  }
+  ForEachChordPoint(*fEntity, {direction, startAngle, step}, 0, count,
+                    [&](const TEntityCoordinate& aEnd) { chords->fEnds.push_back(aEnd); });
   std::vector<THeightRange> heights;
   heights.reserve(static_cast<std::size_t>(count));
   for (std::size_t k = 0; k + 1 < chords->fEnds.size(); ++k) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "GeometryEngine/FloatingPoint/detail/SineCosine.h"
 #include "GeometryEngine/host/Numerics.h"
 #include "GeometryEngine/host/TDataStore.h"
 #include "tests/reference/plain/OneEntity.h"
@@ -37,7 +38,7 @@ TEntityCoordinate CentroidTerm(const TEntityCoordinate& aFrom, const TEntityCoor
 
 double RadiusOfEqualArea(double r, double aSweep, double aStep) {
   const double inner = kAreaSegments - 2.0;
-  return (-2 * r + std::sqrt(4 * (r * r) + 4 * inner * aSweep * (r * r) / std::sin(aStep))) / (2 * inner);
+  return (-2 * r + std::sqrt(4 * (r * r) + 4 * inner * aSweep * (r * r) / detail::GetSine(aStep))) / (2 * inner);
 }
 
 /// Twice the arc's share, by a fan of triangles.
@@ -51,8 +52,8 @@ double AreaOfArc(const TEntityCoordinate& aFrom, const TEntityCoordinate& aTo, c
   TEntityCoordinate from = aFrom;
   for (std::int32_t k = 1; k < kAreaSegments; ++k) {
     const double angle = enteredAt == aArc.startAngle ? startAngle + k * step : startAngle - k * step;
-    const TEntityCoordinate to{aArc.CentreCoords.x + radius * std::cos(angle),
-                               aArc.CentreCoords.y + radius * std::sin(angle)};
+    const auto [sine, cosine] = detail::GetSineCosine(angle);
+    const TEntityCoordinate to{aArc.CentreCoords.x + radius * cosine, aArc.CentreCoords.y + radius * sine};
     sum += Cross(from, to);
     from = to;
   }
@@ -89,8 +90,8 @@ std::int32_t WindingOfSegment(const TEntityCoordinate& aStart, const TEntityCoor
 TEntityCoordinate TArcWalk::Point(std::int32_t aIndex) const {
   const double turned = aIndex * fStep;
   const double angle = fDirection == Travel_AntiClockwise ? fStartAngle + turned : fStartAngle - turned;
-  const double radians = angle * kRadiansPerDegree;
-  return {fArc.CentreCoords.x + fArc.radius * std::cos(radians), fArc.CentreCoords.y + fArc.radius * std::sin(radians)};
+  const auto [sine, cosine] = detail::GetSineCosine(angle * kRadiansPerDegree);
+  return {fArc.CentreCoords.x + fArc.radius * cosine, fArc.CentreCoords.y + fArc.radius * sine};
 }
 
 TArcWalk TArcWalk::Limited() const {

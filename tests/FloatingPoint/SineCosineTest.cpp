@@ -1,0 +1,141 @@
+#include "GeometryEngine/FloatingPoint/detail/SineCosine.h"
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <random>
+#include <vector>
+
+#include "GeometryEngine/FloatingPoint/detail/TSinesCosines.h"
+
+namespace GeometryEngine::detail {
+
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr long double kRightAngle = 1.570796326794896619231321691639751442L;
+
+bool HaveSameBits(double a, double b) {
+  return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
+}
+
+// Both not a number or the same bits: what kind of not-a-number it is differs.
+bool AreAlike(double a, double b) {
+  return std::isnan(a) ? std::isnan(b) : HaveSameBits(a, b);
+}
+
+/// How far a number is from the exact one, in units of the last place of a double of that size.
+double GetError(double aFound, long double aExact) {
+  int exponent = 0;
+  std::frexp(aExact, &exponent);
+  return static_cast<double>(std::fabs(aFound - aExact) / std::ldexp(1.0L, exponent - 53));
+}
+
+double GetError(double aRadians) {
+  const auto [sine, cosine] = GetSineCosine(aRadians);
+  const long double exact = aRadians;
+  return std::max(GetError(sine, std::sin(exact)), GetError(cosine, std::cos(exact)));
+}
+
+std::vector<double> GetAngles(double aMost, std::size_t aCount) {
+  std::mt19937_64 generator(7);
+  std::uniform_real_distribution<double> angle(-aMost, aMost);
+  std::vector<double> angles(aCount);
+  for (double& one : angles) one = angle(generator);
+  return angles;
+}
+
+}  // namespace
+
+TEST(GetSineCosine, IsWithinEightTenthsOfTheLastPlaceForAnglesOfEverySize) {
+  if (std::numeric_limits<long double>::digits < 64) GTEST_SKIP() << "nothing here is more exact than a double";
+  for (const double most : {1e-3, 0.7, 1.6, 7.0, 100.0, 1e4, 1e6}) {
+    for (const double angle : GetAngles(most, 20'000)) EXPECT_LE(GetError(angle), 0.8) << angle;
+  }
+}
+
+TEST(GetSineCosine, IsWithinElevenTenthsOfTheLastPlaceNextToItsZeros) {
+  if (std::numeric_limits<long double>::digits < 64) GTEST_SKIP() << "nothing here is more exact than a double";
+  for (int quarter = -600'000; quarter <= 600'000; quarter += 7) {
+    const double angle = static_cast<double>(quarter * kRightAngle);
+    EXPECT_LE(GetError(angle), 1.1) << angle;
+  }
+}
+
+TEST(GetSineCosine, HasTheseBitsOnEveryMachine) {
+  EXPECT_EQ(GetSine(0.5), 0x1.eaee8744b05fp-2);
+  EXPECT_EQ(GetCosine(0.5), 0x1.c1528065b7d5p-1);
+  EXPECT_EQ(GetSine(0x1.921fb54442d18p+0), 1.0);
+  EXPECT_EQ(GetCosine(0x1.921fb54442d18p+0), 0x1.1a62633145c07p-54);
+  EXPECT_EQ(GetSine(-4), 0x1.837b9dddc1eaep-1);
+  EXPECT_EQ(GetCosine(-4), -0x1.4eaa606db24c1p-1);
+}
+
+TEST(GetSineCosine, OfZeroIsZeroOfItsSignAndOne) {
+  EXPECT_TRUE(HaveSameBits(GetSine(0.0), 0.0));
+  EXPECT_TRUE(HaveSameBits(GetSine(-0.0), -0.0));
+  EXPECT_EQ(GetCosine(0.0), 1);
+  EXPECT_EQ(GetCosine(-0.0), 1);
+}
+
+TEST(GetSineCosine, OfTheSmallestAngleIsTheAngle) {
+  const double smallest = std::numeric_limits<double>::denorm_min();
+  EXPECT_EQ(GetSine(smallest), smallest);
+  EXPECT_EQ(GetSine(-smallest), -smallest);
+  EXPECT_EQ(GetCosine(smallest), 1);
+}
+
+TEST(GetSineCosine, BeyondAMillionRadiansIsTheLibrarys) {
+  for (const double angle : {std::nextafter(1e6, 2e6), 1e7, -1e19, 1e300}) {
+    EXPECT_EQ(GetSine(angle), std::sin(angle));
+    EXPECT_EQ(GetCosine(angle), std::cos(angle));
+  }
+}
+
+TEST(GetSineCosine, OfWhatIsNoAngleIsNoNumber) {
+  for (const double angle : {kInfinity, -kInfinity, std::numeric_limits<double>::quiet_NaN()}) {
+    EXPECT_TRUE(std::isnan(GetSine(angle)));
+    EXPECT_TRUE(std::isnan(GetCosine(angle)));
+  }
+}
+
+TEST(GetSinesCosines, AreThoseOfOneByOneForEveryCount) {
+  std::vector<double> angles = GetAngles(1e3, 40);
+  angles[3] = -0.0;
+  angles[5] = 1e9;
+  angles[6] = kInfinity;
+  angles[7] = std::numeric_limits<double>::quiet_NaN();
+  for (std::size_t first = 0; first < 10; ++first) {
+    for (std::size_t count = 0; first + count <= angles.size(); ++count) {
+      std::vector<double> sines(count);
+      std::vector<double> cosines(count);
+      GetSinesCosines(std::span(angles).subspan(first, count), sines, cosines);
+      for (std::size_t i = 0; i < count; ++i) {
+        const auto [sine, cosine] = GetSineCosine(angles[first + i]);
+        ASSERT_TRUE(AreAlike(sines[i], sine) && AreAlike(cosines[i], cosine)) << angles[first + i];
+      }
+    }
+  }
+}
+
+TEST(TSinesCosines, ComputesUpToItsMostAndNoMoreThanAskedFor) {
+  const std::vector<double> angles = GetAngles(10, TSinesCosines::kMost);
+  TSinesCosines block;
+  for (std::size_t count = 0; count <= angles.size(); ++count) {
+    std::size_t asked = 0;
+    block.Compute(count, [&](std::size_t i) {
+      ++asked;
+      return angles[i];
+    });
+    EXPECT_EQ(asked, count);
+    for (std::size_t i = 0; i < count; ++i) {
+      EXPECT_TRUE(HaveSameBits(block[i].fSine, GetSine(angles[i])));
+      EXPECT_TRUE(HaveSameBits(block[i].fCosine, GetCosine(angles[i])));
+    }
+  }
+}
+
+}  // namespace GeometryEngine::detail
