@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "xsec/Bulge.h"
@@ -12,7 +13,8 @@ namespace xsec {
 namespace {
 
 constexpr int kMostHalvings = 20;                // of one piece
-constexpr std::size_t kMostVertices = 100'000;   // of a whole path
+constexpr int kMostTries = 12;                   // from a thousand-millionth of a curve's size to beyond it
+constexpr double kCoarser = 8;                   // times the tolerance: half as many arcs
 constexpr double kLittle = 0.01;                 // of the tolerance: what bends less is a line
 constexpr double kMostBulge = 0.41421356237309;  // of an arc over a right angle
 constexpr double kLeastBulge = 2.5e-4;           // of an arc with a radius of a thousand chords
@@ -48,6 +50,11 @@ bool StaysBetweenItsEnds(const CurvePiece& piece, const ChordFrame& chord, doubl
 
 bool IsStraight(const CurvePiece& piece, const ChordFrame& chord, double tolerance) {
   return DoAll(piece, [&](const Point& p) { return std::abs(chord.Across(p)) <= tolerance; });
+}
+
+// DEGENERATE: a piece whose control points are one point has no chord to be judged by.
+bool IsWithin(const CurvePiece& piece, const Point& centre, double reach) {
+  return DoAll(piece, [&](const Point& p) { return std::hypot(p.x - centre.x, p.y - centre.y) <= reach; });
 }
 
 std::vector<double> Binomials(std::size_t n) {
@@ -119,6 +126,7 @@ Fit FitSegment(const std::array<CurvePiece, 2>& halves, double tolerance) {
   const ChordFrame chord(start, end);
   const double little = kLittle * tolerance;
   const auto both = [&](auto&& test) { return test(left) && test(right); };
+  if (both([&](const CurvePiece& half) { return IsWithin(half, start, little); })) return {true, 0};
   if (!both([&](const CurvePiece& half) { return StaysBetweenItsEnds(half, chord, little); })) return {};
   if (both([&](const CurvePiece& half) { return IsStraight(half, chord, little); })) return {true, 0};
   const double bulge = BulgeThrough(start, Projected(right.front()), end);
@@ -129,6 +137,36 @@ Fit FitSegment(const std::array<CurvePiece, 2>& halves, double tolerance) {
   }
   const Point centre = CentreOf(start, end, bulge);
   return {both([&](const CurvePiece& half) { return FitsCircle(half, centre, tolerance); }), bulge};
+}
+
+// Goes on along a piece from where the path ends. False as soon as the path has more than the most vertices.
+bool Follow(CurvePiece whole, double tolerance, std::size_t most, ArcPath& path) {
+  struct Part {
+    CurvePiece piece;
+    int halvings;
+  };
+  std::vector<Part> open{{std::move(whole), 0}};
+  while (!open.empty() && path.size() <= most) {
+    Part part = std::move(open.back());
+    open.pop_back();
+    const Point end = Projected(part.piece.back());
+    std::array<CurvePiece, 2> halves = Halves(std::move(part.piece));
+    const Fit fit = FitSegment(halves, tolerance);
+    if (fit.isClose || part.halvings >= kMostHalvings) {
+      path.back().bulge = fit.isClose ? fit.bulge : 0;
+      path.push_back({end, 0});
+      continue;
+    }
+    open.push_back({std::move(halves[1]), part.halvings + 1});
+    open.push_back({std::move(halves[0]), part.halvings + 1});
+  }
+  return path.size() <= most;
+}
+
+ArcPath ChordsOf(std::size_t pieces, const std::function<CurvePiece(std::size_t)>& pieceAt) {
+  ArcPath path{{Projected(pieceAt(0).front()), 0}};
+  for (std::size_t i = 0; i < pieces; ++i) path.push_back({Projected(pieceAt(i).back()), 0});
+  return path;
 }
 
 }  // namespace
@@ -146,26 +184,16 @@ Weighted Mix(const Weighted& aFirst, const Weighted& aSecond, double aShare) {
           (1 - aShare) * aFirst.w + aShare * aSecond.w};
 }
 
-void FollowByArcs(CurvePiece aPiece, double aTolerance, ArcPath& aPath) {
-  struct Part {
-    CurvePiece piece;
-    int halvings;
-  };
-  std::vector<Part> open{{std::move(aPiece), 0}};
-  while (!open.empty()) {
-    Part part = std::move(open.back());
-    open.pop_back();
-    const Point end = Projected(part.piece.back());
-    std::array<CurvePiece, 2> halves = Halves(std::move(part.piece));
-    const Fit fit = FitSegment(halves, aTolerance);
-    if (fit.isClose || part.halvings >= kMostHalvings || aPath.size() >= kMostVertices) {
-      aPath.back().bulge = fit.isClose ? fit.bulge : 0;
-      aPath.push_back({end, 0});
-      continue;
-    }
-    open.push_back({std::move(halves[1]), part.halvings + 1});
-    open.push_back({std::move(halves[0]), part.halvings + 1});
+FlatCurve FollowByArcs(std::size_t aPieces, const std::function<CurvePiece(std::size_t)>& aPieceAt, double aTolerance) {
+  const std::size_t most = std::max(aPieces, kMostArcsOfCurve) + 1;
+  double tolerance = aTolerance;
+  for (int i = 0; i < kMostTries; ++i, tolerance *= kCoarser) {
+    ArcPath path{{Projected(aPieceAt(0).front()), 0}};
+    bool isWhole = true;
+    for (std::size_t k = 0; k < aPieces && isWhole; ++k) isWhole = Follow(aPieceAt(k), tolerance, most, path);
+    if (isWhole) return {std::move(path), tolerance};
   }
+  return {ChordsOf(aPieces, aPieceAt), std::numeric_limits<double>::infinity()};
 }
 
 }  // namespace xsec

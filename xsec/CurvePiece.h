@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <vector>
 
 #include "xsec/Affine.h"
@@ -27,11 +28,22 @@ Weighted Mix(const Weighted& aFirst, const Weighted& aSecond, double aShare);
 /// A way of straight and circular segments, each given by the vertex that it begins in and its bulge.
 using ArcPath = std::vector<SourceVertex>;
 
-/// Goes on along a piece from where the path ends, which is where the piece begins, to the very end of the piece. No
-/// point of the piece is further than aTolerance from the path; vertices lie on the curve, no arc exceeds a right
-/// angle, and none has a radius of more than a thousand chords: chords do there. Once the path has 100,000 vertices,
-/// whatever is left gets a chord: numbers that overflow on the way come to no end otherwise.
+/// Lines and arcs that stand for a curve.
+struct FlatCurve {
+  ArcPath path;
+  double tolerance = 0;  ///< no point of the curve is further from the path; infinite where that could not be said
+};
+
+/// The most lines and arcs that stand for a curve, where it has no more pieces than that.
+inline constexpr std::size_t kMostArcsOfCurve = 10'000;
+
+/// A path from the beginning of a curve's first piece to the very end of its last, each of them beginning where the one
+/// before ends. No point of the curve is further than aTolerance from it; vertices lie on the curve, no arc exceeds a
+/// right angle, and none has a radius of more than a thousand chords: chords do there. Where that would take more than
+/// kMostArcsOfCurve, the tolerance is eight times as large, and so on; a curve whose numbers overflow gets a chord for
+/// each piece in the end.
+/// REQUIRES: at least one piece.
 /// COST: arcs grow with the third root of 1 / aTolerance, each tried with the square of the number of control points.
-void FollowByArcs(CurvePiece aPiece, double aTolerance, ArcPath& aPath);
+FlatCurve FollowByArcs(std::size_t aPieces, const std::function<CurvePiece(std::size_t)>& aPieceAt, double aTolerance);
 
 }  // namespace xsec

@@ -72,6 +72,8 @@ struct Drawing {
   std::map<SkippedKind, Tally> skipped;
   std::map<std::string, std::size_t> flattened;  ///< type -> how many were turned into lines and arcs
   Tally interpolated;                            ///< splines given by nothing but points that they pass through
+  Tally coarse;                                  ///< curves followed less closely than asked
+  double coarseness = 0;                         ///< what the furthest of them lies within, millimetres
   std::map<std::string, std::int32_t> layerColours;
   std::vector<std::string> warnings;
   Extents extents;  ///< of the true geometry, millimetres

@@ -3,11 +3,13 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <utility>
 
 #include "GeometryEngine/host/TDataStore.h"
 #include "xsec/BlockPlacement.h"
+#include "xsec/CurvePiece.h"
 #include "xsec/DrawingExtents.h"
 #include "xsec/DxfText.h"
 #include "xsec/EntityMaker.h"
@@ -58,6 +60,16 @@ std::string WarnOfInterpolated(const Tally& splines) {
                                   splines.count, splines.line);
 }
 
+std::string WarnOfCoarse(const Tally& curves, double coarseness) {
+  if (curves.count == 0) return "";
+  const std::string how = std::isfinite(coarseness) ? fmt::format("within {:.3g} mm", coarseness)
+                                                    : std::string("by chords, since their numbers overflow");
+  return fmt::format(
+      "curves that would take more than {} lines and arcs: {}, first on line {}; followed {} instead, a larger "
+      "--flatten takes fewer",
+      kMostArcsOfCurve, curves.count, curves.line, how);
+}
+
 DrawingUnits UnitsOf(const SourceDrawing& source, const ReadOptions& options) {
   if (options.units) {
     DrawingUnits units = *options.units;
@@ -83,6 +95,7 @@ void AddWarnings(const SourceDrawing& source, Drawing& drawing) {
     return warn(WarnOfUnplacedBlocks(source));
   }
   warn(WarnOfInterpolated(drawing.interpolated));
+  warn(WarnOfCoarse(drawing.coarse, drawing.coarseness));
   if (drawing.units.source == "assumed") {
     warn(WarnOfUnknownUnit(source));
     warn(WarnOfAssumedUnit(drawing.extents));

@@ -197,10 +197,11 @@ void EntityMaker::AddSegment(const SourceVertex& aFrom, const SourceVertex& aTo,
     return AddLine(from, to);
   }
   const SourceEllipse curve = Placed(EllipseOf(ArcOfBulge(aFrom.point, aTo.point, aFrom.bulge)), aMap);
-  ArcPath path = FlattenEllipse(curve, ToleranceFor(Length(curve.major) + Length(curve.minor)));
-  path.front().point = aFrom.bulge > 0 ? from : to;
-  path.back().point = aFrom.bulge > 0 ? to : from;
-  AddPath(path);
+  const double tolerance = ToleranceFor(Length(curve.major) + Length(curve.minor));
+  FlatCurve flat = FlattenEllipse(curve, tolerance);
+  flat.path.front().point = aFrom.bulge > 0 ? from : to;
+  flat.path.back().point = aFrom.bulge > 0 ? to : from;
+  AddCurve(flat, tolerance);
 }
 
 // Arcs run anticlockwise, so a clockwise one is given from its end.
@@ -252,7 +253,8 @@ void EntityMaker::MakeShape(const SourceEllipse& aShape, const Affine& aMap) {
   if (const auto arc = ArcOfEllipse(placed)) {
     return AddArc(arc->centre, arc->radius, arc->start, arc->sweep);
   }
-  AddPath(FlattenEllipse(placed, ToleranceFor(2 * std::max(Length(placed.major), Length(placed.minor)))));
+  const double tolerance = ToleranceFor(2 * std::max(Length(placed.major), Length(placed.minor)));
+  AddCurve(FlattenEllipse(placed, tolerance), tolerance);
 }
 
 void EntityMaker::MakeShape(const SourceSpline& aShape, const Affine& aMap) {
@@ -265,15 +267,21 @@ void EntityMaker::MakeShape(const SourceSpline& aShape, const Affine& aMap) {
   for (SourceControlPoint& point : placed.points) {
     point.point = aMap.Apply(point.point);
   }
-  AddPath(FlattenSpline(
-      placed, ToleranceFor(SizeOf(placed.points, [](const SourceControlPoint& point) { return point.point; }))));
+  const double tolerance =
+      ToleranceFor(SizeOf(placed.points, [](const SourceControlPoint& point) { return point.point; }));
+  AddCurve(FlattenSpline(placed, tolerance), tolerance);
 }
 
-void EntityMaker::AddPath(const ArcPath& aPath) {
+void EntityMaker::AddCurve(const FlatCurve& aCurve, double aTolerance) {
   fIsFlattened = true;
-  for (std::size_t i = 0; i + 1 < aPath.size(); ++i) {
-    if (!IsSame(aPath[i].point, aPath[i + 1].point)) {
-      AddStretch(aPath[i], aPath[i + 1].point);
+  if (aCurve.tolerance > aTolerance) {
+    fDrawing.coarse.Add(fTemplate.line);
+    fDrawing.coarseness = std::max(fDrawing.coarseness, aCurve.tolerance);
+  }
+  const ArcPath& path = aCurve.path;
+  for (std::size_t i = 0; i + 1 < path.size(); ++i) {
+    if (!IsSame(path[i].point, path[i + 1].point)) {
+      AddStretch(path[i], path[i + 1].point);
     }
   }
 }

@@ -47,7 +47,8 @@ class EntityMaker {
   void AddSegment(const SourceVertex& aFrom, const SourceVertex& aTo, const Affine& aMap);
   void AddBulge(const Point& aFrom, const Point& aTo, double aBulge);
   void AddArc(const Point& aCentre, double aRadius, double aStart, double aSweep);
-  void AddPath(const ArcPath& aPath);
+  /// Tells the curve when it is followed less closely than the tolerance asked for.
+  void AddCurve(const FlatCurve& aCurve, double aTolerance);
   void AddStretch(const SourceVertex& aFrom, const Point& aTo);
   void AddLine(const Point& aFrom, const Point& aTo);
   void Add(const GeometryEngine::TDXFEntity& aGeometry);

@@ -25,17 +25,18 @@ CurvePiece PieceOf(const SourceEllipse& ellipse, const Point& from, double middl
 
 }  // namespace
 
-ArcPath FlattenEllipse(const SourceEllipse& aEllipse, double aTolerance) {
-  const int count = static_cast<int>(std::ceil(std::abs(aEllipse.sweep) / kMostPerPiece - kRounding));
-  const double half = aEllipse.sweep / (2 * std::max(count, 1));
-  ArcPath path{{At(aEllipse, aEllipse.start), 0}};
-  const Point first = path.front().point;
-  for (int i = 0; i < count; ++i) {
-    const bool isClosing = i + 1 == count && aEllipse.sweep >= 2 * std::numbers::pi;
-    const Point to = isClosing ? first : At(aEllipse, aEllipse.start + 2 * (i + 1) * half);
-    FollowByArcs(PieceOf(aEllipse, path.back().point, aEllipse.start + (2 * i + 1) * half, half, to), aTolerance, path);
-  }
-  return path;
+FlatCurve FlattenEllipse(const SourceEllipse& aEllipse, double aTolerance) {
+  const int count = std::max(1, static_cast<int>(std::ceil(std::abs(aEllipse.sweep) / kMostPerPiece - kRounding)));
+  const double half = aEllipse.sweep / (2 * count);
+  const auto endOf = [&](int i) {
+    const bool isClosing = i == count && aEllipse.sweep >= 2 * std::numbers::pi;
+    return At(aEllipse, isClosing ? aEllipse.start : aEllipse.start + 2 * i * half);
+  };
+  const auto pieceAt = [&](std::size_t number) {
+    const int i = static_cast<int>(number);
+    return PieceOf(aEllipse, endOf(i), aEllipse.start + (2 * i + 1) * half, half, endOf(i + 1));
+  };
+  return FollowByArcs(static_cast<std::size_t>(count), pieceAt, aTolerance);
 }
 
 }  // namespace xsec

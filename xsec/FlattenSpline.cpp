@@ -64,18 +64,13 @@ std::string WhySplineCannotBeFlattened(const SourceSpline& aSpline) {
   return areWeightsPositive ? "" : "its weights are not all positive";
 }
 
-ArcPath FlattenSpline(const SourceSpline& aSpline, double aTolerance) {
-  ArcPath path;
+FlatCurve FlattenSpline(const SourceSpline& aSpline, double aTolerance) {
+  std::vector<std::size_t> spans;
   for (std::size_t span = aSpline.degree; span < aSpline.points.size(); ++span) {
-    if (aSpline.knots[span] < aSpline.knots[span + 1]) {
-      CurvePiece piece = PieceOfSpan(aSpline, span);
-      if (path.empty()) {
-        path.push_back({Projected(piece.front()), 0});
-      }
-      FollowByArcs(std::move(piece), aTolerance, path);
-    }
+    if (aSpline.knots[span] < aSpline.knots[span + 1]) spans.push_back(span);
   }
-  return path;
+  return FollowByArcs(
+      spans.size(), [&](std::size_t i) { return PieceOfSpan(aSpline, spans[i]); }, aTolerance);
 }
 
 }  // namespace xsec

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 #include <string>
@@ -232,7 +233,7 @@ TEST(SplineThrough, PointsOfACircleMakeACircleAlmost) {
   for (int i = 0; i < 24; ++i) {
     fit.points.push_back({10 * std::cos(i * std::numbers::pi / 12), 10 * std::sin(i * std::numbers::pi / 12)});
   }
-  for (const SourceVertex& vertex : FlattenSpline(SplineThrough(fit), 1e-6)) {
+  for (const SourceVertex& vertex : FlattenSpline(SplineThrough(fit), 1e-6).path) {
     EXPECT_NEAR(std::hypot(vertex.point.x, vertex.point.y), 10, 2e-4);
   }
 }
@@ -261,13 +262,92 @@ TEST(ReadSpline, StatedCountsAreNotBelieved) {
       IsBits("L 0,0 4,0"));
 }
 
-TEST(FlattenSpline, FinenessIsBoundedWhateverTheToleranceAsksFor) {
-  const Drawing drawing = ReadEntities(kQuarterCircle, ReadOptions{std::nullopt, 1e-300});
-  EXPECT_LT(drawing.entities.size(), 100001U);
-  EXPECT_LT(ReadEntities("0 ELLIPSE | 11 10 | 40 0.5", ReadOptions{std::nullopt, 0}).entities.size(), 200000U);
+/// A cubic that goes up and down from point to point, and needs many arcs for each of its spans.
+SourceSpline Wave(std::size_t points) {
+  SourceSpline spline;
+  spline.degree = 3;
+  for (std::size_t i = 0; i < points; ++i) {
+    spline.points.push_back({{static_cast<double>(i), i % 2 == 0 ? 10. : -10.}, 1});
+  }
+  for (std::size_t i = 0; i < points + 4; ++i) spline.knots.push_back(static_cast<double>(i));
+  return spline;
 }
 
-TEST(FlattenSpline, NumbersThatOverflowEndAtTheMostPoints) {
+std::string PairsOf(const SourceSpline& spline) {
+  std::string pairs = "0 SPLINE | 71 " + std::to_string(spline.degree);
+  for (const double knot : spline.knots) pairs += " | 40 " + std::to_string(knot);
+  for (const SourceControlPoint& control : spline.points) {
+    pairs += " | 10 " + std::to_string(control.point.x) + " | 20 " + std::to_string(control.point.y);
+  }
+  return pairs;
+}
+
+/// On the spans of a wave, from the formula of uniform cubics.
+Point PointOfWave(std::size_t span, double t) {
+  const double s = 1 - t;
+  const std::array weights = {s * s * s, 3 * t * t * t - 6 * t * t + 4, 3 * s * s * s - 6 * s * s + 4, t * t * t};
+  Point point{0, 0};
+  for (std::size_t k = 0; k < weights.size(); ++k) {
+    point.x += weights[k] / 6 * static_cast<double>(span + k);
+    point.y += weights[k] / 6 * ((span + k) % 2 == 0 ? 10 : -10);
+  }
+  return point;
+}
+
+TEST(FlattenSpline, CurveOfMoreThanTheMostArcsIsFollowedLessCloselyAndTold) {
+  const std::size_t points = 100;
+  const ReadOptions fine{std::nullopt, 1e-12};
+  const Drawing drawing = ReadEntities("0 LINE | 10 -50 | 11 -40 | " + PairsOf(Wave(points)), fine);
+  EXPECT_LE(drawing.entities.size(), kMostArcsOfCurve + 1);
+  EXPECT_GT(drawing.entities.size(), kMostArcsOfCurve / 4);
+  EXPECT_TRUE(drawing.skipped.empty());
+  EXPECT_EQ(drawing.coarse.count, 1U);
+  EXPECT_GT(drawing.coarse.line, 1U);
+  EXPECT_GT(drawing.coarseness, 1e-12);
+  EXPECT_LT(drawing.coarseness, 1e-4);
+  for (std::size_t span = 0; span + 3 < points; span += 5) {
+    for (const double t : {0.1, 0.37, 0.8}) {
+      const Point point = PointOfWave(span, t);
+      EXPECT_LE(DistanceToDrawing(drawing, point.x, point.y), drawing.coarseness + 1e-12);
+    }
+  }
+  ASSERT_EQ(drawing.warnings.size(), 1U);
+  EXPECT_THAT(drawing.warnings.front(),
+              testing::StartsWith("curves that would take more than 10000 lines and arcs: 1, first on line "));
+}
+
+TEST(FlattenSpline, CurveWithinTheMostArcsIsFollowedAsAskedAndNothingIsTold) {
+  const Drawing drawing = ReadEntities(PairsOf(Wave(100)), kFine);
+  EXPECT_EQ(drawing.coarse.count, 0U);
+  EXPECT_TRUE(drawing.warnings.empty());
+  EXPECT_LE(FlattenSpline(Wave(100), 1e-4).tolerance, 1e-4);
+}
+
+TEST(FlattenSpline, CurveOfMorePiecesThanTheMostArcsHasOneForEach) {
+  const std::size_t points = 15'000;
+  const FlatCurve flat = FlattenSpline(Wave(points), 0.01);
+  EXPECT_EQ(flat.path.size(), points - 3 + 1);
+  EXPECT_GT(flat.tolerance, 0.01);
+}
+
+TEST(FlattenSpline, SpanWithoutLengthCostsTheRestNothing) {
+  const Drawing drawing = ReadEntities(
+      "0 SPLINE | 71 2 | 40 0 | 40 0 | 40 0 | 40 1 | 40 2 | 40 3 | 40 3 | 40 3 | 10 0 | 20 0 | 10 0 | 20 0 | 10 0 |"
+      "20 0 | 10 10 | 20 0 | 10 10 | 20 10",
+      kFine);
+  EXPECT_TRUE(AreJoined(drawing));
+  EXPECT_EQ(CountArcs(drawing) + 1, drawing.entities.size());  // the span that leaves the point is straight
+  EXPECT_GT(drawing.entities.size(), 4U);
+  EXPECT_LT(drawing.entities.size(), 100U);
+  EXPECT_EQ(drawing.coarse.count, 0U);
+}
+
+TEST(FlattenSpline, FinenessIsBoundedWhateverTheToleranceAsksFor) {
+  EXPECT_LE(ReadEntities(kQuarterCircle, ReadOptions{std::nullopt, 1e-300}).entities.size(), kMostArcsOfCurve);
+  EXPECT_LE(ReadEntities("0 ELLIPSE | 11 10 | 40 0.5", ReadOptions{std::nullopt, 0}).entities.size(), kMostArcsOfCurve);
+}
+
+TEST(FlattenSpline, NumbersThatOverflowGiveAChordForEachPieceAndAreTold) {
   SourceSpline spline;
   spline.degree = 1;
   for (int i = 0; i < 40; ++i) {
@@ -276,7 +356,9 @@ TEST(FlattenSpline, NumbersThatOverflowEndAtTheMostPoints) {
   }
   spline.knots.push_back(40);
   spline.knots.push_back(41);
-  EXPECT_LE(FlattenSpline(spline, 0.01).size(), 101'000U);
+  const FlatCurve flat = FlattenSpline(spline, 0.01);
+  EXPECT_LE(flat.path.size(), 40U);
+  EXPECT_TRUE(std::isinf(flat.tolerance));
 }
 
 }  // namespace
