@@ -1,9 +1,12 @@
 # Flags of every target of the project: the language, the warnings, and the arithmetic that gives the same bits everywhere.
 
+# A product and a sum are never one step, whose rounding is another. What is computed in vain, for one side of a choice
+# that is not taken, may raise flags, which is what lets loops take several numbers at once: who runs with traps holds a
+# guard that masks them (TFloatEnvironment).
 add_library(geometryengine_flags INTERFACE)
 target_compile_features(geometryengine_flags INTERFACE cxx_std_20)
 target_compile_options(geometryengine_flags INTERFACE
-  -ffp-contract=off
+  -ffp-contract=off -fno-trapping-math
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wdouble-promotion -Wold-style-cast
   -Wcast-align -Wcast-qual -Wnon-virtual-dtor -Woverloaded-virtual -Wformat=2 -Wundef -Wswitch-enum
   -Wimplicit-fallthrough -Wmissing-declarations

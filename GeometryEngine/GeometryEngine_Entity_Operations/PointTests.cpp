@@ -86,7 +86,7 @@ TEntityCoordinate GetEntityMidPoint(const TDXFEntity& aEntity) {
 
 double PointToSegmentDistance(const TEntityCoordinate& aPoint, const TEntityCoordinate& aSegStart,
                               const TEntityCoordinate& aSegEnd) {
-  return std::sqrt(detail::GetSquaredSegmentDistance(aPoint, aSegStart, aSegEnd));
+  return std::sqrt(detail::GetSquaredSegmentDistance(aPoint, detail::TMeasuredSegment::Of(aSegStart, aSegEnd)));
 }
 
 }  // namespace GeometryEngine

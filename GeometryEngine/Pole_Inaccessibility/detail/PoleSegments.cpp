@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include "GeometryEngine/GeometryEngine_Entity_Operations/detail/SegmentDistance.h"
 
@@ -22,7 +23,7 @@ double GetLargest(const TEntityCoordinate& aPoint) {
 
 /// How far a value lies outside a range.
 double GetExcess(double aValue, double aLow, double aHigh) {
-  return std::max({aLow - aValue, aValue - aHigh, 0.0});
+  return std::max(std::max(aLow - aValue, aValue - aHigh), 0.0);
 }
 
 }  // namespace
@@ -39,15 +40,38 @@ void TPlaneBox::Unite(const TPlaneBox& aOther) {
   fMax_Y = std::max(fMax_Y, aOther.fMax_Y);
 }
 
+void TPoleSegments::TGroup::Set(std::size_t aPlace, const TMeasuredSegment& aSegment) {
+  fStart_X[aPlace] = aSegment.fStart.x;
+  fStart_Y[aPlace] = aSegment.fStart.y;
+  fAlong_X[aPlace] = aSegment.fAlong.x;
+  fAlong_Y[aPlace] = aSegment.fAlong.y;
+  fSquaredLength[aPlace] = aSegment.fSquaredLength;
+}
+
+TMeasuredSegment TPoleSegments::TGroup::Get(std::size_t aPlace) const {
+  return {{fStart_X[aPlace], fStart_Y[aPlace]}, {fAlong_X[aPlace], fAlong_Y[aPlace]}, fSquaredLength[aPlace]};
+}
+
+/// The least of its segments. One that is not a number is passed over.
+double TPoleSegments::TGroup::GetSquaredDistance(const TEntityCoordinate& aPoint) const {
+  TNumbers squares;
+  for (std::size_t i = 0; i < kGroupSize; ++i) squares[i] = GetSquaredSegmentDistance(aPoint, Get(i));
+  for (double& square : squares) square = square < kInfinity ? square : kInfinity;
+  for (std::size_t half = kGroupSize / 2; half > 0; half /= 2) {
+    for (std::size_t i = 0; i < half; ++i) squares[i] = std::min(squares[i], squares[half + i]);
+  }
+  return squares[0];
+}
+
 TPoleSegments::TPoleSegments(std::span<const TEntityStorage* const> aChains) {
   for (const TEntityStorage* chain : aChains) {
-    const bool isFirst = chain == aChains.front();
-    if (!AddChain(*chain) || !isFirst) continue;
-    const std::vector<TPlaneBox> boxes = GetBoxes();
-    fFirstChain = boxes.front();
-    for (const TPlaneBox& box : boxes) fFirstChain->Unite(box);
+    const bool isWhole = AddChain(*chain);
+    if (!isWhole || chain != aChains.front()) continue;
+    fFirstChain = fBoxes.front();
+    for (const TPlaneBox& box : fBoxes) fFirstChain->Unite(box);
   }
-  fTree = TBlockTree<TPlaneBox>(GetBoxes());
+  FillLastGroup();
+  fTree = TBlockTree<TPlaneBox>(std::move(fBoxes));
 }
 
 /// False when the chain has no polyline, or not a whole one: a segment with an end that is not finite is left out. Its
@@ -55,25 +79,31 @@ TPoleSegments::TPoleSegments(std::span<const TEntityStorage* const> aChains) {
 bool TPoleSegments::AddChain(const TEntityStorage& aChain) {
   const TCoordinateArray vertices = aChain.GetVertices_Surf(false);
   if (vertices.size() < 2) return false;
-  const std::size_t before = fSegments.size();
+  const std::size_t before = fCount;
   for (std::size_t i = 0; i < vertices.size(); ++i) {
-    const TSegment segment{vertices[i], i + 1 < vertices.size() ? vertices[i + 1] : vertices.front()};
-    if (!IsFinite(segment.fStart) || !IsFinite(segment.fEnd)) continue;
-    fLargest = std::max({fLargest, GetLargest(segment.fStart), GetLargest(segment.fEnd)});
-    fSegments.push_back(segment);
+    const TEntityCoordinate& end = i + 1 < vertices.size() ? vertices[i + 1] : vertices.front();
+    if (!IsFinite(vertices[i]) || !IsFinite(end)) continue;
+    fLargest = std::max({fLargest, GetLargest(vertices[i]), GetLargest(end)});
+    AddSegment(vertices[i], end);
   }
-  return fSegments.size() - before == vertices.size();
+  return fCount - before == vertices.size();
 }
 
-std::vector<TPlaneBox> TPoleSegments::GetBoxes() const {
-  std::vector<TPlaneBox> boxes;
-  boxes.reserve(fSegments.size());
-  for (const TSegment& segment : fSegments) boxes.push_back(TPlaneBox::Around(segment.fStart, segment.fEnd));
-  return boxes;
+void TPoleSegments::FillLastGroup() {
+  const std::size_t count = fCount % kGroupSize;
+  if (count == 0) return;
+  for (std::size_t place = count; place < kGroupSize; ++place) fGroups.back().Set(place, fGroups.back().Get(count - 1));
 }
 
-double TPoleSegments::GetSquaredDistance(const TEntityCoordinate& aPoint, std::size_t aPlace) const {
-  return GetSquaredSegmentDistance(aPoint, fSegments[aPlace].fStart, fSegments[aPlace].fEnd);
+void TPoleSegments::AddSegment(const TEntityCoordinate& aStart, const TEntityCoordinate& aEnd) {
+  const TPlaneBox box = TPlaneBox::Around(aStart, aEnd);
+  const std::size_t place = fCount++ % kGroupSize;
+  if (place == 0) {
+    fGroups.emplace_back();
+    fBoxes.push_back(box);
+  }
+  fBoxes.back().Unite(box);
+  fGroups.back().Set(place, TMeasuredSegment::Of(aStart, aEnd));
 }
 
 /// More than what rounding can change in a distance: some last places of the largest coordinate, since the closest
@@ -96,14 +126,13 @@ double TPoleSegments::GetGreatestDistance(const TPlaneBox& aBox) const {
 }
 
 double TPoleSegments::GetDistance(const TEntityCoordinate& aPoint) {
-  if (fSegments.empty() || !IsFinite(aPoint)) return kInfinity;
+  if (fGroups.empty() || !IsFinite(aPoint)) return kInfinity;
   const double rounding = GetRounding(GetLargest(aPoint));
-  // Of two distances the smaller one is kept; one that is not a number is passed over.
-  double least = std::min(kInfinity, GetSquaredDistance(aPoint, fClosest));
   const auto getSquaredReach = [rounding](double aSquaredDistance) {
     const double reach = std::sqrt(aSquaredDistance) + rounding;
     return reach * reach;
   };
+  double least = fGroups[fClosest].GetSquaredDistance(aPoint);
   double squaredReach = getSquaredReach(least);
   const auto mayBeCloser = [&](const TPlaneBox& aBox) {
     const double dx = GetExcess(aPoint.x, aBox.fMin_X, aBox.fMax_X);
@@ -111,7 +140,7 @@ double TPoleSegments::GetDistance(const TEntityCoordinate& aPoint) {
     return !(dx * dx + dy * dy > squaredReach);
   };
   fTree.ForEach(mayBeCloser, [&](std::size_t aPlace) {
-    const double next = GetSquaredDistance(aPoint, aPlace);
+    const double next = fGroups[aPlace].GetSquaredDistance(aPoint);
     if (next < least) {
       least = next;
       squaredReach = getSquaredReach(least);
