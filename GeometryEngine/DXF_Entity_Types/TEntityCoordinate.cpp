@@ -38,22 +38,6 @@ bool operator!=(const TEntityCoordinate& aEntityCoord_A, const TEntityCoordinate
   return !(aEntityCoord_A == aEntityCoord_B);
 }
 
-TEntityCoordinate operator+(const TEntityCoordinate& aEntityCoord_A, const TEntityCoordinate& aEntityCoord_B) {
-  return {aEntityCoord_A.x + aEntityCoord_B.x, aEntityCoord_A.y + aEntityCoord_B.y};
-}
-
-TEntityCoordinate operator-(const TEntityCoordinate& aEntityCoord_A, const TEntityCoordinate& aEntityCoord_B) {
-  return {aEntityCoord_A.x - aEntityCoord_B.x, aEntityCoord_A.y - aEntityCoord_B.y};
-}
-
-TEntityCoordinate operator*(double aNumber, const TEntityCoordinate& aEntityCoord) {
-  return {aNumber * aEntityCoord.x, aNumber * aEntityCoord.y};
-}
-
-TEntityCoordinate operator/(const TEntityCoordinate& aEntityCoord, double aNumber) {
-  return {aEntityCoord.x / aNumber, aEntityCoord.y / aNumber};
-}
-
 TEntityCoordinate GetCoordinate_2D(const TCoordinate_3D& aCoordinate, const TPlane& aPlane) {
   const TCoordinate_3D& origin = aPlane.Origin();
   const TCoordinate_3D d = {aCoordinate.x - origin.x, aCoordinate.y - origin.y, aCoordinate.z - origin.z};

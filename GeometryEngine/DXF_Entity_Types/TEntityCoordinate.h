@@ -28,12 +28,23 @@ GEOMETRYENGINE_API bool operator==(const TEntityCoordinate& aEntityCoord_A, cons
 GEOMETRYENGINE_API bool operator!=(const TEntityCoordinate& aEntityCoord_A, const TEntityCoordinate& aEntityCoord_B);
 
 // Vector arithmetic by components, without tolerance. DEGENERATE: a division by 0 gives infinities and not-a-numbers.
-GEOMETRYENGINE_API TEntityCoordinate operator+(const TEntityCoordinate& aEntityCoord_A,
-                                               const TEntityCoordinate& aEntityCoord_B);
-GEOMETRYENGINE_API TEntityCoordinate operator-(const TEntityCoordinate& aEntityCoord_A,
-                                               const TEntityCoordinate& aEntityCoord_B);
-GEOMETRYENGINE_API TEntityCoordinate operator*(double aNumber, const TEntityCoordinate& aEntityCoord);
-GEOMETRYENGINE_API TEntityCoordinate operator/(const TEntityCoordinate& aEntityCoord, double aNumber);
+constexpr TEntityCoordinate operator+(const TEntityCoordinate& aEntityCoord_A,
+                                      const TEntityCoordinate& aEntityCoord_B) {
+  return {aEntityCoord_A.x + aEntityCoord_B.x, aEntityCoord_A.y + aEntityCoord_B.y};
+}
+
+constexpr TEntityCoordinate operator-(const TEntityCoordinate& aEntityCoord_A,
+                                      const TEntityCoordinate& aEntityCoord_B) {
+  return {aEntityCoord_A.x - aEntityCoord_B.x, aEntityCoord_A.y - aEntityCoord_B.y};
+}
+
+constexpr TEntityCoordinate operator*(double aNumber, const TEntityCoordinate& aEntityCoord) {
+  return {aNumber * aEntityCoord.x, aNumber * aEntityCoord.y};
+}
+
+constexpr TEntityCoordinate operator/(const TEntityCoordinate& aEntityCoord, double aNumber) {
+  return {aEntityCoord.x / aNumber, aEntityCoord.y / aNumber};
+}
 
 /// The projection of a point of space onto a plane: the dot products of (aCoordinate - Origin) with the basis vectors,
 /// wholly in double precision. It inverts GetCoordinate_3D only for an orthonormal basis; nothing is normalised here.
