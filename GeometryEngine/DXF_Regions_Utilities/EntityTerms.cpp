@@ -1,9 +1,8 @@
 #include "GeometryEngine/DXF_Regions_Utilities/EntityTerms.h"
 
-#include <algorithm>
 #include <cmath>
 
-#include "GeometryEngine/FloatingPoint/detail/TSinesCosines.h"
+#include "GeometryEngine/FloatingPoint/detail/ForEachSineCosine.h"
 #include "GeometryEngine/GeometryFuncts/detail/CirclePoint.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ArcAngles.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ChordCount.h"
@@ -16,8 +15,7 @@ namespace GeometryEngine {
 
 namespace {
 
-constexpr std::int32_t kAreaSegments = 5;  // segments of the polygon that stands for an arc's area
-constexpr auto kMostAtOnce = static_cast<std::int64_t>(detail::TSinesCosines::kMost);
+constexpr std::int32_t kAreaSegments = 5;        // segments of the polygon that stands for an arc's area
 constexpr double kDegreesPerFactor = 10;         // the resolution factor counts segments per this many degrees
 constexpr double kChordTolerance = 0.01;         // drawing length units between chord and arc
 constexpr double kFullTurn = 6.283185307179586;  // radians
@@ -102,20 +100,14 @@ double GetArea_Arc(const TEntityCoordinate& aFrom, const TEntityCoordinate& aTo,
   const double startAngle = GetEntityStartAngle_Arc(aFrom, aArc) * kRadiansPerDegree;
   const double radius = GetRadius_EqualArea(aArc.radius, sweep, step, aSegments);
   const double signedStep = aDirection == 0 ? step : -step;
-  detail::TSinesCosines directions;
+  const auto radiansOf = [&](std::int64_t aIndex) { return startAngle + static_cast<double>(aIndex) * signedStep; };
   double sum = 0;
   TEntityCoordinate from = aFrom;
-  for (std::int64_t first = 1; first < aSegments; first += kMostAtOnce) {
-    const auto count = static_cast<std::size_t>(std::min(kMostAtOnce, aSegments - first));
-    directions.Compute(count, [&](std::size_t i) {
-      return startAngle + static_cast<double>(first + static_cast<std::int64_t>(i)) * signedStep;
-    });
-    for (std::size_t i = 0; i < count; ++i) {
-      const TEntityCoordinate to = detail::GetCirclePoint(aArc.CentreCoords, radius, directions[i]);
-      sum += GetCross(from, to);
-      from = to;
-    }
-  }
+  detail::ForEachSineCosine(1, std::int64_t{aSegments} - 1, radiansOf, [&](const detail::TSineCosine& aTurned) {
+    const TEntityCoordinate to = detail::GetCirclePoint(aArc.CentreCoords, radius, aTurned);
+    sum += GetCross(from, to);
+    from = to;
+  });
   return sum + GetCross(from, aTo);
 }
 

@@ -9,7 +9,7 @@
 #include <random>
 #include <vector>
 
-#include "GeometryEngine/FloatingPoint/detail/TSinesCosines.h"
+#include "GeometryEngine/FloatingPoint/detail/ForEachSineCosine.h"
 
 namespace GeometryEngine::detail {
 
@@ -121,19 +121,17 @@ TEST(GetSinesCosines, AreThoseOfOneByOneForEveryCount) {
   }
 }
 
-TEST(TSinesCosines, ComputesUpToItsMostAndNoMoreThanAskedFor) {
-  const std::vector<double> angles = GetAngles(10, TSinesCosines::kMost);
-  TSinesCosines block;
-  for (std::size_t count = 0; count <= angles.size(); ++count) {
-    std::size_t asked = 0;
-    block.Compute(count, [&](std::size_t i) {
-      ++asked;
-      return angles[i];
-    });
-    EXPECT_EQ(asked, count);
-    for (std::size_t i = 0; i < count; ++i) {
-      EXPECT_TRUE(HaveSameBits(block[i].fSine, GetSine(angles[i])));
-      EXPECT_TRUE(HaveSameBits(block[i].fCosine, GetCosine(angles[i])));
+TEST(ForEachSineCosine, VisitsEachInTurnWithTheBitsOfOneByOne) {
+  const std::vector<double> angles = GetAngles(10, 50);
+  const auto radiansOf = [&](std::int64_t aIndex) { return angles.at(static_cast<std::size_t>(aIndex)); };
+  for (std::int64_t first = 0; first < 3; ++first) {
+    for (std::int64_t last = first - 1; last < 50; ++last) {
+      std::int64_t next = first;
+      ForEachSineCosine(first, last, radiansOf, [&](const TSineCosine& aFound) {
+        const auto [sine, cosine] = GetSineCosine(radiansOf(next++));
+        EXPECT_TRUE(HaveSameBits(aFound.fSine, sine) && HaveSameBits(aFound.fCosine, cosine));
+      });
+      EXPECT_EQ(next, last + 1);
     }
   }
 }
