@@ -69,7 +69,7 @@ void AddCures(const Report& report, Lines& lines) {
   std::map<CureKind, std::vector<const Cure*>> kinds;
   for (const Cure& cure : report.detection.diagnostics.cures) kinds[cure.kind].push_back(&cure);
   for (const auto& [kind, cures] : kinds) {
-    lines.Add("prepared {} {}, first at {}", cures.size(), CureText(kind), CurePlace(*cures.front(), report.drawing));
+    lines.Add("prepared {} ({}), first at {}", CureText(kind), cures.size(), CurePlace(*cures.front(), report.drawing));
   }
 }
 
