@@ -267,6 +267,14 @@ TEST_F(CopyRegionParameters, TakesOverTypeFlagsPolyTypeAndPlane) {
   EXPECT_NE(&fRegion.Plane(), &fSource.Plane());
 }
 
+TEST_F(CopyRegionParameters, OfARegionWhosePlaneNobodyHasAskedForSetsThePlaneBack) {
+  TPlane& held = fRegion.Plane();
+  held.Vector_X({0, 0, 7});
+  fRegion.CopyRegionParameters(fSource, true);
+  EXPECT_EQ(&fRegion.Plane(), &held);
+  EXPECT_EQ(held.Vector_X().z, 0.0F);
+}
+
 TEST_F(CopyRegionParameters, LeavesAdaptiveEntitiesStartCoordinatesAndShape) {
   fSource.AdaptiveEntities(true);
   fSource.DetectionStartCoords().push_back({1, 2});
