@@ -113,7 +113,7 @@ class GEOMETRYENGINE_API TEntityStorage {
   ///
   /// Equal keys come out in the order that a quicksort in the Lomuto scheme leaves (the last entity of a slice is its
   /// pivot, entities not right of it go to the left part); the sort is not stable, but the same input gives the same
-  /// order always. Input already in order stays as it is. Input on which that scheme would take more than 8 n log2(n)
+  /// order always. Input already in order stays as it is. Input on which that scheme would take more than 16 n log2(n)
   /// comparisons is finished by a merge sort.
   /// DEGENERATE: nothing when `aLow` is not below `aHigh` or either is no index of the storage.
   /// COST: one left-most coordinate an entity, O(n log n) comparisons, no recursion.

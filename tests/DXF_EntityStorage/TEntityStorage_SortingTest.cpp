@@ -266,7 +266,7 @@ void ExpectBoundedSort(const char* aKind) {
   detail::TLomutoSort sort(items);
   sort.Sort();
   const std::uint64_t levels = std::bit_width(keys.size());
-  EXPECT_LE(sort.Limit(), 8 * keys.size() * levels);
+  EXPECT_LE(sort.Limit(), 16 * keys.size() * levels);
   // Beyond the limit: one more look at what may be in order already, and a merge sort of what is left.
   EXPECT_LE(sort.Comparisons(), sort.Limit() + keys.size() * (levels + 1));
   EXPECT_LE(sort.StackCapacity(), 2 * (levels + 1));  // it grows by doubling

@@ -58,7 +58,7 @@ class TLomutoSort {
 
  private:
   /// The limit, as a multiple of n log2(n). Shuffled keys take about 1.4.
-  static constexpr std::uint64_t kComparisonsPerItemAndLevel = 8;
+  static constexpr std::uint64_t kComparisonsPerItemAndLevel = 16;
 
   struct TSlice {
     std::size_t fFirst;
