@@ -31,12 +31,12 @@ bool AreAlike(double a, double b) {
 double GetError(double aFound, long double aExact) {
   int exponent = 0;
   std::frexp(aExact, &exponent);
-  return static_cast<double>(std::fabs(aFound - aExact) / std::ldexp(1.0L, exponent - 53));
+  return static_cast<double>(std::fabs(static_cast<long double>(aFound) - aExact) / std::ldexp(1.0L, exponent - 53));
 }
 
 double GetError(double aRadians) {
   const auto [sine, cosine] = GetSineCosine(aRadians);
-  const long double exact = aRadians;
+  const auto exact = static_cast<long double>(aRadians);
   return std::max(GetError(sine, std::sin(exact)), GetError(cosine, std::cos(exact)));
 }
 
