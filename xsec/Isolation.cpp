@@ -35,9 +35,11 @@ std::string_view AdviceFor(int signal) {
   }
 }
 
-void EndWithParent() {
+/// Asks for an end when the parent ends, which it may have done before it could be asked for.
+void EndWithParent([[maybe_unused]] pid_t parent) {
 #ifdef __linux__
   ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+  if (::getppid() != parent) std::raise(SIGTERM);
 #endif
 }
 
@@ -67,13 +69,14 @@ ExitCode AnswerToSignal(int signal) {
 ExitCode RunApart(const std::vector<Output>& aOutputs, const std::function<ExitCode()>& aWork) {
   std::signal(SIGCHLD, SIG_DFL);  // where it is ignored, nobody hears how a child ended
   HeldSignals held{SIGINT, SIGTERM, SIGHUP, SIGCHLD};
+  const pid_t parent = ::getpid();
   const pid_t child = ::fork();
   if (child < 0) {
     Tell(fmt::format("no process can be started ({}); leave out --isolate to go on without", std::strerror(errno)));
     return ExitCode::LimitReached;
   }
   if (child == 0) {
-    EndWithParent();
+    EndWithParent(parent);
     held.Release();
     return aWork();
   }

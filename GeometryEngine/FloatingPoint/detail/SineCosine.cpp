@@ -1,6 +1,6 @@
 #include "GeometryEngine/FloatingPoint/detail/SineCosine.h"
 
-#include <algorithm>
+#include <cstddef>
 
 namespace GeometryEngine::detail {
 
@@ -39,17 +39,13 @@ TMethod ChooseMethod() {
 
 #endif
 
-bool IsBeyondReduction(double aRadians) {
-  return std::abs(aRadians) > kLargestReduced;
-}
-
 }  // namespace
 
 void GetSinesCosines(std::span<const double> aRadians, std::span<double> aSines, std::span<double> aCosines) {
   static const TMethod compute = ChooseMethod();
   compute(aRadians, aSines.data(), aCosines.data());
-  if (std::none_of(aRadians.begin(), aRadians.end(), IsBeyondReduction)) return;
   for (std::size_t i = 0; i < aRadians.size(); ++i) {
+    if (!IsBeyondReduction(aRadians[i])) continue;
     const TSineCosine found = GetSineCosine(aRadians[i]);
     aSines[i] = found.fSine;
     aCosines[i] = found.fCosine;

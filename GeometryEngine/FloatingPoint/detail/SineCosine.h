@@ -18,6 +18,10 @@ struct TSineCosine {
 /// 1e-10 any more, the C library computes.
 inline constexpr double kLargestReduced = 1e6;
 
+inline bool IsBeyondReduction(double aRadians) {
+  return std::abs(aRadians) > kLargestReduced;
+}
+
 /// Of an angle of at most kLargestReduced, and not a number of what is no number; else anything.
 ///
 /// A multiple of a right angle is taken off in three parts of pi / 2, of which the first two have 33 bits each, so that
@@ -64,7 +68,7 @@ inline TSineCosine GetSineCosine_Reduced(double aRadians) {
 
 /// Sine and cosine of an angle in radians; not a number of an endless angle.
 inline TSineCosine GetSineCosine(double aRadians) {
-  if (std::abs(aRadians) > kLargestReduced) return {std::sin(aRadians), std::cos(aRadians)};
+  if (IsBeyondReduction(aRadians)) return {std::sin(aRadians), std::cos(aRadians)};
   return GetSineCosine_Reduced(aRadians);
 }
 
