@@ -2,18 +2,25 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
+#include <functional>
+#include <limits>
 #include <random>
 #include <set>
+#include <vector>
 
 namespace GeometryEngine {
 
 using detail::TActiveHeights;
+using detail::TBinnedHeights;
 using detail::THeights;
+using detail::TListedHeights;
 
 namespace {
 
-std::multiset<TIndex> Meeting(const TActiveHeights& aActive, const THeights& aHeights) {
+template <class TSet>
+std::multiset<TIndex> Meeting(const TSet& aActive, const THeights& aHeights) {
   std::multiset<TIndex> found;
   aActive.ForEachMeeting(aHeights, [&](TIndex i) { found.insert(i); });
   return found;
@@ -26,35 +33,74 @@ THeights RandomHeights(std::mt19937& aRandom) {
   return {low, low + (1 - low) * std::pow(place(aRandom), 12)};
 }
 
-}  // namespace
-
-TEST(TActiveHeights, FindsWhatAComparisonWithEveryItemFinds) {
-  constexpr TIndex kItems = 2000;
+/// Compares searches with comparisons with every item, while items come and go so that about `aMost` come to be there
+/// and all have gone in the end, again and again. Answers how many were found.
+template <class TSet>
+std::size_t CompareWithEveryItem(TIndex aMost) {
   std::mt19937 random(1);
   std::vector<THeights> heights;
-  for (TIndex i = 0; i < kItems; ++i) heights.push_back(RandomHeights(random));
-  TActiveHeights active({0, 1}, heights.size());
+  for (TIndex i = 0; i < aMost; ++i) heights.push_back(RandomHeights(random));
+  TSet active({0, 1}, heights.size());
   std::set<TIndex> within;
   std::size_t found = 0;
   for (int step = 0; step < 20'000; ++step) {
-    const TIndex item = static_cast<TIndex>(random() % kItems);
+    const TIndex item = static_cast<TIndex>(random() % static_cast<std::uint32_t>(aMost));
+    const bool isRising = step / 5'000 % 2 == 0;
     const THeights& own = heights[static_cast<std::size_t>(item)];
-    if (within.erase(item) > 0) {
-      active.Remove(item);
-    } else {
-      within.insert(item);
-      active.Add(item, own);
-    }
+    if (isRising && within.insert(item).second) active.Add(item, own);
+    if (!isRising && within.erase(item) > 0) active.Remove(item);
     if (step % 10 != 0) continue;
     const THeights searched = RandomHeights(random);
     std::multiset<TIndex> expected;
     for (const TIndex i : within) {
       if (heights[static_cast<std::size_t>(i)].Meets(searched)) expected.insert(i);
     }
-    ASSERT_EQ(Meeting(active, searched), expected);
+    EXPECT_EQ(Meeting(active, searched), expected) << "step " << step;
     found += expected.size();
   }
-  EXPECT_GT(found, 100'000U);
+  return found;
+}
+
+}  // namespace
+
+TEST(TListedHeights, FindsWhatAComparisonWithEveryItemFinds) {
+  constexpr TIndex kMost = TListedHeights::kMostItems;
+  EXPECT_GT(CompareWithEveryItem<TListedHeights>(kMost), 50'000U);
+}
+
+TEST(TListedHeights, VisitsTheLastThatWasAddedFirst) {
+  TListedHeights listed({0, 1}, 200);
+  for (TIndex i = 0; i < 200; ++i) listed.Add(i, {0, 1});
+  for (TIndex i = 0; i < 200; ++i) {
+    if (i % 7 != 3) listed.Remove(i);
+  }
+  std::vector<TIndex> found;
+  listed.ForEachMeeting({0.5, 0.5}, [&](TIndex i) { found.push_back(i); });
+  EXPECT_EQ(found.size(), 29U);
+  EXPECT_TRUE(std::ranges::is_sorted(found, std::greater<>()));
+}
+
+TEST(TBinnedHeights, FindsWhatAComparisonWithEveryItemFinds) {
+  EXPECT_GT(CompareWithEveryItem<TBinnedHeights>(2000), 100'000U);
+}
+
+TEST(TBinnedHeights, GivesAllItemsBackInAscendingOrder) {
+  TBinnedHeights binned({0, 1}, 100);
+  for (TIndex i = 100; i-- > 0;) binned.Add(i, {i / 100.0, (i + 1) / 100.0});
+  std::vector<TIndex> taken;
+  binned.TakeAll([&](TIndex item, const THeights& heights) {
+    EXPECT_EQ(heights.fLow, item / 100.0);
+    taken.push_back(item);
+  });
+  EXPECT_EQ(taken.size(), 100U);
+  EXPECT_TRUE(std::ranges::is_sorted(taken));
+  EXPECT_EQ(binned.Count(), 0U);
+  EXPECT_THAT(Meeting(binned, {0, 1}), testing::IsEmpty());
+}
+
+// From the list into bins and back, twice.
+TEST(TActiveHeights, FindsWhatAComparisonWithEveryItemFinds) {
+  EXPECT_GT(CompareWithEveryItem<TActiveHeights>(3000), 100'000U);
 }
 
 TEST(TActiveHeights, CountsBothEndsOfARangeIn) {

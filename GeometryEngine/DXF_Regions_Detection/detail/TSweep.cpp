@@ -96,7 +96,7 @@ void TSweep::FindTouchingArcs(TIndex aIndex) {
 // Both lists in descending order of entry, as if one list of all that is active were walked backwards.
 void TSweep::RecordMeetings(TIndex aIndex) {
   std::ranges::sort(fLeftBehind, std::greater<>());
-  std::ranges::sort(fCandidates, std::greater<>());
+  if (!std::ranges::is_sorted(fCandidates, std::greater<>())) std::ranges::sort(fCandidates, std::greater<>());
   auto leaving = fLeftBehind.begin();
   for (const TIndex candidate : fCandidates) {
     for (; leaving != fLeftBehind.end() && *leaving > candidate; ++leaving) RecordEnds(*leaving);
