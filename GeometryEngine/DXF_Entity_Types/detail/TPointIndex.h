@@ -9,6 +9,7 @@
 
 #include "GeometryEngine/DXF_Entity_Types/TEntityCoordinate.h"
 #include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
+#include "GeometryEngine/DXF_Entity_Types/detail/PointSameness.h"
 #include "GeometryEngine/DXF_Entity_Types/detail/TCellChains.h"
 #include "GeometryEngine/DXF_Entity_Types/detail/TToleranceCells.h"
 
@@ -41,7 +42,7 @@ class TPointIndex {
   void Add(const TEntityCoordinate& aPoint) {
     fPoints.push_back(aPoint);
     if (CanMatch(aPoint)) {
-      fChains.Add(GetHash(fCells.GetCell(aPoint.x), fCells.GetCell(aPoint.y)));
+      fChains.Add(GetHash(aPoint));
     } else {
       fChains.AddHidden();
     }
@@ -72,8 +73,20 @@ class TPointIndex {
   /// The same, given that no two of the points are the same. One with the very numbers of `aPoint` is the only match
   /// then, since any other would be the same as that one.
   TPointMatch FindMatch_Distinct(const TEntityCoordinate& aPoint) const {
-    const TIndex equal = FindEqual(aPoint);
-    return equal == kNotFound ? FindMatch(aPoint) : TPointMatch{equal, true};
+    TPointMatch match;
+    const auto hasItsNumbers = [&](TIndex i) {
+      match = {EarlierOf(match.fFirst, i), match.fFirst == kNotFound};
+      return Point(i).x == aPoint.x && Point(i).y == aPoint.y;
+    };
+    const TIndex equal = FindFirstIf(aPoint, hasItsNumbers);
+    return equal == kNotFound ? match : TPointMatch{equal, true};
+  }
+
+  /// Has memory fetch what a search for this point will look at first.
+  void FetchAhead([[maybe_unused]] const TEntityCoordinate& aPoint) const {
+#ifdef __GNUC__
+    if (CanMatch(aPoint)) fChains.FetchAhead(GetHash(aPoint));
+#endif
   }
 
   /// The first among the points that are the same as `aPoint` whose index `aAccepts`.
@@ -92,7 +105,13 @@ class TPointIndex {
   }
 
  private:
-  static std::uint64_t GetHash(std::int64_t aColumn, std::int64_t aRow) { return MixCell(MixCell(0, aColumn), aRow); }
+  static std::uint64_t GetHash(std::int64_t aColumn, std::int64_t aRow) {
+    return MixCell(MixCell(0, aColumn), aRow);
+  }
+
+  std::uint64_t GetHash(const TEntityCoordinate& aPoint) const {
+    return GetHash(fCells.GetCell(aPoint.x), fCells.GetCell(aPoint.y));
+  }
 
   static TIndex EarlierOf(TIndex aLeft, TIndex aRight) {
     if (aLeft == kNotFound || aRight == kNotFound) return std::max(aLeft, aRight);
@@ -103,19 +122,13 @@ class TPointIndex {
     return fCells.CanMatch(aPoint.x) && fCells.CanMatch(aPoint.y);
   }
 
-  TIndex FindEqual(const TEntityCoordinate& aPoint) const {
-    if (!CanMatch(aPoint)) return kNotFound;
-    TIndex i = fChains.First(GetHash(fCells.GetCell(aPoint.x), fCells.GetCell(aPoint.y)));
-    while (i != kNotFound && !(Point(i).x == aPoint.x && Point(i).y == aPoint.y)) i = fChains.Next(i);
-    return i;
-  }
-
   template <class TAccepts>
   TIndex FindFirstInChain(std::uint64_t aHash, const TEntityCoordinate& aPoint, TIndex aBefore,
                           const TAccepts& aAccepts) const {
+    const double tolerance = ReadLinearTolerance();
     for (TIndex i = fChains.First(aHash); i != kNotFound; i = fChains.Next(i)) {
       if (aBefore != kNotFound && i >= aBefore) return kNotFound;
-      if (fChains.HasHash(i, aHash) && Point(i) == aPoint && aAccepts(i)) return i;
+      if (fChains.HasHash(i, aHash) && AreSame(Point(i), aPoint, tolerance) && aAccepts(i)) return i;
     }
     return kNotFound;
   }

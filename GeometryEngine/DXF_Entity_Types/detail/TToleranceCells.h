@@ -25,7 +25,7 @@ struct TCellRange {
 /// not finite is the same as none. Under an infinite tolerance all finite values are the same, and there is one cell.
 class TToleranceCells {
  public:
-  explicit TToleranceCells(double aTolerance) : fTolerance(aTolerance), fWidth(kTolerancesPerCell * aTolerance) {}
+  explicit TToleranceCells(double aTolerance) : fTolerance(aTolerance), fScale(1 / (kTolerancesPerCell * aTolerance)) {}
 
   /// True when the same values are the same under this tolerance.
   bool ServesTolerance(double aTolerance) const {
@@ -37,7 +37,7 @@ class TToleranceCells {
   bool CanMatch(double aValue) const { return fTolerance > 0 && std::isfinite(aValue); }
 
   std::int64_t GetCell(double aValue) const {
-    const double cell = aValue / fWidth + kShift;
+    const double cell = aValue * fScale + kShift;
     if (cell >= kFarthestCell) return kFarthestCell;
     if (cell <= -kFarthestCell) return -kFarthestCell;
     if (std::isnan(cell)) return 0;
@@ -59,7 +59,7 @@ class TToleranceCells {
   static constexpr std::int64_t kFarthestCell = std::int64_t{1} << 53;
 
   double fTolerance;
-  double fWidth;
+  double fScale;  ///< cells per unit of the axis
 };
 
 }  // namespace GeometryEngine::detail

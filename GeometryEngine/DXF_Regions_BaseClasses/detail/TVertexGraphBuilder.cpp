@@ -19,10 +19,10 @@ void TVertexGraphBuilder::Add(TDXFEntity&& aPiece) {
   fLastEndMatch = end;
   if (IsKnown(aPiece, start, end)) return;
   aPiece.StartCoords = AddHalfEdge(aPiece.StartCoords, start.fFirst);
-  // A vertex just made at the start may be the same as the end, and then the first of them.
+  // A vertex just made at the start may be the same as the end, and then the only one of them.
   const bool isStartNew = start.fFirst == kNotFound;
-  const bool mayJoinStart = isStartNew && end.fFirst == kNotFound;
-  const TIndex endVertex = mayJoinStart ? fPoints.FindFirst(aPiece.EndCoords) : end.fFirst;
+  const bool joinsStart = isStartNew && end.fFirst == kNotFound && aPiece.StartCoords == aPiece.EndCoords;
+  const TIndex endVertex = joinsStart ? fPoints.Count() - 1 : end.fFirst;
   fLastEndMatch = {endVertex == kNotFound ? fPoints.Count() : endVertex, end.fIsOnly};
   if (isStartNew || fLastEnd != fLastEnd) fLastEndMatch.reset();  // or the same as nothing, not even itself
   aPiece.EndCoords = AddHalfEdge(aPiece.EndCoords, endVertex);

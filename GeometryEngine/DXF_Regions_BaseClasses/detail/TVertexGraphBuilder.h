@@ -22,6 +22,8 @@ class TVertexGraphBuilder {
   TVertexGraphBuilder(TEntityArray& aPieces, std::size_t aMostPieces);
 
   void Add(TDXFEntity&& aPiece);
+  /// Has memory fetch what the search for a piece's end will look at first.
+  void FetchAhead(const TEntityCoordinate& aEnd) const { fPoints.FetchAhead(aEnd); }
   /// After the last piece; the object is used up.
   std::unique_ptr<TPendingGraph> TakeGraph();
 
