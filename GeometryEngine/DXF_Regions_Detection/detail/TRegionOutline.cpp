@@ -26,7 +26,7 @@ std::vector<TWalkedEntity> TRegionOutline::GetEntities(const TEntityTree& aTree,
 
 std::vector<THeightRange> TRegionOutline::GetHeights() const {
   std::vector<THeightRange> heights;
-  heights.reserve(fEntities.size());
+  heights.reserve(TBlockTree<THeightRange>::GetRoom(fEntities.size()));
   for (const TWalkedEntity& entity : fEntities) heights.push_back(entity.Heights());
   return heights;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <utility>
 #include <vector>
@@ -14,49 +15,62 @@ namespace GeometryEngine::detail {
 template <typename TExtent>
 class TBlockTree {
  public:
-  explicit TBlockTree(std::vector<TExtent> aItems = {}) {
-    fLevels.push_back(std::move(aItems));
-    while (fLevels.back().size() > kBlockSize) fLevels.push_back(GetBlocks(fLevels.back()));
+  static constexpr std::size_t kBlockSize = 8;
+
+  explicit TBlockTree(std::vector<TExtent> aItems = {}) : fExtents(std::move(aItems)) {
+    fStarts[1] = fExtents.size();
+    fExtents.reserve(GetRoom(fExtents.size()));
+    while (SizeOf(fTop) > kBlockSize) AddLevel();
+  }
+
+  /// Room for so many items and the blocks above them.
+  static constexpr std::size_t GetRoom(std::size_t aItems) {
+    std::size_t room = aItems;
+    for (std::size_t level = aItems; level > kBlockSize; room += level) level = BlocksOf(level);
+    return room;
   }
 
   /// Calls `aVisit(place)` for each item whose extent `aAccepts`, in their order. REQUIRES: an extent that is accepted
   /// lies in no extent that is not; what is accepted may shrink on the way.
   template <typename TAccepts, typename TVisit>
   void ForEach(const TAccepts& aAccepts, const TVisit& aVisit) const {
-    const std::size_t top = fLevels.size() - 1;
-    ForEach(top, 0, fLevels[top].size(), aAccepts, aVisit);
+    ForEach(fTop, 0, SizeOf(fTop), aAccepts, aVisit);
   }
 
  private:
-  static constexpr std::size_t kBlockSize = 8;
+  static constexpr std::size_t kMostLevels = 11;  // of as many items as an index counts
 
-  static std::vector<TExtent> GetBlocks(const std::vector<TExtent>& aItems) {
-    std::vector<TExtent> blocks;
-    blocks.reserve(aItems.size() / kBlockSize + 1);
-    for (std::size_t i = 0; i < aItems.size(); ++i) {
-      if (i % kBlockSize == 0) blocks.push_back(aItems[i]);
-      blocks.back().Unite(aItems[i]);
+  static constexpr std::size_t BlocksOf(std::size_t aItems) { return (aItems + kBlockSize - 1) / kBlockSize; }
+  std::size_t SizeOf(std::size_t aLevel) const { return fStarts[aLevel + 1] - fStarts[aLevel]; }
+
+  void AddLevel() {
+    for (std::size_t i = fStarts[fTop]; i < fStarts[fTop + 1]; ++i) {
+      if ((i - fStarts[fTop]) % kBlockSize == 0) fExtents.push_back(fExtents[i]);
+      fExtents.back().Unite(fExtents[i]);
     }
-    return blocks;
+    ++fTop;
+    fStarts[fTop + 1] = fExtents.size();
   }
 
   /// Goes down no deeper than there are levels, which is a logarithm of the items.
   template <typename TAccepts, typename TVisit>
   void ForEach(std::size_t aLevel, std::size_t aBegin, std::size_t aEnd, const TAccepts& aAccepts,
                const TVisit& aVisit) const {
-    const std::vector<TExtent>& extents = fLevels[aLevel];
+    const TExtent* const extents = fExtents.data() + fStarts[aLevel];
     for (std::size_t i = aBegin; i < aEnd; ++i) {
       if (!aAccepts(extents[i])) continue;
       if (aLevel == 0) {
         aVisit(i);
       } else {
         const std::size_t begin = i * kBlockSize;
-        ForEach(aLevel - 1, begin, std::min(begin + kBlockSize, fLevels[aLevel - 1].size()), aAccepts, aVisit);
+        ForEach(aLevel - 1, begin, std::min(begin + kBlockSize, SizeOf(aLevel - 1)), aAccepts, aVisit);
       }
     }
   }
 
-  std::vector<std::vector<TExtent>> fLevels;  ///< the items, and above them the blocks of each level
+  std::vector<TExtent> fExtents;                       ///< the items, and behind them the blocks of each level
+  std::array<std::size_t, kMostLevels + 1> fStarts{};  ///< of the levels, and where the last one ends
+  std::size_t fTop = 0;
 };
 
 }  // namespace GeometryEngine::detail

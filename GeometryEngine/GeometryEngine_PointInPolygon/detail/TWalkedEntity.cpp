@@ -16,6 +16,21 @@ namespace {
 
 constexpr double kChordTolerance = 0.01;            // drawing length units from chord to arc
 constexpr std::int32_t kMostChordsListed = 10'000;  // of one arc
+constexpr std::size_t kBlockChords = 8;             // looked at together
+
+/// The heights of the chords between these ends, some in a row at once, and as far beyond as a chord still counts.
+std::vector<THeightRange> GetHeightsOfBlocks(const TCoordinateArray& aEnds, double aMargin) {
+  const std::size_t chords = aEnds.size() - 1;
+  std::vector<THeightRange> heights;
+  heights.reserve(TBlockTree<THeightRange>::GetRoom((chords + kBlockChords - 1) / kBlockChords));
+  for (std::size_t first = 0; first < chords; first += kBlockChords) {
+    THeightRange block = THeightRange::Of(aEnds[first].y, aEnds[first + 1].y);
+    const std::size_t last = std::min(first + kBlockChords, chords);
+    for (std::size_t k = first + 2; k <= last; ++k) block.Unite({aEnds[k].y, aEnds[k].y});
+    heights.push_back(block.Widened(aMargin));
+  }
+  return heights;
+}
 
 }  // namespace
 
@@ -38,11 +53,14 @@ std::int32_t TWalkedEntity::GetWinding(const TEntityCoordinate& aPoint, double a
   if (fChords == nullptr) ListChords(aTolerance);
   if (fChords == nullptr) return GetWindingNumber_Entity_Addition(*fEntity, fFrom, fTo, aPoint);
   std::int32_t winding = 0;
-  fChords->fHeights.ForEach([&](const THeightRange& aHeights) { return aHeights.Holds(aPoint.y); },
-                            [&](std::size_t aPlace) {
-                              const TEntityCoordinate* chord = &fChords->fEnds[aPlace];
-                              winding += GetSegmentWinding(chord[0], chord[1], aPoint, aTolerance);
-                            });
+  const TCoordinateArray& ends = fChords->fEnds;
+  const auto isLevelWith = [&](const THeightRange& aHeights) { return aHeights.Holds(aPoint.y); };
+  fChords->fBlocks.ForEach(isLevelWith, [&](std::size_t aBlock) {
+    const std::size_t last = std::min((aBlock + 1) * kBlockChords, ends.size() - 1);
+    for (std::size_t k = aBlock * kBlockChords; k < last; ++k) {
+      winding += GetSegmentWinding(ends[k], ends[k + 1], aPoint, aTolerance);
+    }
+  });
   return winding;
 }
 
@@ -55,12 +73,7 @@ void TWalkedEntity::ListChords(double aTolerance) {
   chords->fEnds.reserve(static_cast<std::size_t>(count) + 1);
   ForEachChordPoint(*fEntity, {direction, startAngle, step}, 0, count,
                     [&](const TEntityCoordinate& aEnd) { chords->fEnds.push_back(aEnd); });
-  std::vector<THeightRange> heights;
-  heights.reserve(static_cast<std::size_t>(count));
-  for (std::size_t k = 0; k + 1 < chords->fEnds.size(); ++k) {
-    heights.push_back(THeightRange::Of(chords->fEnds[k].y, chords->fEnds[k + 1].y).Widened(std::max(aTolerance, 0.0)));
-  }
-  chords->fHeights = TBlockTree<THeightRange>(std::move(heights));
+  chords->fBlocks = TBlockTree<THeightRange>(GetHeightsOfBlocks(chords->fEnds, std::max(aTolerance, 0.0)));
   fChords = std::move(chords);
 }
 

@@ -30,7 +30,7 @@ class TWalkedEntity {
  private:
   struct TChords {
     TCoordinateArray fEnds;
-    TBlockTree<THeightRange> fHeights;
+    TBlockTree<THeightRange> fBlocks;  ///< the heights of eight chords at a time
   };
 
   THeightRange GetHeights() const;

@@ -72,7 +72,7 @@ std::vector<TPoleOutlines::TPart> TPoleOutlines::GetParts(std::span<const TEntit
 /// Outside its heights a part holds no point and turns round none.
 std::vector<THeightRange> TPoleOutlines::GetHeights() const {
   std::vector<THeightRange> heights;
-  heights.reserve(fParts.size());
+  heights.reserve(TBlockTree<THeightRange>::GetRoom(fParts.size()));
   for (const TPart& part : fParts) {
     heights.push_back(part.fWalked.Heights());
     heights.back().Unite(GetHeights_On(part.fWalked.Entity(), fTolerance));
