@@ -8,7 +8,6 @@
 #include "GeometryEngine/DXF_EntityStorage/TEntityStorage.h"
 #include "GeometryEngine/DXF_EntityStorage/detail/SurfaceSegments.h"
 #include "GeometryEngine/DXF_EntityStorage/detail/VertexWalk.h"
-#include "GeometryEngine/GeometryEngine_Arrays/CoordinateArrays.h"
 #include "GeometryEngine/GeometryEngine_Arrays/EntityArrays.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/ArcWalking.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ChordPoint.h"
@@ -40,8 +39,8 @@ TIndex FindVertex(const TEntityArray& aChain, const TEntityCoordinate& aStart, c
 }
 
 void AddLinePoints(TCoordinateArray& aVertices, const detail::TVertexWalk& aWalk, bool aIncludeMidPoint) {
-  AddCoordinateToArray(aVertices, aWalk.From());
-  if (aIncludeMidPoint) AddCoordinateToArray(aVertices, (aWalk.From() + aWalk.To()) / 2);
+  aVertices.push_back(aWalk.From());
+  if (aIncludeMidPoint) aVertices.push_back((aWalk.From() + aWalk.To()) / 2);
 }
 
 void AddArcPoints(TCoordinateArray& aVertices, const detail::TVertexWalk& aWalk) {
@@ -50,7 +49,7 @@ void AddArcPoints(TCoordinateArray& aVertices, const detail::TVertexWalk& aWalk)
   const TTravelDirection direction = GetArcTravelDirection(start_angle, arc);
   const auto [aCount, aStep] = detail::GetSurfaceSegments(arc);
   detail::ForEachChordPoint(arc, {direction, start_angle, aStep}, 0, std::int64_t{aCount} - 1,
-                            [&](const TEntityCoordinate& aPoint) { AddCoordinateToArray(aVertices, aPoint); });
+                            [&](const TEntityCoordinate& aPoint) { aVertices.push_back(aPoint); });
 }
 
 }  // namespace
@@ -98,7 +97,7 @@ TCoordinateArray TEntityStorage::GetVertices() const {
   TCoordinateArray vertices;
   vertices.reserve(fEntityArray.size());
   for (detail::TVertexWalk walk(fEntityArray, GetStartCoordinate()); walk.Next();) {
-    AddCoordinateToArray(vertices, walk.From());
+    vertices.push_back(walk.From());
   }
   return vertices;
 }

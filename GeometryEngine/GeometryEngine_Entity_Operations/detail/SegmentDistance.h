@@ -18,18 +18,28 @@ struct TMeasuredSegment {
   }
 };
 
-/// The square whose root PointToSegmentDistance is. The root of the least square is the least of the roots, to the bit,
-/// since roots are rounded to the nearest. No branch depends on the numbers: a loop takes several segments at once.
-inline double GetSquaredSegmentDistance(const TEntityCoordinate& aPoint, const TMeasuredSegment& aSegment) {
+/// How far along the segment the place closest to the point lies, from 0 at its start to 1 at its end.
+/// REQUIRES: a segment of some length.
+inline double GetShareOfClosest(const TEntityCoordinate& aPoint, const TMeasuredSegment& aSegment) {
   const auto& [start, along, squaredLength] = aSegment;
-  const double projection = (aPoint.x - start.x) * along.x + (aPoint.y - start.y) * along.y;
-  const double quotient = projection / squaredLength;
-  const double share = squaredLength == 0 ? 0 : quotient;
+  const double share = ((aPoint.x - start.x) * along.x + (aPoint.y - start.y) * along.y) / squaredLength;
   const double notBefore = share < 0 ? 0 : share;
-  const double t = notBefore > 1 ? 1 : notBefore;
-  const double dx = start.x + t * along.x - aPoint.x;
-  const double dy = start.y + t * along.y - aPoint.y;
+  return notBefore > 1 ? 1 : notBefore;
+}
+
+/// The square of the distance to the place at this share of the segment's way.
+inline double GetSquaredDistance_AtShare(const TEntityCoordinate& aPoint, const TMeasuredSegment& aSegment,
+                                         double aShare) {
+  const double dx = aSegment.fStart.x + aShare * aSegment.fAlong.x - aPoint.x;
+  const double dy = aSegment.fStart.y + aShare * aSegment.fAlong.y - aPoint.y;
   return dx * dx + dy * dy;
+}
+
+/// The square whose root PointToSegmentDistance is. The root of the least square is the least of the roots, to the bit,
+/// since roots are rounded to the nearest.
+inline double GetSquaredSegmentDistance(const TEntityCoordinate& aPoint, const TMeasuredSegment& aSegment) {
+  const double share = aSegment.fSquaredLength == 0 ? 0 : GetShareOfClosest(aPoint, aSegment);
+  return GetSquaredDistance_AtShare(aPoint, aSegment, share);
 }
 
 }  // namespace GeometryEngine::detail

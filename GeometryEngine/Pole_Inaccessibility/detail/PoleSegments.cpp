@@ -21,57 +21,17 @@ double GetLargest(const TEntityCoordinate& aPoint) {
   return std::max(std::abs(aPoint.x), std::abs(aPoint.y));
 }
 
-/// How far a value lies outside a range.
-double GetExcess(double aValue, double aLow, double aHigh) {
-  return std::max(std::max(aLow - aValue, aValue - aHigh), 0.0);
-}
-
 }  // namespace
-
-TPlaneBox TPlaneBox::Around(const TEntityCoordinate& aPoint_A, const TEntityCoordinate& aPoint_B) {
-  return {std::min(aPoint_A.x, aPoint_B.x), std::max(aPoint_A.x, aPoint_B.x), std::min(aPoint_A.y, aPoint_B.y),
-          std::max(aPoint_A.y, aPoint_B.y)};
-}
-
-void TPlaneBox::Unite(const TPlaneBox& aOther) {
-  fMin_X = std::min(fMin_X, aOther.fMin_X);
-  fMax_X = std::max(fMax_X, aOther.fMax_X);
-  fMin_Y = std::min(fMin_Y, aOther.fMin_Y);
-  fMax_Y = std::max(fMax_Y, aOther.fMax_Y);
-}
-
-void TPoleSegments::TGroup::Set(std::size_t aPlace, const TMeasuredSegment& aSegment) {
-  fStart_X[aPlace] = aSegment.fStart.x;
-  fStart_Y[aPlace] = aSegment.fStart.y;
-  fAlong_X[aPlace] = aSegment.fAlong.x;
-  fAlong_Y[aPlace] = aSegment.fAlong.y;
-  fSquaredLength[aPlace] = aSegment.fSquaredLength;
-}
-
-TMeasuredSegment TPoleSegments::TGroup::Get(std::size_t aPlace) const {
-  return {{fStart_X[aPlace], fStart_Y[aPlace]}, {fAlong_X[aPlace], fAlong_Y[aPlace]}, fSquaredLength[aPlace]};
-}
-
-/// The least of its segments. One that is not a number is passed over.
-double TPoleSegments::TGroup::GetSquaredDistance(const TEntityCoordinate& aPoint) const {
-  TNumbers squares;
-  for (std::size_t i = 0; i < kGroupSize; ++i) squares[i] = GetSquaredSegmentDistance(aPoint, Get(i));
-  for (double& square : squares) square = square < kInfinity ? square : kInfinity;
-  for (std::size_t half = kGroupSize / 2; half > 0; half /= 2) {
-    for (std::size_t i = 0; i < half; ++i) squares[i] = std::min(squares[i], squares[half + i]);
-  }
-  return squares[0];
-}
 
 TPoleSegments::TPoleSegments(std::span<const TEntityStorage* const> aChains) {
   for (const TEntityStorage* chain : aChains) {
     const bool isWhole = AddChain(*chain);
     if (!isWhole || chain != aChains.front()) continue;
-    fFirstChain = fBoxes.front();
-    for (const TPlaneBox& box : fBoxes) fFirstChain->Unite(box);
+    fFirstChain = fGroupBoxes.front();
+    for (const TPlaneBox& box : fGroupBoxes) fFirstChain->Unite(box);
   }
   FillLastGroup();
-  fTree = TBlockTree<TPlaneBox>(std::move(fBoxes));
+  GroupBoxes();
 }
 
 /// False when the chain has no polyline, or not a whole one: a segment with an end that is not finite is left out. Its
@@ -80,11 +40,11 @@ bool TPoleSegments::AddChain(const TEntityStorage& aChain) {
   const TCoordinateArray vertices = aChain.GetVertices_Surf(false);
   if (vertices.size() < 2) return false;
   const std::size_t before = fCount;
-  for (std::size_t i = 0; i < vertices.size(); ++i) {
-    const TEntityCoordinate& end = i + 1 < vertices.size() ? vertices[i + 1] : vertices.front();
-    if (!IsFinite(vertices[i]) || !IsFinite(end)) continue;
-    fLargest = std::max({fLargest, GetLargest(vertices[i]), GetLargest(end)});
-    AddSegment(vertices[i], end);
+  TEntityCoordinate start = vertices.back();
+  for (const TEntityCoordinate& end : vertices) {
+    if (IsFinite(end)) fLargest = std::max(fLargest, GetLargest(end));
+    if (IsFinite(start) && IsFinite(end)) AddSegment(start, end);
+    start = end;
   }
   return fCount - before == vertices.size();
 }
@@ -95,14 +55,28 @@ void TPoleSegments::FillLastGroup() {
   for (std::size_t place = count; place < kGroupSize; ++place) fGroups.back().Set(place, fGroups.back().Get(count - 1));
 }
 
+void TPoleSegments::GroupBoxes() {
+  std::vector<TPlaneBox> whole;
+  for (std::size_t i = 0; i < fGroupBoxes.size(); ++i) {
+    const std::size_t place = i % kGroupSize;
+    if (place == 0) {
+      fBoxes.emplace_back();
+      whole.push_back(fGroupBoxes[i]);
+    }
+    fBoxes.back().Set(place, fGroupBoxes[i]);
+    whole.back().Unite(fGroupBoxes[i]);
+  }
+  fTree = TBlockTree<TPlaneBox>(std::move(whole));
+}
+
 void TPoleSegments::AddSegment(const TEntityCoordinate& aStart, const TEntityCoordinate& aEnd) {
   const TPlaneBox box = TPlaneBox::Around(aStart, aEnd);
   const std::size_t place = fCount++ % kGroupSize;
   if (place == 0) {
     fGroups.emplace_back();
-    fBoxes.push_back(box);
+    fGroupBoxes.push_back(box);
   }
-  fBoxes.back().Unite(box);
+  fGroupBoxes.back().Unite(box);
   fGroups.back().Set(place, TMeasuredSegment::Of(aStart, aEnd));
 }
 
@@ -132,19 +106,23 @@ double TPoleSegments::GetDistance(const TEntityCoordinate& aPoint) {
     const double reach = std::sqrt(aSquaredDistance) + rounding;
     return reach * reach;
   };
-  double least = fGroups[fClosest].GetSquaredDistance(aPoint);
+  const std::size_t first = fClosest;
+  double least = GetLeastSquaredDistance(aPoint, fGroups[first]);
   double squaredReach = getSquaredReach(least);
-  const auto mayBeCloser = [&](const TPlaneBox& aBox) {
-    const double dx = GetExcess(aPoint.x, aBox.fMin_X, aBox.fMax_X);
-    const double dy = GetExcess(aPoint.y, aBox.fMin_Y, aBox.fMax_Y);
-    return !(dx * dx + dy * dy > squaredReach);
+  const auto lookAt = [&](std::size_t aGroup) {
+    const double next = GetLeastSquaredDistance(aPoint, fGroups[aGroup]);
+    if (!(next < least)) return;
+    least = next;
+    squaredReach = getSquaredReach(least);
+    fClosest = aGroup;
   };
+  const auto mayBeCloser = [&](const TPlaneBox& aBox) { return !(GetSquaredBoxDistance(aPoint, aBox) > squaredReach); };
   fTree.ForEach(mayBeCloser, [&](std::size_t aPlace) {
-    const double next = fGroups[aPlace].GetSquaredDistance(aPoint);
-    if (next < least) {
-      least = next;
-      squaredReach = getSquaredReach(least);
-      fClosest = aPlace;
+    const TGroupNumbers squares = GetSquaredBoxDistances(aPoint, fBoxes[aPlace]);
+    const std::size_t begin = aPlace * kGroupSize;
+    const std::size_t count = std::min(kGroupSize, fGroups.size() - begin);
+    for (std::size_t i = 0; i < count; ++i) {
+      if (!(squares[i] > squaredReach) && begin + i != first) lookAt(begin + i);
     }
   });
   return std::sqrt(least);
