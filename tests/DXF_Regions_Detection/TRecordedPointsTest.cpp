@@ -50,8 +50,9 @@ std::string RecordAtOnce(const TEntityStorage& aDrawing, const std::vector<TReco
   return ToText(tree);
 }
 
-/// Points near each entity of a drawing, each on a lattice of halves of the tolerance.
-std::vector<TRecording> RandomRecordings(std::size_t aCount, TIndex aEntities, double aTolerance, std::uint32_t aSeed) {
+/// Points near each entity of a drawing, each on a lattice of halves of the tolerance, and every fourth an end of it.
+std::vector<TRecording> RandomRecordings(std::size_t aCount, TEntityStorage& aDrawing, double aTolerance,
+                                         std::uint32_t aSeed) {
   std::mt19937 random(aSeed);
   const int places = aSeed % 3 == 0 ? 9 : 200;
   const auto place = [&] {
@@ -59,9 +60,14 @@ std::vector<TRecording> RandomRecordings(std::size_t aCount, TIndex aEntities, d
   };
   std::vector<TRecording> recordings;
   for (std::size_t i = 0; i < aCount; ++i) {
-    const TIndex entity = static_cast<TIndex>(random() % static_cast<std::uint32_t>(aEntities));
+    const TIndex index = static_cast<TIndex>(random() % static_cast<std::uint32_t>(aDrawing.Count()));
+    if (random() % 4 == 0) {
+      const TDXFEntity& entity = aDrawing.Entities(index);
+      recordings.push_back({index, random() % 2 == 0 ? entity.StartCoords : entity.EndCoords});
+      continue;
+    }
     const double x = place();
-    recordings.push_back({entity, {x, random() % 2 == 0 ? 1.0 : place()}});
+    recordings.push_back({index, {x, random() % 2 == 0 ? 1.0 : place()}});
   }
   return recordings;
 }
@@ -78,7 +84,7 @@ TEST(TRecordedPoints, GivesTheNodesOfRecordingOneByOne) {
           "L 0,0 4,4; L 4,4 0,0; L 0,0 0,4; A c 0,0 r 2 300..100; A c 0,0 r 2 300..100.00001; A c 1,1 r 1 10..350;"
           "N; L 0,0 nan,1; L 0.0001,0 4,4.0001; A c 1,1 r 1 350..10; A c 0,0 r 2 300..100"));
       const std::vector<TRecording> recordings =
-          RandomRecordings(seed % 2 == 0 ? 60 : 600, drawing.Count(), tolerance == 0 ? 1e-3 : tolerance, seed);
+          RandomRecordings(seed % 2 == 0 ? 60 : 600, drawing, tolerance == 0 ? 1e-3 : tolerance, seed);
       ASSERT_EQ(RecordAtOnce(drawing, recordings), RecordOneByOne(drawing, recordings))
           << "tolerance " << tolerance << " seed " << seed;
     }

@@ -1,6 +1,6 @@
 #include "GeometryEngine/DXF_Regions_Detection/detail/TRecordedPoints.h"
 
-#include <numeric>
+#include <utility>
 
 #include "GeometryEngine/DXF_Regions_Detection/detail/TPointRow.h"
 
@@ -18,7 +18,22 @@ TRecordedPoints::TRecordedPoints(std::span<const TDXFEntity> aEntities)
 }
 
 void TRecordedPoints::Add(TIndex aEntity, const TEntityCoordinate& aPoint) {
-  fRecords.push_back({aPoint, aEntity, FindNode(aEntity)});
+  const TIndex index = FindNode(aEntity);
+  TNode& node = NodeAt(index);
+  // An end comes again with every neighbour, and its row would drop it: it holds the point, or one that is the same.
+  const std::uint8_t ends = GetEndsAt(node, aPoint);
+  if ((ends & node.fEnds) != 0) return;
+  node.fEnds |= ends;
+  ++node.fCount;
+  fRecords.push_back({aPoint, aEntity, index});
+}
+
+/// The ends of a node's entity that have the numbers of the point.
+std::uint8_t TRecordedPoints::GetEndsAt(const TNode& aNode, const TEntityCoordinate& aPoint) const {
+  const TDXFEntity& entity = EntityAt(aNode.fEntity);
+  const bool isStart = aPoint.x == entity.StartCoords.x && aPoint.y == entity.StartCoords.y;
+  const bool isEnd = aPoint.x == entity.EndCoords.x && aPoint.y == entity.EndCoords.y;
+  return static_cast<std::uint8_t>((isStart ? kStart : 0) | (isEnd ? kEnd : 0));
 }
 
 // The node that was found once stays the first: nodes made later stand behind it.
@@ -35,16 +50,14 @@ TIndex TRecordedPoints::FindNode(TIndex aEntity) {
 
 TIndex TRecordedPoints::FindNodeOfEqual(TIndex aEntity) const {
   const auto nodeAt = [this](TIndex i) { return fIndexedNodes[static_cast<std::size_t>(i)]; };
-  const auto entityAt = [&](TIndex i) -> const TDXFEntity& {
-    return EntityAt(fNodeEntities[static_cast<std::size_t>(nodeAt(i))]);
-  };
+  const auto entityAt = [&](TIndex i) -> const TDXFEntity& { return EntityAt(NodeAt(nodeAt(i)).fEntity); };
   const TIndex first = fIndex.FindFirst(EntityAt(aEntity), entityAt);
   return first == kNotFound ? kNotFound : nodeAt(first);
 }
 
 TIndex TRecordedPoints::AddNode(TIndex aEntity) {
-  const TIndex node = ToIndex(fNodeEntities.size());
-  fNodeEntities.push_back(aEntity);
+  const TIndex node = ToIndex(fNodes.size());
+  fNodes.push_back({aEntity});
   if (fRepeats.MayRepeat(aEntity)) {
     fIndex.Add(EntityAt(aEntity));
     fIndexedNodes.push_back(node);
@@ -52,32 +65,35 @@ TIndex TRecordedPoints::AddNode(TIndex aEntity) {
   return node;
 }
 
-/// Where each node's records begin once they stand node by node; with the end of the last.
-std::vector<std::size_t> TRecordedPoints::GetStarts() const {
-  std::vector<std::size_t> starts(fNodeEntities.size() + 1);
-  for (const TRecord& record : fRecords) ++starts[static_cast<std::size_t>(record.fNode) + 1];
-  std::partial_sum(starts.begin(), starts.end(), starts.begin());
-  return starts;
+/// The records of the first node, those of the second, and so on, of each node in the order in which they came.
+std::vector<TIndex> TRecordedPoints::GetRecordsByNode() const {
+  std::vector<TIndex> starts;
+  starts.reserve(fNodes.size());
+  TIndex start = 0;
+  for (const TNode& node : fNodes) starts.push_back(std::exchange(start, start + node.fCount));
+  std::vector<TIndex> records(fRecords.size());
+  for (std::size_t i = 0; i < fRecords.size(); ++i) {
+    TIndex& place = starts[static_cast<std::size_t>(fRecords[i].fNode)];
+    records[static_cast<std::size_t>(place++)] = ToIndex(i);
+  }
+  return records;
 }
 
 std::unique_ptr<TInterceptRows> TRecordedPoints::GetRows() const {
-  const std::vector<std::size_t> starts = GetStarts();
-  std::vector<std::size_t> ends(starts.begin(), starts.end() - 1);
-  std::vector<TRowPoint> points(fRecords.size());
-  std::vector<TIndex> turns(fRecords.size());
-  for (std::size_t i = 0; i < fRecords.size(); ++i) {
-    const std::size_t slot = ends[static_cast<std::size_t>(fRecords[i].fNode)]++;
-    points[slot] = {fRecords[i].fPoint, &EntityAt(fRecords[i].fEntity)};
-    turns[slot] = ToIndex(i);
-  }
-  auto rows = std::make_unique<TInterceptRows>(fNodeEntities.size(), fRecords.size(), ToIndex(fRecords.size()));
+  auto rows = std::make_unique<TInterceptRows>(fNodes.size(), fRecords.size(), ToIndex(fRecords.size()));
+  const std::vector<TIndex> records = GetRecordsByNode();
+  std::vector<TRowPoint> points;
   TPointRow row;
-  for (std::size_t node = 0; node < fNodeEntities.size(); ++node) {
-    const std::size_t start = starts[node];
-    rows->AddRow(fNodeEntities[node]);
-    for (const std::size_t position : row.Arrange(std::span(points).subspan(start, starts[node + 1] - start))) {
-      rows->AddPoint({points[start + position].fPoint, turns[start + position]});
+  auto first = records.begin();
+  for (const TNode& node : fNodes) {
+    const std::span turns(first, first + node.fCount);
+    points.clear();
+    for (const TIndex turn : turns) points.push_back({RecordAt(turn).fPoint, &EntityAt(RecordAt(turn).fEntity)});
+    rows->AddRow(node.fEntity);
+    for (const std::size_t position : row.Arrange(points)) {
+      rows->AddPoint({points[position].fPoint, turns[position]});
     }
+    first += node.fCount;
   }
   return rows;
 }

@@ -33,13 +33,26 @@ class TRecordedPoints {
   struct TRecord {
     TEntityCoordinate fPoint;
     TIndex fEntity;
-    TIndex fNode;  ///< of level 1
+    TIndex fNode;
+  };
+  /// Of level 1.
+  struct TNode {
+    TIndex fEntity;
+    TIndex fCount = 0;       ///< of its records
+    std::uint8_t fEnds = 0;  ///< of the entity's ends, those of which it has a record: `kStart`, `kEnd`
   };
 
+  static constexpr std::uint8_t kStart = 1;
+  static constexpr std::uint8_t kEnd = 2;
+
+  std::uint8_t GetEndsAt(const TNode& aNode, const TEntityCoordinate& aPoint) const;
   TIndex FindNode(TIndex aEntity);
   TIndex FindNodeOfEqual(TIndex aEntity) const;
   TIndex AddNode(TIndex aEntity);
-  std::vector<std::size_t> GetStarts() const;
+  std::vector<TIndex> GetRecordsByNode() const;
+  TNode& NodeAt(TIndex aIndex) { return fNodes[static_cast<std::size_t>(aIndex)]; }
+  const TNode& NodeAt(TIndex aIndex) const { return fNodes[static_cast<std::size_t>(aIndex)]; }
+  const TRecord& RecordAt(TIndex aIndex) const { return fRecords[static_cast<std::size_t>(aIndex)]; }
   const TDXFEntity& EntityAt(TIndex aIndex) const { return fEntities[static_cast<std::size_t>(aIndex)]; }
 
   std::span<const TDXFEntity> fEntities;
@@ -47,7 +60,7 @@ class TRecordedPoints {
   TEntityIndex fIndex;                ///< the entities of those nodes whose entities may repeat
   std::vector<TIndex> fIndexedNodes;  ///< those nodes
   std::vector<TIndex> fNodeOf;        ///< by entity, once it is certain which node takes its points
-  std::vector<TIndex> fNodeEntities;  ///< by node
+  std::vector<TNode> fNodes;
   std::vector<TRecord> fRecords;
 };
 
