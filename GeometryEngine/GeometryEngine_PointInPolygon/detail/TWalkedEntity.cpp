@@ -1,6 +1,7 @@
 #include "GeometryEngine/GeometryEngine_PointInPolygon/detail/TWalkedEntity.h"
 
 #include <algorithm>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -53,13 +54,12 @@ std::int32_t TWalkedEntity::GetWinding(const TEntityCoordinate& aPoint, double a
   if (fChords == nullptr) ListChords(aTolerance);
   if (fChords == nullptr) return GetWindingNumber_Entity_Addition(*fEntity, fFrom, fTo, aPoint);
   std::int32_t winding = 0;
-  const TCoordinateArray& ends = fChords->fEnds;
+  const std::span<const TEntityCoordinate> ends(fChords->fEnds);
   const auto isLevelWith = [&](const THeightRange& aHeights) { return aHeights.Holds(aPoint.y); };
   fChords->fBlocks.ForEach(isLevelWith, [&](std::size_t aBlock) {
-    const std::size_t last = std::min((aBlock + 1) * kBlockChords, ends.size() - 1);
-    for (std::size_t k = aBlock * kBlockChords; k < last; ++k) {
-      winding += GetSegmentWinding(ends[k], ends[k + 1], aPoint, aTolerance);
-    }
+    const std::size_t first = aBlock * kBlockChords;
+    const std::size_t chords = std::min(kBlockChords, ends.size() - 1 - first);
+    winding += GetPolylineWinding(ends.subspan(first, chords + 1), aPoint, aTolerance);
   });
   return winding;
 }
