@@ -110,14 +110,15 @@ void TEntityBaseClass::DetermineRegions(TEntityTree& aTree, std::int32_t aRegion
   detail::TDriverPass pass(fRegionTree);
   fRegionTree.Clear();
   fRegionTree.pEntityStorage(aTree.pEntityStorage());
-  const detail::TVertexGraph graph(aTree);
+  detail::TVertexGraph graph(aTree);
   detail::TLoopTracing tracing(graph);
   TKeptLoops loops(graph);
   const bool wantsNegative = IsWanted(-1, aRegionType);
-  for (TIndex h = 0; h < graph.HalfEdgeCount(); ++h) {
+  for (TIndex place = 0; place < graph.HalfEdgeCount(); ++place) {
+    const TIndex h = graph.HalfEdgeInOrder(place);
     // A dangling end starts no closed loop.
     if (tracing.Walk().IsTravelled(h) || graph.IsDangling(graph.HalfEdge(h).fVertex)) continue;
-    if (!tracing.Trace(h, wantsNegative) || !IsWanted(tracing.Area(), aRegionType)) continue;
+    if (!tracing.Trace(place, wantsNegative) || !IsWanted(tracing.Area(), aRegionType)) continue;
     loops.Add(tracing.Walk(), tracing.Area());
   }
   loops.MoveToTree(fRegionTree);

@@ -72,22 +72,23 @@ class TTreeWalk {
     fWalk.fCentroid = (1 / (fWalk.fArea * 6)) * fWalk.fCentroid;
   }
 
-  TStep StepBack() { return StepBackFrom(Walked(fLast)); }
+  bool StepBack() { return StepBackFrom(Walked(fLast)); }
 
-  TStep StepBackFrom(const TWalkedEntity& aWalked) {
-    if (fWalk.fPath.empty()) return kNone;
+  bool StepBackFrom(const TWalkedEntity& aWalked) {
+    if (fWalk.fPath.empty()) return false;
     fWalk.fBacktracking = true;
     fWalk.fBlocked.push_back(fWalk.fPath.back());
     const TStep previous = GetPrevious();
     if (previous == kNone) {
       FreeBlocked();
       fWalk.fPath.clear();
-      return kNone;
+      return false;
     }
     AddTerms(aWalked, -1, fWalk);
     AddTerms(Walked(previous), -1, fWalk);
     fWalk.fPath.resize(fWalk.fPath.size() - 2);
-    return previous;
+    Enter(previous);
+    return true;
   }
 
  private:
@@ -125,15 +126,15 @@ class TTreeWalk {
 void FindNextRegionEntity(TEntityTree& aTree, TTreeNode* aVertex, TTreeNode* aEntityEnd, TRegionWalk& aWalk) {
   if (aVertex == nullptr || aEntityEnd == nullptr) return;
   TTreeWalk walk(aTree, aWalk);
-  detail::WalkToEnd(walk, TStep{aVertex, aEntityEnd});
+  walk.Enter({aVertex, aEntityEnd});
+  detail::WalkToEnd(walk);
 }
 
 void StepBackRegionEntity(TEntityTree& aTree, TTreeNode* aVertex, const TEntityCoordinate& aFarEnd,
                           const TDXFEntity& aEntity, TRegionWalk& aWalk) {
   if (aVertex == nullptr) return;
   TTreeWalk walk(aTree, aWalk);
-  const TStep previous = walk.StepBackFrom({aEntity, aVertex->Coordinates(), aFarEnd});
-  detail::WalkToEnd(walk, previous);
+  if (walk.StepBackFrom({aEntity, aVertex->Coordinates(), aFarEnd})) detail::WalkToEnd(walk);
 }
 
 bool IsEntityInRegionPath(const TEntityTree& aTree, std::span<const std::int32_t> aPath, TIndex aEntityIndex) {

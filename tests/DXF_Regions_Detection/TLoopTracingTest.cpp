@@ -38,14 +38,14 @@ struct TTraced {
 };
 
 TTraced TraceAll(const TEntityTree& aTree, bool aNegativeToo) {
-  const detail::TVertexGraph graph(aTree);
+  detail::TVertexGraph graph(aTree);
   detail::TLoopTracing tracing(graph);
   TTraced traced;
-  for (TIndex h = 0; h < graph.HalfEdgeCount(); ++h) {
-    if (tracing.Walk().IsTravelled(h) || !tracing.Trace(h, aNegativeToo)) continue;
+  for (TIndex place = 0; place < graph.HalfEdgeCount(); ++place) {
+    if (tracing.Walk().IsTravelled(graph.HalfEdgeInOrder(place)) || !tracing.Trace(place, aNegativeToo)) continue;
     ++(tracing.Area() < 0 ? traced.fNegative : traced.fPositive);
   }
-  traced.fStepsBack = tracing.Walk().StepsBack();
+  traced.fStepsBack = tracing.StepsBack();
   traced.fHalfEdges = static_cast<std::size_t>(graph.HalfEdgeCount());
   return traced;
 }

@@ -11,7 +11,6 @@ namespace GeometryEngine::detail {
 
 namespace {
 
-constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
 constexpr std::size_t kFirstLook = 32;  // half-edges blocked by a walk before it looks whether it may close
 constexpr std::size_t kLaterLooks = 2;  // times as many
 constexpr std::size_t kNever = std::numeric_limits<std::size_t>::max();
@@ -22,17 +21,18 @@ TGraphWalk::TGraphWalk(const TVertexGraph& aGraph)
     : fGraph(aGraph),
       fOrder(aGraph),
       fWayBack(aGraph),
-      fMarks(At(aGraph.HalfEdgeCount())),
-      fTimesOnPath(aGraph.IsRegular() ? 0 : At(aGraph.EntityCount()), 0),
-      fAreaTerms(At(aGraph.HalfEdgeCount()), kNotANumber) {
-  for (TIndex h = 0; h < aGraph.HalfEdgeCount(); ++h) fMarks[At(h)] = aGraph.HalfEdge(h).fIsTravelled ? kTaken : 0;
+      fSums(aGraph),
+      fTimesOnPath(aGraph.IsRegular() ? 0 : At(aGraph.EntityCount()), 0) {
+  for (TIndex h = 0; h < aGraph.HalfEdgeCount(); ++h) {
+    if (aGraph.HalfEdge(h).fIsTravelled) Take(h);
+  }
   if (aGraph.IsRegular()) MarkDeadEnds();
 }
 
 void TGraphWalk::MarkDeadEnds() {
   for (TIndex h = 0; h < fGraph.HalfEdgeCount(); ++h) {
     const THalfEdge& halfEdge = fGraph.HalfEdge(h);
-    if (fGraph.IsDangling(halfEdge.fVertex)) fMarks[At(halfEdge.fTwin)] |= kDeadEnd;
+    if (fGraph.IsDangling(halfEdge.fVertex)) Mark(halfEdge.fTwin, kDeadEnd);
   }
 }
 
@@ -43,11 +43,14 @@ void TGraphWalk::Walk(TIndex aHalfEdge, bool aBacktracking) {
   fPassed.clear();
   fSteps.clear();
   fFirst = aHalfEdge;
-  fStart = fGraph.From(fGraph.HalfEdge(aHalfEdge));
+  fStartVertex = fGraph.HalfEdge(aHalfEdge).fVertex;
+  fStart = fGraph.Point(fStartVertex);
   fBacktracks = aBacktracking;
   fHasClosed = false;
+  fHasStopped = false;
   fNextLook = fGraph.IsRegular() ? kFirstLook : kNever;
-  WalkToEnd(*this, aHalfEdge);
+  Enter(aHalfEdge);
+  WalkToEnd(*this);
 }
 
 // The path that the last walk has left.
@@ -55,116 +58,99 @@ void TGraphWalk::KeepMarks() {
   for (const TIndex h : fPath) {
     TakeOffPath(h);
     Unmark(h, kWalked);
-    fMarks[At(h)] |= kTaken;
+    Take(h);
   }
 }
 
 void TGraphWalk::AvoidBridges(std::span<const std::uint8_t> aIsBridge) {
   fAvoidsBridges = true;
   for (std::size_t h = 0; h < aIsBridge.size(); ++h) {
-    if (aIsBridge[h] != 0) fMarks[h] |= kBridge;
+    if (aIsBridge[h] != 0) Mark(static_cast<TIndex>(h), kBridge);
   }
 }
 
 // Beyond a bridge nothing was touched by the walk, so that it makes no difference when these steps are taken.
 void TGraphWalk::AddStepsOverBridges() {
-  const std::vector<TIndex> walked = std::exchange(fSteps, {});
+  std::swap(fSteps, fWalkedSteps);
+  fSteps.clear();
   std::vector<TIndex> loop = std::exchange(fPath, {});
   fAvoidsBridges = false;
   fNextLook = kNever;
   std::size_t copied = 0;
   const auto copyUpTo = [&](std::size_t aEnd) {
-    const std::span<const TIndex> next = std::span(walked).subspan(copied, aEnd - copied);
+    const std::span<const TIndex> next = std::span(fWalkedSteps).subspan(copied, aEnd - copied);
     fSteps.insert(fSteps.end(), next.begin(), next.end());
     copied = aEnd;
   };
   for (const auto& [steps, bridge] : fPassed) {
     copyUpTo(steps);
-    const TIndex before = fSteps.back();
-    WalkToEnd(*this, bridge);
-    fSteps.insert(fSteps.end(), {~bridge, ~before, before});
+    Enter(bridge);
+    WalkToEnd(*this);
+    fSteps.push_back(TWalkSums::kStepBack);
   }
-  copyUpTo(walked.size());
+  copyUpTo(fWalkedSteps.size());
   fAvoidsBridges = true;
   fPath = std::move(loop);
 }
 
 double TGraphWalk::GetArea() {
   double area = 0;
-  for (const TIndex step : fSteps) area += step < 0 ? -GetAreaTerm(~step) : GetAreaTerm(step);
+  if (HasGoneToAndFro()) {
+    const auto sums = fSums.GetSums(fSteps);
+    area = sums.fArea;
+    fCentroidSum = sums.fCentroid;
+  } else {
+    area = fSums.GetArea(fSteps);
+  }
   if (!fHasClosed) return area;
   return area + GetSignedArea_Entity(fLastVertex, fLastFarEnd, fGraph.Curve(fGraph.HalfEdge(fPath.back())));
 }
 
-double TGraphWalk::GetAreaTerm(TIndex aHalfEdge) {
-  double& term = fAreaTerms[At(aHalfEdge)];
-  if (std::isnan(term)) {
-    const THalfEdge& halfEdge = fGraph.HalfEdge(aHalfEdge);
-    term = GetSignedArea_Entity(fGraph.From(halfEdge), fGraph.FarEnd(halfEdge), fGraph.Curve(halfEdge));
-  }
-  return term;
-}
-
 TEntityCoordinate TGraphWalk::GetCentroid(double aArea) {
-  const bool repeatsTerms = fSteps.size() > fPath.size();
-  if (repeatsTerms && fCentroidTerms.empty()) fCentroidTerms.resize(fAreaTerms.size(), {kNotANumber, kNotANumber});
-  TEntityCoordinate sum;
-  for (const TIndex step : fSteps) {
-    sum = step < 0 ? sum - GetCentroidTerm(~step) : sum + GetCentroidTerm(step);
-  }
+  TEntityCoordinate sum = HasGoneToAndFro() ? fCentroidSum : fSums.GetCentroid(fSteps);
   if (!fHasClosed) return sum;
   const TDXFEntity& last = fGraph.Curve(fGraph.HalfEdge(fPath.back()));
   sum = sum + GetCentroidComponent_Entity(fLastVertex, fLastFarEnd, last);
   return (1 / (aArea * 6)) * sum;
 }
 
-TEntityCoordinate TGraphWalk::GetCentroidTerm(TIndex aHalfEdge) {
-  const THalfEdge& halfEdge = fGraph.HalfEdge(aHalfEdge);
-  const auto compute = [&] {
-    return GetCentroidComponent_Entity(fGraph.From(halfEdge), fGraph.FarEnd(halfEdge), fGraph.Curve(halfEdge));
-  };
-  if (fCentroidTerms.empty()) return compute();
-  TEntityCoordinate& term = fCentroidTerms[At(aHalfEdge)];
-  if (std::isnan(term.x)) term = compute();
-  return term;
+bool TGraphWalk::HasGoneToAndFro() const {
+  return fSteps.size() > fPath.size();
 }
 
 void TGraphWalk::WriteMarks() const {
-  for (TIndex h = 0; h < fGraph.HalfEdgeCount(); ++h) {
-    if (IsTravelled(h) && !fGraph.HalfEdge(h).fIsTravelled) fGraph.MarkTravelled(h);
+  for (TIndex place = 0; place < fGraph.HalfEdgeCount(); ++place) {
+    const TIndex h = fGraph.HalfEdgeInOrder(place);
+    if (IsTravelled(h) && !fGraph.HalfEdge(h).fIsTravelled) fGraph.MarkTravelled(place);
   }
 }
 
 void TGraphWalk::Enter(TIndex aHalfEdge) {
-  fMarks[At(aHalfEdge)] |= kWalked | kOnPath;
+  Mark(aHalfEdge, kWalked);
   fPath.push_back(aHalfEdge);
   fSteps.push_back(aHalfEdge);
-  if (fGraph.IsRegular()) return;
+  if (fGraph.IsRegular()) return Mark(fOrder.Record(aHalfEdge).fTwin, kTwinOnPath);
   const TIndex entity = fGraph.HalfEdge(aHalfEdge).fEntityIndex;
   if (IsIndexWithin(entity, fTimesOnPath.size())) ++fTimesOnPath[At(entity)];
 }
 
 void TGraphWalk::TakeOffPath(TIndex aHalfEdge) {
-  Unmark(aHalfEdge, kOnPath);
-  if (fGraph.IsRegular()) return;
+  if (fGraph.IsRegular()) return Unmark(fOrder.Record(aHalfEdge).fTwin, kTwinOnPath);
   const TIndex entity = fGraph.HalfEdge(aHalfEdge).fEntityIndex;
   if (IsIndexWithin(entity, fTimesOnPath.size())) --fTimesOnPath[At(entity)];
 }
 
 // Asked about half-edges that are free: in a regular graph the entity has but one other.
 bool TGraphWalk::IsOnPath(TIndex aHalfEdge) const {
-  const THalfEdge& halfEdge = fGraph.HalfEdge(aHalfEdge);
-  if (fGraph.IsRegular()) return (fMarks[At(halfEdge.fTwin)] & kOnPath) != 0;
-  const TIndex entity = halfEdge.fEntityIndex;
+  if (fGraph.IsRegular()) return (Marks(aHalfEdge) & kTwinOnPath) != 0;
+  const TIndex entity = fGraph.HalfEdge(aHalfEdge).fEntityIndex;
   if (IsIndexWithin(entity, fTimesOnPath.size())) return fTimesOnPath[At(entity)] > 0;
   return std::ranges::any_of(fPath, [&](TIndex h) { return fGraph.HalfEdge(h).fEntityIndex == entity; });
 }
 
 // Vertices of a regular graph are all apart.
 bool TGraphWalk::IsStart(const TTurn<TIndex>& aTurn) const {
-  if (fGraph.IsRegular()) {
-    return fGraph.HalfEdge(aTurn.fHalfEdge).fFarVertex == fGraph.HalfEdge(fFirst).fVertex;
-  }
+  if (fGraph.IsRegular()) return fGraph.Leaves(fStartVertex, fOrder.Record(aTurn.fHalfEdge).fTwin);
   return AreSame(aTurn.fFarEnd, fStart, fGraph.Tolerance());
 }
 
@@ -182,34 +168,35 @@ void TGraphWalk::Close(const TTurn<TIndex>& aLast) {
   fHasClosed = true;
 }
 
-TIndex TGraphWalk::StepBack() {
+bool TGraphWalk::StepBack() {
   const TIndex last = fPath.back();
   fBlocked.push_back(last);
   ++fStepsBack;
-  if (fPath.size() < 2 || IsLost()) return GiveUp();
-  const TIndex previous = fPath[fPath.size() - 2];
-  fSteps.push_back(~last);
-  fSteps.push_back(~previous);
+  if (fPath.size() < 2 || IsLost()) {
+    GiveUp();
+    return false;
+  }
   TakeOffPath(last);
-  TakeOffPath(previous);
-  fPath.resize(fPath.size() - 2);
-  return previous;
+  fPath.pop_back();
+  fSteps.push_back(TWalkSums::kStepBack);
+  return true;
 }
 
-TIndex TGraphWalk::GiveUp() {
+void TGraphWalk::GiveUp() {
   for (const TIndex h : fPath) {
     TakeOffPath(h);
     Unmark(h, kWalked);
   }
   fPath.clear();
   FreeBlocked();
-  return kNone;
 }
 
 // Looking takes no longer than walking has taken so far.
 bool TGraphWalk::IsLost() {
   if (fBlocked.size() < fNextLook) return false;
-  const auto isOpen = [this](TIndex aHalfEdge) { return (fMarks[At(aHalfEdge)] & (kTaken | kBridge)) == 0; };
+  fHasStopped = HasSteppedBackOften();
+  if (fHasStopped) return true;
+  const auto isOpen = [this](TIndex aHalfEdge) { return (Marks(aHalfEdge) & (kTaken | kBridge)) == 0; };
   const bool mayClose = fWayBack.MayExist(fFirst, fNextLook, isOpen);
   fNextLook *= kLaterLooks;
   return !mayClose;
@@ -217,11 +204,10 @@ bool TGraphWalk::IsLost() {
 
 TTurn<TIndex> TGraphWalk::FindSharpestTurn() {
   const TIndex last = fPath.back();
-  const THalfEdge& arriving = fGraph.HalfEdge(last);
-  if (arriving.fFarVertex == kNotFound) return {kNone, {}};
   const TIndex first = fOrder.FirstTurn(last);
-  if (first == TTurnOrder::kUnclear) return FindByAngle(last);
-  for (TIndex h = first; h != arriving.fTwin; h = fOrder.Clockwise(h)) {
+  if (first == TTurnRecord::kUnclear) return FindByAngle(last);
+  const TIndex twin = fOrder.Record(last).fTwin;
+  for (TIndex h = first; h != twin; h = fOrder.Record(h).fClockwise) {
     if (!MayTake(h)) continue;
     return {h, fGraph.IsRegular() ? TEntityCoordinate{} : fGraph.FarEnd(fGraph.HalfEdge(h))};
   }
@@ -229,7 +215,7 @@ TTurn<TIndex> TGraphWalk::FindSharpestTurn() {
 }
 
 bool TGraphWalk::MayTake(TIndex aCandidate) {
-  const std::uint8_t marks = fMarks[At(aCandidate)];
+  const std::uint8_t marks = Marks(aCandidate);
   if (marks == 0) return true;
   if ((marks & (kTaken | kWalked)) != 0) return false;
   if ((marks & kDeadEnd) != 0 && fBacktracks) {
@@ -243,19 +229,20 @@ bool TGraphWalk::MayTake(TIndex aCandidate) {
 
 // What entering it and stepping back from it comes to.
 void TGraphWalk::StepIntoDeadEnd(TIndex aHalfEdge) {
-  const TIndex last = fPath.back();
-  fSteps.insert(fSteps.end(), {aHalfEdge, ~aHalfEdge, ~last, last});
-  fMarks[At(aHalfEdge)] |= kWalked;
+  fSteps.push_back(aHalfEdge);
+  fSteps.push_back(TWalkSums::kStepBack);
+  Mark(aHalfEdge, kWalked);
   fBlocked.push_back(aHalfEdge);
 }
 
 void TGraphWalk::PassBy(TIndex aBridge) {
   fPassed.push_back({fSteps.size(), aBridge});
-  fMarks[At(aBridge)] |= kWalked;
+  Mark(aBridge, kWalked);
   fBlocked.push_back(aBridge);
 }
 
 TTurn<TIndex> TGraphWalk::FindByAngle(TIndex aLast) {
+  if (fGraph.HalfEdge(aLast).fFarVertex == kNotFound) return {kNone, {}};
   for (;;) {
     const TTurn<TIndex> best = FindSharpestAngle(aLast);
     if (best.fHalfEdge == kNone || MayTake(best.fHalfEdge)) return best;

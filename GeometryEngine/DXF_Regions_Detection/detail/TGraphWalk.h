@@ -4,11 +4,13 @@
 // the same walk through the tree itself.
 
 #include <cstdint>
+#include <limits>
 #include <span>
 #include <vector>
 
 #include "GeometryEngine/DXF_Regions_Detection/detail/TTurnOrder.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TVertexGraph.h"
+#include "GeometryEngine/DXF_Regions_Detection/detail/TWalkSums.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TWayBack.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/WalkRule.h"
 
@@ -32,19 +34,25 @@ class TGraphWalk {
 
   /// The half-edges of the last walk, in order; none when it was stepped back to its start.
   std::span<const TIndex> Path() const { return fPath; }
+  /// How often all walks together may step back. A walk that finds itself beyond that when it looks for a way to its
+  /// start gives up.
+  void StopAfter(std::size_t aStepsBack) { fMostStepsBack = aStepsBack; }
+  bool HasSteppedBackOften() const { return fStepsBack > fMostStepsBack; }
+  /// True when the last walk gave up for that reason.
+  bool HasStopped() const { return fHasStopped; }
   /// True when the last walk closed a loop.
   bool HasClosed() const { return fHasClosed; }
   /// The signed area along the last walk. All its steps to and fro are summed up in their order, as the bits depend on
   /// it.
   double GetArea();
-  /// What a half-edge adds to it.
-  double GetAreaTerm(TIndex aHalfEdge);
   /// The centroid of the loop that the last walk has closed, given its area; of an open chain the bare sum.
+  /// REQUIRES: that GetArea was called before.
   TEntityCoordinate GetCentroid(double aArea);
+  TWalkSums& Sums() { return fSums; }
 
   /// From now on walks pass by these half-edges (1 stands for a bridge) as if they were travelled.
   void AvoidBridges(std::span<const std::uint8_t> aIsBridge);
-  bool IsBridge(TIndex aHalfEdge) const { return (fMarks[At(aHalfEdge)] & kBridge) != 0; }
+  bool IsBridge(TIndex aHalfEdge) const { return (Marks(aHalfEdge) & kBridge) != 0; }
   /// True when the last walk came by a bridge that it would have turned into.
   bool PassedByBridges() const { return !fPassed.empty(); }
   /// Puts the steps over these bridges and back among those of the last walk. REQUIRES: a walk that has closed.
@@ -52,7 +60,9 @@ class TGraphWalk {
   /// How often all walks together have stepped back.
   std::size_t StepsBack() const { return fStepsBack; }
 
-  bool IsTravelled(TIndex aHalfEdge) const { return (fMarks[At(aHalfEdge)] & (kTaken | kWalked)) != 0; }
+  /// Marks a half-edge as travelled by an earlier walk.
+  void Take(TIndex aHalfEdge) { Mark(aHalfEdge, kTaken); }
+  bool IsTravelled(TIndex aHalfEdge) const { return (Marks(aHalfEdge) & (kTaken | kWalked)) != 0; }
   void WriteMarks() const;
 
   // The rules' view of the walk (WalkRule.h) --------------------------------------------------------------------------
@@ -62,13 +72,13 @@ class TGraphWalk {
   bool IsOnPath(TIndex aHalfEdge) const;
   bool IsStart(const TTurn<TIndex>& aTurn) const;
   void Close(const TTurn<TIndex>& aLast);
-  TIndex StepBack();
+  bool StepBack();
   bool Backtracks() const { return fBacktracks; }
 
  private:
   static constexpr std::uint8_t kTaken = 1;   // travelled before the walk in hand
   static constexpr std::uint8_t kWalked = 2;  // by the walk in hand: on its path, stepped back from or passed by
-  static constexpr std::uint8_t kOnPath = 4;
+  static constexpr std::uint8_t kTwinOnPath = 4;
   static constexpr std::uint8_t kBridge = 8;
   static constexpr std::uint8_t kDeadEnd = 16;  // leads to a vertex that nothing else leaves
 
@@ -81,9 +91,13 @@ class TGraphWalk {
   static std::size_t At(TIndex aIndex) { return static_cast<std::size_t>(aIndex); }
   void KeepMarks();
   void TakeOffPath(TIndex aHalfEdge);
-  void Unmark(TIndex aHalfEdge, std::uint8_t aMarks) { fMarks[At(aHalfEdge)] &= static_cast<std::uint8_t>(~aMarks); }
+  std::uint8_t Marks(TIndex aHalfEdge) const { return fOrder.Record(aHalfEdge).fMarks; }
+  void Mark(TIndex aHalfEdge, std::uint8_t aMarks) { fOrder.Record(aHalfEdge).fMarks |= aMarks; }
+  void Unmark(TIndex aHalfEdge, std::uint8_t aMarks) {
+    fOrder.Record(aHalfEdge).fMarks &= static_cast<std::uint8_t>(~aMarks);
+  }
   void FreeBlocked();
-  TIndex GiveUp();
+  void GiveUp();
   bool IsLost();
   void MarkDeadEnds();
   bool MayTake(TIndex aCandidate);
@@ -91,29 +105,32 @@ class TGraphWalk {
   void PassBy(TIndex aBridge);
   TTurn<TIndex> FindByAngle(TIndex aLast);
   TTurn<TIndex> FindSharpestAngle(TIndex aLast) const;
-  TEntityCoordinate GetCentroidTerm(TIndex aHalfEdge);
+  bool HasGoneToAndFro() const;
 
   const TVertexGraph& fGraph;
   TTurnOrder fOrder;
   TWayBack fWayBack;
-  std::vector<std::uint8_t> fMarks;               // by half-edge
-  std::vector<std::uint32_t> fTimesOnPath;        // by entity, unless the graph is regular
-  std::vector<double> fAreaTerms;                 // by half-edge, not a number until it is asked for
-  std::vector<TEntityCoordinate> fCentroidTerms;  // the same, once a walk has gone to and fro
+  TWalkSums fSums;
+  std::vector<std::uint32_t> fTimesOnPath;  // by entity, unless the graph is regular
 
   TEntityCoordinate fStart;
   TIndex fFirst = kNone;
+  TIndex fStartVertex = kNotFound;
   bool fBacktracks = false;
   bool fAvoidsBridges = false;
   bool fHasClosed = false;
+  bool fHasStopped = false;
   std::size_t fStepsBack = 0;
+  std::size_t fMostStepsBack = std::numeric_limits<std::size_t>::max();
   std::size_t fNextLook = 0;  // so many half-edges blocked, and the walk looks whether there is a way to its start
   std::vector<TIndex> fPath;
   std::vector<TIndex> fBlocked;
   std::vector<TPassed> fPassed;
-  std::vector<TIndex> fSteps;     // half-edges whose terms were added, and the complements of those taken out again
-  TEntityCoordinate fLastVertex;  // where the loop's last half-edge begins,
-  TEntityCoordinate fLastFarEnd;  // and where it ends
+  std::vector<TIndex> fSteps;        // as TWalkSums has them
+  std::vector<TIndex> fWalkedSteps;  // those over which steps over bridges are added, meanwhile
+  TEntityCoordinate fCentroidSum;    // along steps to and fro
+  TEntityCoordinate fLastVertex;     // where the loop's last half-edge begins,
+  TEntityCoordinate fLastFarEnd;     // and where it ends
 };
 
 }  // namespace GeometryEngine::detail

@@ -29,10 +29,13 @@ double DirectionOf(const TVector_Single& aVector) {
 }  // namespace
 
 TTurnOrder::TTurnOrder(const TVertexGraph& aGraph)
-    : fGraph(aGraph),
-      fFirstTurns(At(aGraph.HalfEdgeCount()), kUnknown),
-      fClockwise(At(aGraph.HalfEdgeCount()), kNotFound),
-      fLeaving(At(aGraph.HalfEdgeCount())) {}
+    : fGraph(aGraph), fRecords(At(aGraph.HalfEdgeCount())), fLeaving(At(aGraph.HalfEdgeCount())) {
+  for (TIndex h = 0; h < aGraph.HalfEdgeCount(); ++h) Record(h).fTwin = aGraph.HalfEdge(h).fTwin;
+}
+
+TIndex TTurnOrder::FindFirstTurn(TIndex aArriving) {
+  return IsClear(aArriving) ? Clockwise(Record(aArriving).fTwin) : TTurnRecord::kUnclear;
+}
 
 // A walk that arrives on the vertex to the bit leaves it in the very directions that the ring is ordered by.
 bool TTurnOrder::IsClear(TIndex aArriving) {
@@ -80,7 +83,7 @@ void TTurnOrder::MakeRing(TIndex aVertex) {
   }
   std::ranges::sort(fRing, std::greater{});
   for (std::size_t k = 0; k < fRing.size(); ++k) {
-    fClockwise[At(fRing[k].second)] = fRing[(k + 1) % fRing.size()].second;
+    Record(fRing[k].second).fClockwise = fRing[(k + 1) % fRing.size()].second;
   }
 }
 

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <utility>
 
 #include "GeometryEngine/DXF_EntityStorage/detail/OtherEnd.h"
 #include "GeometryEngine/DXF_Entity_Types/detail/TPointIndex.h"
+#include "GeometryEngine/DXF_Regions_Detection/detail/PlaneOrder.h"
 
 namespace GeometryEngine::detail {
 
@@ -145,13 +147,39 @@ void TVertexGraph::ReadPendingGraph() {
   }
 }
 
-void TVertexGraph::MarkTravelled(TIndex aHalfEdge) const {
-  const std::size_t h = At(aHalfEdge);
+void TVertexGraph::MarkTravelled(TIndex aPlace) const {
   if (fPending == nullptr) {
-    fNodes[h]->Travelled(true);
+    fNodes[At(aPlace)]->Travelled(true);
   } else {
-    fPending->MarkTravelled(fPendingOrder[h]);
+    fPending->MarkTravelled(fPendingOrder[At(aPlace)]);
   }
+}
+
+void TVertexGraph::NumberByPlace() {
+  const std::vector<TIndex> numbers = GetPlaneOrder(fPoints);
+  std::vector<TEntityCoordinate> points(fPoints.size());
+  std::vector<TIndex> first(fFirst.size(), 0);
+  for (std::size_t v = 0; v < numbers.size(); ++v) {
+    points[At(numbers[v])] = fPoints[v];
+    first[At(numbers[v])] = Degree(ToIndex(v));
+  }
+  std::exclusive_scan(first.begin(), first.end(), first.begin(), 0);
+  fInOrder.reserve(fHalfEdges.size());
+  for (TIndex h = 0; h < HalfEdgeCount(); ++h) {
+    const TIndex vertex = HalfEdge(h).fVertex;
+    fInOrder.push_back(first[At(numbers[At(vertex)])] + (h - FirstHalfEdge(vertex)));
+  }
+  std::vector<THalfEdge> halfEdges(fHalfEdges.size());
+  for (std::size_t h = 0; h < fHalfEdges.size(); ++h) {
+    THalfEdge halfEdge = fHalfEdges[h];
+    halfEdge.fVertex = numbers[At(halfEdge.fVertex)];
+    halfEdge.fFarVertex = numbers[At(halfEdge.fFarVertex)];
+    halfEdge.fTwin = fInOrder[At(halfEdge.fTwin)];
+    halfEdges[At(fInOrder[h])] = halfEdge;
+  }
+  fPoints = std::move(points);
+  fFirst = std::move(first);
+  fHalfEdges = std::move(halfEdges);
 }
 
 void TVertexGraph::FindFarVertices() {

@@ -28,7 +28,7 @@ struct THalfEdge {
 };
 
 /// The vertices of a coordinate tree and their half-edges, both in the order of the tree, with the vertex at each far
-/// end. Vertices and half-edges are known by their number in that order.
+/// end. Vertices and half-edges are known by their number in that order, until `NumberByPlace`.
 ///
 /// REQUIRES: tree, storage and settings stay as they are while the graph is used; marks of travel may change.
 /// COST: a few searches in constant time for each vertex and half-edge.
@@ -45,12 +45,17 @@ class TVertexGraph {
   TIndex EndOfHalfEdges(TIndex aVertex) const { return fFirst[At(aVertex) + 1]; }
   /// How many half-edges leave a vertex.
   TIndex Degree(TIndex aVertex) const { return EndOfHalfEdges(aVertex) - FirstHalfEdge(aVertex); }
+  bool Leaves(TIndex aVertex, TIndex aHalfEdge) const {
+    return FirstHalfEdge(aVertex) <= aHalfEdge && aHalfEdge < EndOfHalfEdges(aVertex);
+  }
   /// True for a vertex that a single half-edge leaves.
   bool IsDangling(TIndex aVertex) const { return Degree(aVertex) == 1; }
 
   const THalfEdge& HalfEdge(TIndex aHalfEdge) const { return fHalfEdges[At(aHalfEdge)]; }
-  /// Marks a half-edge in the tree, whose nodes need not be there for it.
-  void MarkTravelled(TIndex aHalfEdge) const;
+  /// The half-edge at a place in the order of the tree.
+  TIndex HalfEdgeInOrder(TIndex aPlace) const { return fInOrder.empty() ? aPlace : fInOrder[At(aPlace)]; }
+  /// Marks it in the tree, whose nodes need not be there for it.
+  void MarkTravelled(TIndex aPlace) const;
   const TDXFEntity& Entity(const THalfEdge& aHalfEdge) const;
   /// The same, for who knows the ends and asks for the curve between them: one line stands for all, and is at hand.
   const TDXFEntity& Curve(const THalfEdge& aHalfEdge) const { return aHalfEdge.fIsLine ? fAnyLine : Entity(aHalfEdge); }
@@ -68,6 +73,10 @@ class TVertexGraph {
   /// two one half-edge, all of them exact.
   bool IsRegular() const { return fIsRegular; }
 
+  /// Numbers the vertices anew, so that those near each other in the plane have their records near each other, for
+  /// walks that wander about. The half-edges of a vertex keep their order. REQUIRES: a regular graph.
+  void NumberByPlace();
+
  private:
   static std::size_t At(TIndex aIndex) { return static_cast<std::size_t>(aIndex); }
   void ReadTree(const TEntityTree& aTree);
@@ -82,9 +91,10 @@ class TVertexGraph {
   std::vector<TEntityCoordinate> fPoints;
   std::vector<TIndex> fFirst;  // one more than vertices
   std::vector<THalfEdge> fHalfEdges;
-  std::vector<TTreeNode*> fNodes;     // of the half-edges, or none when the tree's nodes are pending
+  std::vector<TIndex> fInOrder;       // the half-edges in the order of the tree, unless that is their own
+  std::vector<TTreeNode*> fNodes;     // in the same order, or none when the tree's nodes are pending
   TPendingGraph* fPending;            // nil when they are there
-  std::vector<TIndex> fPendingOrder;  // of the half-edges, their numbers there
+  std::vector<TIndex> fPendingOrder;  // of the half-edges in the order of the tree, their numbers there
   TDXFEntity fAnyLine;
   bool fIsRegular = true;
 };

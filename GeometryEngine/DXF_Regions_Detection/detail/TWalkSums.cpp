@@ -1,0 +1,87 @@
+#include "GeometryEngine/DXF_Regions_Detection/detail/TWalkSums.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "GeometryEngine/DXF_Regions_Utilities/EntityTerms.h"
+
+namespace GeometryEngine::detail {
+
+namespace {
+
+constexpr std::size_t kAhead = 16;  // steps between asking for terms and summing them up
+
+}  // namespace
+
+void TWalkSums::KeepTerms() {
+  if (fTerms.empty()) fTerms.resize(At(fGraph.HalfEdgeCount()), kUnknown);
+}
+
+void TWalkSums::FetchTerms(TIndex aStep) const {
+  if (!fTerms.empty() && aStep != kStepBack) __builtin_prefetch(&fTerms[At(aStep)]);
+}
+
+double TWalkSums::ComputeArea(TIndex aHalfEdge) const {
+  const THalfEdge& halfEdge = fGraph.HalfEdge(aHalfEdge);
+  return GetSignedArea_Entity(fGraph.From(halfEdge), fGraph.FarEnd(halfEdge), fGraph.Curve(halfEdge));
+}
+
+TEntityCoordinate TWalkSums::ComputeCentroid(TIndex aHalfEdge) const {
+  const THalfEdge& halfEdge = fGraph.HalfEdge(aHalfEdge);
+  return GetCentroidComponent_Entity(fGraph.From(halfEdge), fGraph.FarEnd(halfEdge), fGraph.Curve(halfEdge));
+}
+
+double TWalkSums::GetAreaTerm(TIndex aHalfEdge) {
+  if (fTerms.empty()) return ComputeArea(aHalfEdge);
+  double& term = fTerms[At(aHalfEdge)].fArea;
+  if (std::isnan(term)) term = ComputeArea(aHalfEdge);
+  return term;
+}
+
+TWalkSums::TSums TWalkSums::GetTerms(TIndex aHalfEdge) {
+  if (fTerms.empty()) return {ComputeArea(aHalfEdge), ComputeCentroid(aHalfEdge)};
+  TSums& terms = fTerms[At(aHalfEdge)];
+  if (std::isnan(terms.fArea)) terms.fArea = ComputeArea(aHalfEdge);
+  if (std::isnan(terms.fCentroid.x)) terms.fCentroid = ComputeCentroid(aHalfEdge);
+  return terms;
+}
+
+double TWalkSums::GetArea(std::span<const TIndex> aPath) {
+  double area = 0;
+  for (const TIndex h : aPath) area += GetAreaTerm(h);
+  return area;
+}
+
+TEntityCoordinate TWalkSums::GetCentroid(std::span<const TIndex> aPath) {
+  TEntityCoordinate sum;
+  for (const TIndex h : aPath) sum = sum + (fTerms.empty() ? ComputeCentroid(h) : GetTerms(h).fCentroid);
+  return sum;
+}
+
+TWalkSums::TSums TWalkSums::GetSums(std::span<const TIndex> aSteps) {
+  constexpr std::size_t kFewSteps = 16;  // half-edges for one step
+  fStepsSummed += aSteps.size();
+  if (kFewSteps * fStepsSummed > At(fGraph.HalfEdgeCount())) KeepTerms();
+  TSums sums;
+  const auto add = [&](const TSums& aTerms) { sums = {sums.fArea + aTerms.fArea, sums.fCentroid + aTerms.fCentroid}; };
+  const auto takeOut = [&](const TSums& aTerms) {
+    sums = {sums.fArea - aTerms.fArea, sums.fCentroid - aTerms.fCentroid};
+  };
+  fPath.clear();
+  for (std::size_t i = 0; i < aSteps.size(); ++i) {
+    const TIndex step = aSteps[i];
+    if (i + kAhead < aSteps.size()) FetchTerms(aSteps[i + kAhead]);
+    if (step != kStepBack) {
+      fPath.push_back(GetTerms(step));
+      add(fPath.back());
+    } else {
+      takeOut(fPath.back());
+      fPath.pop_back();
+      takeOut(fPath.back());
+      add(fPath.back());
+    }
+  }
+  return sums;
+}
+
+}  // namespace GeometryEngine::detail
