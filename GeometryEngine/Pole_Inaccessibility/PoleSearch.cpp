@@ -60,40 +60,52 @@ class TMeasuredRegion {
   detail::TPoleOutlines fOutlines;
 };
 
+/// Negative when the left bound comes first: the greater one, and any one before what is no number.
+int CompareBounds(double aLeft, double aRight) {
+  if (aLeft > aRight) return -1;
+  if (aLeft < aRight) return 1;
+  return static_cast<int>(std::isnan(aLeft)) - static_cast<int>(std::isnan(aRight));
+}
+
 /// The cells that wait to be looked at, the one of the greatest bound first; cells of equal bound in the order in which
 /// they came.
 class TPendingCells {
  public:
-  void Reserve(std::size_t aCount) { fCells.reserve(aCount + kMostCellsAddedBySplits); }
-  bool AreThere() const { return !fCells.empty(); }
+  void Reserve(std::size_t aCount) {
+    fCells.reserve(aCount + kMostCellsAddedBySplits);
+    fWaiting.reserve(aCount + kMostCellsAddedBySplits);
+  }
+  bool AreThere() const { return !fWaiting.empty(); }
 
   void Add(const TCell& aCell) {
-    fCells.push_back({aCell, fAdded++});
-    std::push_heap(fCells.begin(), fCells.end(), ComesLater);
+    fWaiting.push_back({aCell.fMaxDistance, static_cast<std::uint32_t>(fCells.size())});
+    std::ranges::push_heap(fWaiting, TComesLater());
+    fCells.push_back(aCell);
   }
 
   TCell TakeFirst() {
-    std::pop_heap(fCells.begin(), fCells.end(), ComesLater);
-    const TCell first = fCells.back().fCell;
-    fCells.pop_back();
-    return first;
+    std::ranges::pop_heap(fWaiting, TComesLater());
+    const std::uint32_t first = fWaiting.back().fNumber;
+    fWaiting.pop_back();
+    return fCells[first];
   }
 
  private:
-  struct TNumberedCell {
-    TCell fCell;
-    std::uint32_t fNumber;
+  struct TWaiting {
+    double fBound;
+    std::uint32_t fNumber;  // of the cell
+  };
+  struct TComesLater {
+    bool operator()(const TWaiting& aLeft, const TWaiting& aRight) const {
+      const int order = CompareBounds(aLeft.fBound, aRight.fBound);
+      return order != 0 ? order > 0 : aLeft.fNumber > aRight.fNumber;
+    }
   };
 
   static constexpr std::size_t kMostCellsAddedBySplits = 4 * (kLargestSplitCount + 1);
 
-  static bool ComesLater(const TNumberedCell& aLeft, const TNumberedCell& aRight) {
-    const int order = CellComparer(aLeft.fCell, aRight.fCell);
-    return order != 0 ? order > 0 : aLeft.fNumber > aRight.fNumber;
-  }
-
-  std::vector<TNumberedCell> fCells;  // a heap
-  std::uint32_t fAdded = 0;
+  std::vector<TCell> fCells;       // in the order in which they came
+  std::vector<TWaiting> fWaiting;  // a heap
 };
 
 // The low sides of a row of cells from `aLow` up to `aHigh`; none when the row is endless or too long for a grid.
@@ -157,11 +169,7 @@ TCell::TCell(double aCenter_X, double aCenter_Y, double aHalfWidth, double aDist
       fMaxDistance(aDistance + aHalfWidth * kSquareRootOf2) {}
 
 int CellComparer(const TCell& aLeft, const TCell& aRight) {
-  const bool leftHasBound = !std::isnan(aLeft.fMaxDistance);
-  const bool rightHasBound = !std::isnan(aRight.fMaxDistance);
-  if (leftHasBound != rightHasBound) return leftHasBound ? -1 : 1;
-  if (aLeft.fMaxDistance > aRight.fMaxDistance) return -1;
-  return aLeft.fMaxDistance < aRight.fMaxDistance ? 1 : 0;
+  return CompareBounds(aLeft.fMaxDistance, aRight.fMaxDistance);
 }
 
 double GetSignedDistance(const TPoleRegion& aRegion, const TEntityCoordinate& aPoint) {
