@@ -5,10 +5,12 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
+#include <optional>
 #include <span>
 
 #include "GeometryEngine/GeometryEngine_PointInPolygon/detail/SegmentWinding.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/ArcWalking.h"
+#include "GeometryEngine/GetFunctions_GeometryOperations/detail/ChordPoint.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/LimitedSegments.h"
 #include "GeometryEngine/host/Numerics.h"
 
@@ -52,17 +54,14 @@ class TArcWalk {
   std::int32_t SumUp(const TChordRange& aRange) const {
     if (aRange.fLast < aRange.fFirst) return 0;
     std::int32_t sum = 0;
-    TEntityCoordinate from = PointAt(aRange.fFirst);
-    for (std::int32_t i = aRange.fFirst; i <= aRange.fLast; ++i) {
-      const TEntityCoordinate to = PointAt(i + 1);
-      sum += detail::GetSegmentWinding(from, to, fPoint, fTolerance);
-      from = to;
-    }
+    std::optional<TEntityCoordinate> from;
+    const detail::TChordWalk walk{fDirection, fStartAngle, fSegments.aStep};
+    detail::ForEachChordPoint(fArc, walk, aRange.fFirst, std::int64_t{aRange.fLast} + 1,
+                              [&](const TEntityCoordinate& to) {
+                                if (from) sum += detail::GetSegmentWinding(*from, to, fPoint, fTolerance);
+                                from = to;
+                              });
     return sum;
-  }
-
-  TEntityCoordinate PointAt(std::int32_t aIndex) const {
-    return GetArc_LineSegmentCoord(fArc, aIndex, fDirection, fStartAngle, fSegments.aStep);
   }
 
   // A chord counts only when it begins and ends on different sides of the point's height, where a height up to one
