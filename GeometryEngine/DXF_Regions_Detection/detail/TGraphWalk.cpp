@@ -119,10 +119,7 @@ bool TGraphWalk::HasGoneToAndFro() const {
 }
 
 void TGraphWalk::WriteMarks() const {
-  for (TIndex place = 0; place < fGraph.HalfEdgeCount(); ++place) {
-    const TIndex h = fGraph.HalfEdgeInOrder(place);
-    if (IsTravelled(h) && !fGraph.HalfEdge(h).fIsTravelled) fGraph.MarkTravelled(place);
-  }
+  fGraph.WriteMarks([this](TIndex aHalfEdge) { return IsTravelled(aHalfEdge); });
 }
 
 void TGraphWalk::Enter(TIndex aHalfEdge) {

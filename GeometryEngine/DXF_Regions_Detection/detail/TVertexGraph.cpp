@@ -99,12 +99,13 @@ TVertexGraph::TVertexGraph(const TEntityTree& aTree)
     : fEntities(EntitiesOf(aTree)),
       fTolerance(ReadLinearTolerance()),
       fPending(dynamic_cast<TPendingGraph*>(aTree.PendingNodes())) {
+  fAnyLine.EntityType = DXFLine;
   if (fPending == nullptr) {
     ReadTree(aTree);
   } else {
     ReadPendingGraph();
   }
-  FindFarVertices();
+  if (fPending == nullptr || !JoinPendingTwins()) FindFarVertices();
 }
 
 void TVertexGraph::ReadTree(const TEntityTree& aTree) {
@@ -134,25 +135,29 @@ void TVertexGraph::ReadPendingGraph() {
   fFirst.push_back(0);
   std::exclusive_scan(fFirst.begin(), fFirst.end(), fFirst.begin(), 0);
   fHalfEdges.resize(vertexOf.size());
-  fPendingOrder.resize(vertexOf.size());
+  fPendingPlaces.reserve(vertexOf.size());
   std::vector<TIndex> places = fFirst;
   for (TIndex i = 0; i < ToIndex(vertexOf.size()); ++i) {
     const TIndex vertex = vertexOf[At(i)];
-    const std::size_t place = At(places[At(vertex)]++);
-    THalfEdge& halfEdge = fHalfEdges[place];
+    fPendingPlaces.push_back(places[At(vertex)]++);
+    THalfEdge& halfEdge = fHalfEdges[At(fPendingPlaces.back())];
     halfEdge.fVertex = vertex;
     halfEdge.fEntityIndex = i / 2;
     halfEdge.fIsTravelled = fPending->Travelled(i);
-    fPendingOrder[place] = i;
   }
 }
 
-void TVertexGraph::MarkTravelled(TIndex aPlace) const {
-  if (fPending == nullptr) {
-    fNodes[At(aPlace)]->Travelled(true);
-  } else {
-    fPending->MarkTravelled(fPendingOrder[At(aPlace)]);
+// Without a search: no two vertices of a pending graph are the same under the tolerance that it was made with, and
+// each is an end of some piece, so that it is the same as itself once that piece is joined. False when some are left
+// over for FindFarVertices.
+bool TVertexGraph::JoinPendingTwins() {
+  fIsRegular = fPending->Tolerance() == fTolerance && fTolerance > 0 && fHalfEdges.size() <= 2 * fEntities.size();
+  if (!fIsRegular) return false;
+  for (std::size_t i = 0; i + 1 < fPendingPlaces.size(); i += 2) {
+    const auto [low, high] = std::minmax(fPendingPlaces[i], fPendingPlaces[i + 1]);
+    fIsRegular = JoinTwins(low, high) && fIsRegular;
   }
+  return fIsRegular;
 }
 
 void TVertexGraph::NumberByPlace() {
@@ -183,7 +188,6 @@ void TVertexGraph::NumberByPlace() {
 }
 
 void TVertexGraph::FindFarVertices() {
-  fAnyLine.EntityType = DXFLine;
   const TVertexSearch search(fPoints);
   const TTwins twins(fHalfEdges, fEntities.size());
   fIsRegular = search.AreAllApart();

@@ -54,8 +54,21 @@ class TVertexGraph {
   const THalfEdge& HalfEdge(TIndex aHalfEdge) const { return fHalfEdges[At(aHalfEdge)]; }
   /// The half-edge at a place in the order of the tree.
   TIndex HalfEdgeInOrder(TIndex aPlace) const { return fInOrder.empty() ? aPlace : fInOrder[At(aPlace)]; }
-  /// Marks it in the tree, whose nodes need not be there for it.
-  void MarkTravelled(TIndex aPlace) const;
+  /// Marks in the tree, whose nodes need not be there for it, the half-edges that have been travelled since it was
+  /// read.
+  template <class TIsTravelled>
+  void WriteMarks(TIsTravelled aIsTravelled) const {
+    const auto isNew = [&](TIndex aPlace) {
+      const TIndex h = HalfEdgeInOrder(aPlace);
+      return aIsTravelled(h) && !HalfEdge(h).fIsTravelled;
+    };
+    for (TIndex place = 0; place < ToIndex(fNodes.size()); ++place) {
+      if (isNew(place)) fNodes[At(place)]->Travelled(true);
+    }
+    for (TIndex i = 0; i < ToIndex(fPendingPlaces.size()); ++i) {
+      if (isNew(fPendingPlaces[At(i)])) fPending->MarkTravelled(i);
+    }
+  }
   const TDXFEntity& Entity(const THalfEdge& aHalfEdge) const;
   /// The same, for who knows the ends and asks for the curve between them: one line stands for all, and is at hand.
   const TDXFEntity& Curve(const THalfEdge& aHalfEdge) const { return aHalfEdge.fIsLine ? fAnyLine : Entity(aHalfEdge); }
@@ -81,6 +94,7 @@ class TVertexGraph {
   static std::size_t At(TIndex aIndex) { return static_cast<std::size_t>(aIndex); }
   void ReadTree(const TEntityTree& aTree);
   void ReadPendingGraph();
+  bool JoinPendingTwins();
   void FindFarVertices();
   bool JoinTwins(TIndex aHalfEdge, TIndex aTwin);
   bool IsExact(const THalfEdge& aHalfEdge, const TEntityCoordinate& aFarEnd) const;
@@ -91,10 +105,10 @@ class TVertexGraph {
   std::vector<TEntityCoordinate> fPoints;
   std::vector<TIndex> fFirst;  // one more than vertices
   std::vector<THalfEdge> fHalfEdges;
-  std::vector<TIndex> fInOrder;       // the half-edges in the order of the tree, unless that is their own
-  std::vector<TTreeNode*> fNodes;     // in the same order, or none when the tree's nodes are pending
-  TPendingGraph* fPending;            // nil when they are there
-  std::vector<TIndex> fPendingOrder;  // of the half-edges in the order of the tree, their numbers there
+  std::vector<TIndex> fInOrder;        // the half-edges in the order of the tree, unless that is their own
+  std::vector<TTreeNode*> fNodes;      // in the same order, or none when the tree's nodes are pending
+  TPendingGraph* fPending;             // nil when they are there
+  std::vector<TIndex> fPendingPlaces;  // by half-edge of the pending graph, its place in the order of the tree
   TDXFEntity fAnyLine;
   bool fIsRegular = true;
 };
