@@ -82,12 +82,12 @@ class TPointIndex {
     return equal == kNotFound ? match : TPointMatch{equal, true};
   }
 
-  /// Has memory fetch what a search for this point will look at first.
-  void FetchAhead([[maybe_unused]] const TEntityCoordinate& aPoint) const {
 #ifdef __GNUC__
+  /// Has memory fetch what a search for this point will look at first.
+  [[gnu::always_inline]] void FetchAhead(const TEntityCoordinate& aPoint) const {
     if (CanMatch(aPoint)) fChains.FetchAhead(GetHash(aPoint));
-#endif
   }
+#endif
 
   /// The first among the points that are the same as `aPoint` whose index `aAccepts`.
   template <class TAccepts>
