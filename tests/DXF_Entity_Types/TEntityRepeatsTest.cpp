@@ -15,9 +15,9 @@ using enum Maindataenum::TInputFields;
 namespace {
 
 /// Lines, either way round, and arcs between points of a lattice with a step of half a tolerance.
-TEntityArray RandomEntities(double aTolerance, std::uint32_t aSeed) {
+TEntityArray RandomEntities(double aTolerance, double aMiddle, std::uint32_t aSeed) {
   std::mt19937 random(aSeed);
-  const auto at = [&] { return 17 + (static_cast<int>(random() % 41U) - 20) * aTolerance / 2; };
+  const auto at = [&] { return aMiddle + (static_cast<int>(random() % 41U) - 20) * aTolerance / 2; };
   TEntityArray entities;
   for (int i = 0; i < 100; ++i) {
     const TEntityCoordinate start{at(), 3};
@@ -43,19 +43,35 @@ bool HasEqual(const TEntityArray& aEntities, std::size_t aPlace) {
 TEST(TEntityRepeats, MissesNoEntityThatEqualsAnother) {
   support::TSettingsGuard settings;
   int repeats = 0;
+  const auto compare = [&](const TEntityArray& entities) {
+    const TEntityRepeats found(entities);
+    for (std::size_t i = 0; i < entities.size(); ++i) {
+      if (!HasEqual(entities, i)) continue;
+      ++repeats;
+      ASSERT_TRUE(found.MayRepeat(ToIndex(i))) << support::ToText(entities[i]);
+    }
+  };
   for (const double tolerance : {1e-3, 0.5, 1e-9}) {
     settings.With(ifLinearTolerance, tolerance);
-    for (std::uint32_t seed = 0; seed < 50; ++seed) {
-      const TEntityArray entities = RandomEntities(tolerance, seed);
-      const TEntityRepeats found(entities);
-      for (std::size_t i = 0; i < entities.size(); ++i) {
-        if (!HasEqual(entities, i)) continue;
-        ++repeats;
-        ASSERT_TRUE(found.MayRepeat(ToIndex(i))) << support::ToText(entities[i]) << " seed " << seed;
-      }
+    // The others: next to where sums are no longer exact enough, and beyond.
+    for (const double middle : {17.0, 5e12 * tolerance, 1e15 * tolerance}) {
+      for (std::uint32_t seed = 0; seed < 50; ++seed) compare(RandomEntities(tolerance, middle, seed));
     }
   }
-  EXPECT_GT(repeats, 100);
+  EXPECT_GT(repeats, 1000);
+}
+
+TEST(TEntityRepeats, TakesNoHalvesOfConcentricCirclesForRepeats) {
+  TEntityArray entities;
+  for (int i = 1; i <= 100; ++i) {
+    const double r = i;
+    entities.push_back(TDXFEntity::Arc({r, 0}, {-r, 0}, {0, 0}, r, 0, 180));
+    entities.push_back(TDXFEntity::Arc({-r, 0}, {r, 0}, {0, 0}, r, 180, 0));
+  }
+  const TEntityRepeats found(entities);
+  int taken = 0;
+  for (TIndex i = 0; i < 200; ++i) taken += found.MayRepeat(i) ? 1 : 0;
+  EXPECT_LT(taken, 60);
 }
 
 TEST(TEntityRepeats, TakesFewEntitiesForRepeatsThatAreNone) {

@@ -4,19 +4,29 @@
 
 #include <algorithm>
 #include <bit>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <span>
 #include <vector>
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
-#include "GeometryEngine/DXF_Entity_Types/detail/TEntityIndex.h"
+#include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
+#include "GeometryEngine/DXF_Entity_Types/detail/TCellChains.h"
+#include "GeometryEngine/DXF_Entity_Types/detail/TToleranceCells.h"
 #include "GeometryEngine/host/TIndex.h"
 
 namespace GeometryEngine::detail {
 
-/// Tells most entities of a drawing that equal no other from those that may. Counts the entities in each cell, cells of
-/// one hash together; an entity that is alone in the cells around it equals no other.
+/// Tells most entities of a drawing that equal no other from those that may. Each entity has a key of two numbers;
+/// counted are the entities in each cell of the keys, cells of one hash together. An entity that is alone in the cells
+/// around its key equals no other.
+///
+/// The key of a line is the sum of its ends, which is the same for its reverse; that of an arc is made of one number of
+/// each end, so that the halves of concentric circles don't share it. The ends of equal entities, paired as they are
+/// the same, differ by less than the tolerance t, so their keys differ by less than 2 t, and the rounding of sums that
+/// are no more than `kMostTolerances` t stays far below the hundredth of t that is added. Entities beyond that may
+/// repeat.
 ///
 /// REQUIRES: entities and tolerance that stay as they are.
 /// COST: constant for an entity. A search in an index takes several times as long, since it waits for memory at every
@@ -26,10 +36,10 @@ class TEntityRepeats {
   explicit TEntityRepeats(std::span<const TDXFEntity> aEntities)
       : fCounts(std::bit_ceil(kSlotsPerEntity * aEntities.size() + 1)), fMayRepeat(aEntities.size()) {
     for (const TDXFEntity& entity : aEntities) {
-      if (fCells.CanMatch(entity)) Count(fCells.GetHash(entity));
+      if (CanMatch(entity)) Count(GetHash(entity, fCells.GetCell(KeyOf(entity).x), fCells.GetCell(KeyOf(entity).y)));
     }
     std::transform(aEntities.begin(), aEntities.end(), fMayRepeat.begin(),
-                   [this](const TDXFEntity& entity) { return !IsAlone(entity); });
+                   [this](const TDXFEntity& entity) { return CanMatch(entity) && !IsAlone(entity); });
   }
 
   /// False when no other entity equals this one.
@@ -38,6 +48,32 @@ class TEntityRepeats {
  private:
   static constexpr std::size_t kSlotsPerEntity = 8;
   static constexpr std::uint8_t kSeveral = 2;
+
+  static constexpr double kReach = 2.01;  // tolerances
+  static constexpr double kMostTolerances = 1e13;
+
+  static TEntityCoordinate KeyOf(const TDXFEntity& aEntity) {
+    const bool isArc = aEntity.EntityType == DXFArc;
+    return {aEntity.StartCoords.x + (isArc ? 0 : aEntity.EndCoords.x),
+            aEntity.EndCoords.y + (isArc ? 0 : aEntity.StartCoords.y)};
+  }
+
+  /// Equal entities are of one type.
+  static std::uint64_t GetHash(const TDXFEntity& aEntity, std::int64_t aColumn, std::int64_t aRow) {
+    return MixCell(MixCell(static_cast<std::uint64_t>(aEntity.EntityType), aColumn), aRow);
+  }
+
+  bool CanMatch(const TEntityCoordinate& aPoint) const {
+    return fCells.CanMatch(aPoint.x) && fCells.CanMatch(aPoint.y);
+  }
+
+  /// False for what equals nothing.
+  bool CanMatch(const TDXFEntity& aEntity) const {
+    return (aEntity.EntityType == DXFLine || aEntity.EntityType == DXFArc) && CanMatch(aEntity.StartCoords) &&
+           CanMatch(aEntity.EndCoords);
+  }
+
+  bool IsExactEnough(double aSum) const { return std::abs(aSum) <= fFarthest; }
 
   std::uint8_t& CountOf(std::uint64_t aHash) { return fCounts[aHash & (fCounts.size() - 1)]; }
   std::uint8_t CountOf(std::uint64_t aHash) const { return fCounts[aHash & (fCounts.size() - 1)]; }
@@ -48,13 +84,19 @@ class TEntityRepeats {
   }
 
   bool IsAlone(const TDXFEntity& aEntity) const {
-    if (!fCells.CanMatch(aEntity)) return true;
+    const TEntityCoordinate key = KeyOf(aEntity);
+    if (!IsExactEnough(key.x) || !IsExactEnough(key.y)) return false;
+    const TCellRange columns = fCells.GetCellsAround(key.x);
+    const TCellRange rows = fCells.GetCellsAround(key.y);
     unsigned int around = 0;
-    fCells.ForEachHashAround(aEntity, [&](std::uint64_t hash) { around += CountOf(hash); });
+    for (std::int64_t column = columns.fFirst; column <= columns.fLast; ++column) {
+      for (std::int64_t row = rows.fFirst; row <= rows.fLast; ++row) around += CountOf(GetHash(aEntity, column, row));
+    }
     return around == 1;
   }
 
-  TBoxCells fCells;
+  TToleranceCells fCells{kReach * GetLinearTolerance()};
+  double fFarthest = kMostTolerances * GetLinearTolerance();
   std::vector<std::uint8_t> fCounts;  ///< by hash; 0, 1, or `kSeveral` for more
   std::vector<bool> fMayRepeat;
 };
