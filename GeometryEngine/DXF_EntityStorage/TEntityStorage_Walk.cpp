@@ -48,7 +48,7 @@ void AddArcPoints(TCoordinateArray& aVertices, const detail::TVertexWalk& aWalk)
   const double start_angle = GetEntityStartAngle_Arc(aWalk.From(), arc);
   const TTravelDirection direction = GetArcTravelDirection(start_angle, arc);
   const auto [aCount, aStep] = detail::GetSurfaceSegments(arc);
-  detail::ForEachChordPoint(arc, {direction, start_angle, aStep}, 0, std::int64_t{aCount} - 1,
+  detail::ForEachChordPoint(arc, detail::GetWalkedAngles(direction, start_angle, aStep), 0, std::int64_t{aCount} - 1,
                             [&](const TEntityCoordinate& aPoint) { aVertices.push_back(aPoint); });
 }
 

@@ -49,7 +49,7 @@ TEntityCoordinate GetCentroidComponent_Arc(const TEntityCoordinate& aFrom, const
   const double startAngle = GetEntityStartAngle_Arc(aFrom, aArc);
   const TTravelDirection direction = GetArcTravelDirection(startAngle, aArc);
   TEntityCoordinate sum;
-  detail::ForEachChord(aArc, {direction, startAngle, step}, count,
+  detail::ForEachChord(aArc, detail::GetWalkedAngles(direction, startAngle, step), count,
                        [&](const TEntityCoordinate& aChordFrom, const TEntityCoordinate& aChordTo) {
                          const TEntityCoordinate term = GetCentroidTerm(aChordFrom, aChordTo);
                          sum.x += term.x;
@@ -100,14 +100,14 @@ double GetArea_Arc(const TEntityCoordinate& aFrom, const TEntityCoordinate& aTo,
   const double startAngle = GetEntityStartAngle_Arc(aFrom, aArc) * kRadiansPerDegree;
   const double radius = GetRadius_EqualArea(aArc.radius, sweep, step, aSegments);
   const double signedStep = aDirection == 0 ? step : -step;
-  const auto radiansOf = [&](std::int64_t aIndex) { return startAngle + static_cast<double>(aIndex) * signedStep; };
   double sum = 0;
   TEntityCoordinate from = aFrom;
-  detail::ForEachSineCosine(1, std::int64_t{aSegments} - 1, radiansOf, [&](const detail::TSineCosine& aTurned) {
-    const TEntityCoordinate to = detail::GetCirclePoint(aArc.CentreCoords, radius, aTurned);
-    sum += GetCross(from, to);
-    from = to;
-  });
+  detail::ForEachSineCosine({startAngle, signedStep}, 1, std::int64_t{aSegments} - 1,
+                            [&](const detail::TSineCosine& aTurned) {
+                              const TEntityCoordinate to = detail::GetCirclePoint(aArc.CentreCoords, radius, aTurned);
+                              sum += GetCross(from, to);
+                              from = to;
+                            });
   return sum + GetCross(from, aTo);
 }
 

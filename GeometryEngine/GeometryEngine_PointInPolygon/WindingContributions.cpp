@@ -55,7 +55,7 @@ class TArcWalk {
     if (aRange.fLast < aRange.fFirst) return 0;
     std::int32_t sum = 0;
     std::optional<TEntityCoordinate> from;
-    const detail::TChordWalk walk{fDirection, fStartAngle, fSegments.aStep};
+    const detail::TAngleSteps walk = detail::GetWalkedAngles(fDirection, fStartAngle, fSegments.aStep);
     detail::ForEachChordPoint(fArc, walk, aRange.fFirst, std::int64_t{aRange.fLast} + 1,
                               [&](const TEntityCoordinate& to) {
                                 if (from) sum += detail::GetSegmentWinding(*from, to, fPoint, fTolerance);

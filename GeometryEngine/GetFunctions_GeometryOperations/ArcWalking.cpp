@@ -33,8 +33,8 @@ TArcSegments GetArcSegmentPoints_Surf(const TDXFEntity& aEntity, double aToleran
 
 TEntityCoordinate GetArc_LineSegmentCoord(const TDXFEntity& aEntity, std::int32_t aIndex, TTravelDirection aDirection,
                                           double aStartAngle, double aStep) {
-  return detail::GetCirclePoint(aEntity.CentreCoords, aEntity.radius,
-                                detail::GetWalkedAngle({aDirection, aStartAngle, aStep}, aIndex));
+  const double radians = detail::GetWalkedAngles(aDirection, aStartAngle, aStep).GetRadians(aIndex);
+  return detail::GetCirclePoint(aEntity.CentreCoords, aEntity.radius, detail::GetSineCosine(radians));
 }
 
 }  // namespace GeometryEngine

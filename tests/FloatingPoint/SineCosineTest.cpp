@@ -8,7 +8,6 @@
 #include <cstdint>
 #include <limits>
 #include <random>
-#include <span>
 #include <vector>
 
 #include "GeometryEngine/FloatingPoint/detail/ForEachSineCosine.h"
@@ -106,32 +105,32 @@ TEST(GetSineCosine, OfWhatIsNoAngleIsNoNumber) {
 }
 
 TEST(GetSinesCosines, AreThoseOfOneByOneForEveryCount) {
-  std::vector<double> angles = GetAngles(1e3, 40);
-  angles[3] = -0.0;
-  angles[5] = 1e9;
-  angles[6] = kInfinity;
-  angles[7] = std::numeric_limits<double>::quiet_NaN();
-  for (std::size_t first = 0; first < 10; ++first) {
-    for (std::size_t count = 0; first + count <= angles.size(); ++count) {
-      std::vector<double> sines(count);
-      std::vector<double> cosines(count);
-      GetSinesCosines(std::span(angles).subspan(first, count), sines, cosines);
-      for (std::size_t i = 0; i < count; ++i) {
-        const auto [sine, cosine] = GetSineCosine(angles[first + i]);
-        ASSERT_TRUE(AreAlike(sines[i], sine) && AreAlike(cosines[i], cosine)) << angles[first + i];
+  constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
+  const std::vector<TAngleSteps> walks{{0.3, 0.7},     {-0.0, 0},      {350, 10, 0.0174}, {12, -7.5, 0.0174},
+                                       {1e6 - 3, 1},   {-1e6, 0.5},    {3e6, -4e5},       {1e300, 1, 1e-299},
+                                       {kInfinity, 1}, {0, kInfinity}, {1, kNoNumber, 2}};
+  for (const TAngleSteps& walk : walks) {
+    for (std::int64_t first = 0; first < 5; ++first) {
+      for (std::size_t count = 1; count <= TSinesCosines::kMost; ++count) {
+        TSinesCosines found;
+        GetSinesCosines(walk, first, count, found);
+        for (std::size_t i = 0; i < count; ++i) {
+          const double angle = walk.GetRadians(static_cast<double>(first) + static_cast<double>(i));
+          const auto [sine, cosine] = GetSineCosine(angle);
+          ASSERT_TRUE(AreAlike(found.fSines[i], sine) && AreAlike(found.fCosines[i], cosine)) << angle;
+        }
       }
     }
   }
 }
 
 TEST(ForEachSineCosine, VisitsEachInTurnWithTheBitsOfOneByOne) {
-  const std::vector<double> angles = GetAngles(10, 50);
-  const auto radiansOf = [&](std::int64_t aIndex) { return angles.at(static_cast<std::size_t>(aIndex)); };
+  const TAngleSteps walk{-2, 0.37};
   for (std::int64_t first = 0; first < 3; ++first) {
     for (std::int64_t last = first - 1; last < 50; ++last) {
       std::int64_t next = first;
-      ForEachSineCosine(first, last, radiansOf, [&](const TSineCosine& aFound) {
-        const auto [sine, cosine] = GetSineCosine(radiansOf(next++));
+      ForEachSineCosine(walk, first, last, [&](const TSineCosine& aFound) {
+        const auto [sine, cosine] = GetSineCosine(walk.GetRadians(static_cast<double>(next++)));
         EXPECT_TRUE(HaveSameBits(aFound.fSine, sine) && HaveSameBits(aFound.fCosine, cosine));
       });
       EXPECT_EQ(next, last + 1);

@@ -1,40 +1,57 @@
 #include "GeometryEngine/FloatingPoint/detail/SineCosine.h"
 
-#include <cstddef>
-
 #include "GeometryEngine/FloatingPoint/detail/WideLoops.h"
 
 namespace GeometryEngine::detail {
 
 namespace {
 
-inline void Compute(std::span<const double> aRadians, double* aSines, double* aCosines) {
-  for (std::size_t i = 0; i < aRadians.size(); ++i) {
-    const TSineCosine found = GetSineCosine_Reduced(aRadians[i]);
-    aSines[i] = found.fSine;
-    aCosines[i] = found.fCosine;
+constexpr std::array<double, TSinesCosines::kMost> kNumbers{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15};
+
+// So many that the compiler knows of leave no loop, for which constants would have to be made ready each time.
+template <std::size_t kCount>
+[[gnu::always_inline]] inline void ComputeFixed(TAngleSteps aAngles, double aFirst, TSinesCosines& aFound) {
+  for (std::size_t i = 0; i < kCount; ++i) {
+    const auto [sine, cosine] = GetSineCosine_Reduced(aAngles.GetRadians(aFirst + kNumbers[i]));
+    aFound.fSines[i] = sine;
+    aFound.fCosines[i] = cosine;
   }
 }
 
-void Compute_Common(std::span<const double> aRadians, double* aSines, double* aCosines) {
-  Compute(aRadians, aSines, aCosines);
+[[gnu::always_inline]] inline void Compute(const TAngleSteps& aAngles, double aFirst, std::size_t aCount,
+                                           TSinesCosines& aFound) {
+  if (aCount <= 4) return ComputeFixed<4>(aAngles, aFirst, aFound);
+  if (aCount <= 8) return ComputeFixed<8>(aAngles, aFirst, aFound);
+  if (aCount <= 12) return ComputeFixed<12>(aAngles, aFirst, aFound);
+  return ComputeFixed<16>(aAngles, aFirst, aFound);
 }
 
-GEOMETRYENGINE_WIDE_LOOPS void Compute_Wide(std::span<const double> aRadians, double* aSines, double* aCosines) {
-  Compute(aRadians, aSines, aCosines);
+void Compute_Common(const TAngleSteps& aAngles, double aFirst, std::size_t aCount, TSinesCosines& aFound) {
+  Compute(aAngles, aFirst, aCount, aFound);
+}
+
+GEOMETRYENGINE_WIDE_LOOPS void Compute_Wide(const TAngleSteps& aAngles, double aFirst, std::size_t aCount,
+                                            TSinesCosines& aFound) {
+  Compute(aAngles, aFirst, aCount, aFound);
+}
+
+void ComputeOneByOne(const TAngleSteps& aAngles, double aFirst, std::size_t aCount, TSinesCosines& aFound) {
+  for (std::size_t i = 0; i < aCount; ++i) {
+    const auto [sine, cosine] = GetSineCosine(aAngles.GetRadians(aFirst + static_cast<double>(i)));
+    aFound.fSines[i] = sine;
+    aFound.fCosines[i] = cosine;
+  }
 }
 
 }  // namespace
 
-void GetSinesCosines(std::span<const double> aRadians, std::span<double> aSines, std::span<double> aCosines) {
+void GetSinesCosines(const TAngleSteps& aAngles, std::int64_t aFirst, std::size_t aCount, TSinesCosines& aFound) {
   static const auto compute = HasWideLoops() ? Compute_Wide : Compute_Common;
-  compute(aRadians, aSines.data(), aCosines.data());
-  for (std::size_t i = 0; i < aRadians.size(); ++i) {
-    if (!IsBeyondReduction(aRadians[i])) continue;
-    const TSineCosine found = GetSineCosine(aRadians[i]);
-    aSines[i] = found.fSine;
-    aCosines[i] = found.fCosine;
-  }
+  const auto first = static_cast<double>(aFirst);
+  // The angles grow or fall all along: none is larger than those at the ends.
+  const bool isBeyond = IsBeyondReduction(aAngles.GetRadians(first)) ||
+                        IsBeyondReduction(aAngles.GetRadians(first + static_cast<double>(aCount - 1)));
+  (isBeyond ? ComputeOneByOne : compute)(aAngles, first, aCount, aFound);
 }
 
 }  // namespace GeometryEngine::detail

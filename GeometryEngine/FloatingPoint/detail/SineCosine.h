@@ -2,10 +2,11 @@
 
 // Sine and cosine with the same bits on every processor and with every C library. Private.
 
+#include <array>
 #include <bit>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
-#include <span>
 
 namespace GeometryEngine::detail {
 
@@ -80,9 +81,25 @@ inline double GetCosine(double aRadians) {
   return GetSineCosine(aRadians).fCosine;
 }
 
-/// Those of many angles, with the bits of one by one in a third of the time. Counts that are multiples of 4 are best.
-///
-/// REQUIRES: room for as many sines and cosines as there are angles, elsewhere than the angles.
-void GetSinesCosines(std::span<const double> aRadians, std::span<double> aSines, std::span<double> aCosines);
+/// Angles in equal steps.
+struct TAngleSteps {
+  double fStart;
+  double fStep;
+  double fUnit = 1;  ///< in radians
+
+  /// REQUIRES: a whole number.
+  double GetRadians(double aIndex) const { return (fStart + aIndex * fStep) * fUnit; }
+};
+
+struct TSinesCosines {
+  static constexpr std::size_t kMost = 16;
+
+  std::array<double, kMost> fSines;
+  std::array<double, kMost> fCosines;
+};
+
+/// Those of so many of the angles from `aFirst` on, with the bits of one by one in a third of the time; of the others
+/// anything. REQUIRES: `aCount` from 1 to kMost.
+void GetSinesCosines(const TAngleSteps& aAngles, std::int64_t aFirst, std::size_t aCount, TSinesCosines& aFound);
 
 }  // namespace GeometryEngine::detail

@@ -71,7 +71,7 @@ void TWalkedEntity::ListChords(double aTolerance) {
   const TTravelDirection direction = GetArcTravelDirection(startAngle, *fEntity);
   auto chords = std::make_unique<TChords>();
   chords->fEnds.reserve(static_cast<std::size_t>(count) + 1);
-  ForEachChordPoint(*fEntity, {direction, startAngle, step}, 0, count,
+  ForEachChordPoint(*fEntity, GetWalkedAngles(direction, startAngle, step), 0, count,
                     [&](const TEntityCoordinate& aEnd) { chords->fEnds.push_back(aEnd); });
   chords->fBlocks = TBlockTree<THeightRange>(GetHeightsOfBlocks(chords->fEnds, std::max(aTolerance, 0.0)));
   fChords = std::move(chords);

@@ -8,38 +8,31 @@
 
 namespace GeometryEngine::detail {
 
-/// How an arc is walked chord by chord.
-struct TChordWalk {
-  TTravelDirection fDirection;
-  double fStartAngle;  ///< degrees
-  double fStep;        ///< degrees
-};
-
-/// The direction, in degrees, after so many steps from the start angle; 0 in a direction of travel that is none.
-inline double GetWalkedAngle(const TChordWalk& aWalk, std::int64_t aIndex) {
-  switch (aWalk.fDirection) {
+/// The directions of a walk along an arc, chord by chord. UNITS of start angle and step: degrees.
+/// DEGENERATE: 0 all along in a direction of travel that is none.
+inline TAngleSteps GetWalkedAngles(TTravelDirection aDirection, double aStartAngle, double aStep) {
+  switch (aDirection) {
     case Travel_AntiClockwise:
-      return aWalk.fStartAngle + static_cast<double>(aIndex) * aWalk.fStep;
+      return {aStartAngle, aStep, kRadiansPerDegree};
     case Travel_Clockwise:
-      return aWalk.fStartAngle - static_cast<double>(aIndex) * aWalk.fStep;
+      return {aStartAngle, -aStep, kRadiansPerDegree};
   }
-  return 0;
+  return {0, 0, kRadiansPerDegree};
 }
 
 /// Calls `aVisit` with the points that `GetArc_LineSegmentCoord` gives for `aFirst` to `aLast`, in this order, some at
 /// once: less than half the time of one by one.
 template <class TVisit>
-void ForEachChordPoint(const TDXFEntity& aArc, const TChordWalk& aWalk, std::int64_t aFirst, std::int64_t aLast,
+void ForEachChordPoint(const TDXFEntity& aArc, const TAngleSteps& aWalk, std::int64_t aFirst, std::int64_t aLast,
                        const TVisit& aVisit) {
-  const auto radiansOf = [&](std::int64_t aIndex) { return GetWalkedAngle(aWalk, aIndex) * kRadiansPerDegree; };
-  ForEachSineCosine(aFirst, aLast, radiansOf, [&](const TSineCosine& aDirection) {
+  ForEachSineCosine(aWalk, aFirst, aLast, [&](const TSineCosine& aDirection) {
     aVisit(GetCirclePoint(aArc.CentreCoords, aArc.radius, aDirection));
   });
 }
 
 /// Calls `aVisit` with the ends of each of so many chords in turn, from point 0 on.
 template <class TVisit>
-void ForEachChord(const TDXFEntity& aArc, const TChordWalk& aWalk, std::int64_t aCount, const TVisit& aVisit) {
+void ForEachChord(const TDXFEntity& aArc, const TAngleSteps& aWalk, std::int64_t aCount, const TVisit& aVisit) {
   bool isStart = true;
   TEntityCoordinate from;
   ForEachChordPoint(aArc, aWalk, 0, aCount, [&](const TEntityCoordinate& aTo) {
