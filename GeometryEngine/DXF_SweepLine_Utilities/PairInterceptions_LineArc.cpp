@@ -1,6 +1,8 @@
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
-#include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
+#include "GeometryEngine/DXF_Entity_Types/detail/Sameness.h"
 #include "GeometryEngine/DXF_SweepLine_Utilities/PairInterceptions.h"
 #include "GeometryEngine/DXF_SweepLine_Utilities/VerticalLine.h"
 #include "GeometryEngine/DXF_SweepLine_Utilities/detail/AngleOnArc.h"
@@ -28,7 +30,9 @@ struct TCandidatePair {
 
 /// A line that misses the circle has roots that are not numbers; the acceptance tests turn them away.
 TRootPair GetRoots(const detail::TQuadratic& aQuadratic) {
+  constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
   if (aQuadratic.HasDoubleRoot(kTangentDiscriminant)) return {aQuadratic.DoubleRoot(), aQuadratic.DoubleRoot()};
+  if (aQuadratic.D < 0) return {kNotANumber, kNotANumber};
   return {aQuadratic.FirstRoot(), aQuadratic.SecondRoot()};
 }
 
@@ -52,8 +56,11 @@ TCandidatePair GetCandidates_Vertical(double x, const TDXFEntity& aArc) {
 }
 
 bool IsOnLineAndArc(const TEntityCoordinate& aPoint, const TDXFEntity& aLine, const TDXFEntity& aArc) {
+  if (std::isnan(aPoint.y)) return false;  // the line misses the circle
+  const double tolerance = detail::ReadLinearTolerance();
   const auto [minX, maxX] = std::minmax(aLine.StartCoords.x, aLine.EndCoords.x);
-  if (ValueLessThan_DXFTolerance(aPoint.x, minX) || ValueMoreThan_DXFTolerance(aPoint.x, maxX)) return false;
+  if (aPoint.x < minX && !detail::AreSame(aPoint.x, minX, tolerance)) return false;
+  if (aPoint.x > maxX && !detail::AreSame(aPoint.x, maxX, tolerance)) return false;
   if (!PointOnLine(aLine, aPoint)) return false;
   const TEntityCoordinate offset = aPoint - aArc.CentreCoords;
   const double angle = GetAngleInRange(ArcTan2(offset.y, offset.x) * kDegreesPerRadian, 0, 360);

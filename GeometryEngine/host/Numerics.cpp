@@ -19,6 +19,8 @@ double GetAngleInRange(double aValue, double aLow, double aHigh) {
   const double turn = aHigh - aLow;
   if (!(turn > 0)) return kNotANumber;
   if (aValue >= aLow && aValue < aHigh) return aValue;
+  const bool isTurnBelow = aLow == 0 && aHigh == kFullTurn && -kFullTurn < aValue && aValue < 0;
+  if (isTurnBelow) return aValue + kFullTurn < kFullTurn ? aValue + kFullTurn : aLow;  // the most common; as below
   // The remainder is exact, and so are few whole turns, so that only the last sum is rounded.
   const double rest = std::fmod(aValue, turn);
   double moved = rest + std::ceil((aLow - rest) / turn) * turn;

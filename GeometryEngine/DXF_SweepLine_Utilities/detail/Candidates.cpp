@@ -1,8 +1,7 @@
 #include "GeometryEngine/DXF_SweepLine_Utilities/detail/Candidates.h"
 
-#include <cmath>
-
 #include "GeometryEngine/DXF_EntityStorage/detail/IsEntityEnd.h"
+#include "GeometryEngine/DXF_Entity_Types/detail/Sameness.h"
 
 namespace GeometryEngine::detail {
 
@@ -14,6 +13,16 @@ bool AddEndsOn(const TDXFEntity& aEnds, const TDXFEntity& aOther, TPointTest aIs
   return isStartOn || isEndOn;
 }
 
+/// Whether an end of one is an end of the other. Most pairs share none, which one branch for all four ends foresees.
+bool HaveSharedEnd(const TDXFEntity& A, const TDXFEntity& B) {
+  const double tolerance = ReadLinearTolerance();
+  const auto isSame = [tolerance](const TEntityCoordinate& a, const TEntityCoordinate& b) {
+    return static_cast<int>(AreSame(a.x, b.x, tolerance)) & static_cast<int>(AreSame(a.y, b.y, tolerance));
+  };
+  return (isSame(A.StartCoords, B.StartCoords) | isSame(A.StartCoords, B.EndCoords) |
+          isSame(A.EndCoords, B.StartCoords) | isSame(A.EndCoords, B.EndCoords)) != 0;
+}
+
 }  // namespace
 
 bool AddIfAccepted(bool aIsAccepted, const TEntityCoordinate& aPoint, TInterceptionPoints& aPoints) {
@@ -22,7 +31,7 @@ bool AddIfAccepted(bool aIsAccepted, const TEntityCoordinate& aPoint, TIntercept
 }
 
 bool AddSharedEnds(const TDXFEntity& aEntity_A, const TDXFEntity& aEntity_B, TInterceptionPoints& aPoints) {
-  return AddEndsOn(aEntity_A, aEntity_B, IsEntityEnd, aPoints);
+  return HaveSharedEnd(aEntity_A, aEntity_B) && AddEndsOn(aEntity_A, aEntity_B, IsEntityEnd, aPoints);
 }
 
 bool AddOverlapEnds(const TDXFEntity& aEntity_A, const TDXFEntity& aEntity_B, TPointTest aIsOn,
@@ -30,22 +39,6 @@ bool AddOverlapEnds(const TDXFEntity& aEntity_A, const TDXFEntity& aEntity_B, TP
   const bool areEndsOfB = AddEndsOn(aEntity_B, aEntity_A, aIsOn, aPoints);
   const bool areEndsOfA = AddEndsOn(aEntity_A, aEntity_B, aIsOn, aPoints);
   return areEndsOfB || areEndsOfA;
-}
-
-TQuadratic::TQuadratic(double aSquare, double aLinear, double aConstant)
-    : a(aSquare), b(aLinear), D(aLinear * aLinear - 4 * aSquare * aConstant) {}
-
-bool TQuadratic::HasDoubleRoot(double aTolerance) const {
-  return std::abs(D) <= aTolerance;
-}
-double TQuadratic::DoubleRoot() const {
-  return -b / (2 * a);
-}
-double TQuadratic::FirstRoot() const {
-  return (-b + std::sqrt(D)) / (2 * a);
-}
-double TQuadratic::SecondRoot() const {
-  return (-b - std::sqrt(D)) / (2 * a);
 }
 
 }  // namespace GeometryEngine::detail

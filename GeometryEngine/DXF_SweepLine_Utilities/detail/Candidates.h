@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cmath>
+
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 #include "GeometryEngine/DXF_SweepLine_Utilities/TInterceptionPoints.h"
 
@@ -21,11 +23,12 @@ bool AddOverlapEnds(const TDXFEntity& aEntity_A, const TDXFEntity& aEntity_B, TP
 /// Roots of a x^2 + b x + q = 0, the one with the added square root first; not-a-number where there is none. A
 /// discriminant of 0 within the tolerance gives the same root twice.
 struct TQuadratic {
-  TQuadratic(double aSquare, double aLinear, double aConstant);
-  bool HasDoubleRoot(double aTolerance) const;
-  double DoubleRoot() const;
-  double FirstRoot() const;
-  double SecondRoot() const;
+  TQuadratic(double aSquare, double aLinear, double aConstant)
+      : a(aSquare), b(aLinear), D(aLinear * aLinear - 4 * aSquare * aConstant) {}
+  bool HasDoubleRoot(double aTolerance) const { return std::abs(D) <= aTolerance; }
+  double DoubleRoot() const { return -b / (2 * a); }
+  double FirstRoot() const { return (-b + std::sqrt(D)) / (2 * a); }
+  double SecondRoot() const { return (-b - std::sqrt(D)) / (2 * a); }
 
   double a;
   double b;
