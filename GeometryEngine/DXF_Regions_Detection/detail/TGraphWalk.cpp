@@ -122,7 +122,8 @@ void TGraphWalk::WriteMarks() const {
   fGraph.WriteMarks([this](TIndex aHalfEdge) { return IsTravelled(aHalfEdge); });
 }
 
-void TGraphWalk::Enter(TIndex aHalfEdge) {
+inline void TGraphWalk::Enter(TIndex aHalfEdge) {
+  fNextTurn = kNone;
   Mark(aHalfEdge, kWalked);
   fPath.push_back(aHalfEdge);
   fSteps.push_back(aHalfEdge);
@@ -138,7 +139,7 @@ void TGraphWalk::TakeOffPath(TIndex aHalfEdge) {
 }
 
 // Asked about half-edges that are free: in a regular graph the entity has but one other.
-bool TGraphWalk::IsOnPath(TIndex aHalfEdge) const {
+inline bool TGraphWalk::IsOnPath(TIndex aHalfEdge) const {
   if (fGraph.IsRegular()) return (Marks(aHalfEdge) & kTwinOnPath) != 0;
   const TIndex entity = fGraph.HalfEdge(aHalfEdge).fEntityIndex;
   if (IsIndexWithin(entity, fTimesOnPath.size())) return fTimesOnPath[At(entity)] > 0;
@@ -146,7 +147,7 @@ bool TGraphWalk::IsOnPath(TIndex aHalfEdge) const {
 }
 
 // Vertices of a regular graph are all apart.
-bool TGraphWalk::IsStart(const TTurn<TIndex>& aTurn) const {
+inline bool TGraphWalk::IsStart(const TTurn<TIndex>& aTurn) const {
   if (fGraph.IsRegular()) return fGraph.Leaves(fStartVertex, fOrder.Record(aTurn.fHalfEdge).fTwin);
   return AreSame(aTurn.fFarEnd, fStart, fGraph.Tolerance());
 }
@@ -165,7 +166,7 @@ void TGraphWalk::Close(const TTurn<TIndex>& aLast) {
   fHasClosed = true;
 }
 
-bool TGraphWalk::StepBack() {
+inline bool TGraphWalk::StepBack() {
   const TIndex last = fPath.back();
   fBlocked.push_back(last);
   ++fStepsBack;
@@ -175,6 +176,7 @@ bool TGraphWalk::StepBack() {
   }
   TakeOffPath(last);
   fPath.pop_back();
+  fNextTurn = fOrder.Record(last).fClockwise;
   fSteps.push_back(TWalkSums::kStepBack);
   return true;
 }
@@ -199,43 +201,39 @@ bool TGraphWalk::IsLost() {
   return !mayClose;
 }
 
-TTurn<TIndex> TGraphWalk::FindSharpestTurn() {
+inline TTurn<TIndex> TGraphWalk::FindSharpestTurn() {
   const TIndex last = fPath.back();
   const TIndex first = fOrder.FirstTurn(last);
   if (first == TTurnRecord::kUnclear) return FindByAngle(last);
   const TIndex twin = fOrder.Record(last).fTwin;
-  for (TIndex h = first; h != twin; h = fOrder.Record(h).fClockwise) {
+  for (TIndex h = fNextTurn == kNone ? first : fNextTurn; h != twin; h = fOrder.Record(h).fClockwise) {
     if (!MayTake(h)) continue;
     return {h, fGraph.IsRegular() ? TEntityCoordinate{} : fGraph.FarEnd(fGraph.HalfEdge(h))};
   }
   return {kNone, {}};
 }
 
-bool TGraphWalk::MayTake(TIndex aCandidate) {
+inline bool TGraphWalk::MayTake(TIndex aCandidate) {
   const std::uint8_t marks = Marks(aCandidate);
-  if (marks == 0) return true;
   if ((marks & (kTaken | kWalked)) != 0) return false;
+  return (marks & (kDeadEnd | kBridge)) == 0 || !PassBy(aCandidate);
+}
+
+// Whether it is a dead end or a bridge that the walk has no need to enter.
+bool TGraphWalk::PassBy(TIndex aCandidate) {
+  const std::uint8_t marks = Marks(aCandidate);
   if ((marks & kDeadEnd) != 0 && fBacktracks) {
-    StepIntoDeadEnd(aCandidate);
+    // What entering it and stepping back from it comes to.
+    fSteps.push_back(aCandidate);
+    fSteps.push_back(TWalkSums::kStepBack);
+  } else if ((marks & kBridge) != 0 && fAvoidsBridges) {
+    fPassed.push_back({fSteps.size(), aCandidate});
+  } else {
     return false;
   }
-  if (!fAvoidsBridges || (marks & kBridge) == 0) return true;
-  PassBy(aCandidate);
-  return false;
-}
-
-// What entering it and stepping back from it comes to.
-void TGraphWalk::StepIntoDeadEnd(TIndex aHalfEdge) {
-  fSteps.push_back(aHalfEdge);
-  fSteps.push_back(TWalkSums::kStepBack);
-  Mark(aHalfEdge, kWalked);
-  fBlocked.push_back(aHalfEdge);
-}
-
-void TGraphWalk::PassBy(TIndex aBridge) {
-  fPassed.push_back({fSteps.size(), aBridge});
-  Mark(aBridge, kWalked);
-  fBlocked.push_back(aBridge);
+  Mark(aCandidate, kWalked);
+  fBlocked.push_back(aCandidate);
+  return true;
 }
 
 TTurn<TIndex> TGraphWalk::FindByAngle(TIndex aLast) {

@@ -101,8 +101,7 @@ class TGraphWalk {
   bool IsLost();
   void MarkDeadEnds();
   bool MayTake(TIndex aCandidate);
-  void StepIntoDeadEnd(TIndex aHalfEdge);
-  void PassBy(TIndex aBridge);
+  bool PassBy(TIndex aCandidate);
   TTurn<TIndex> FindByAngle(TIndex aLast);
   TTurn<TIndex> FindSharpestAngle(TIndex aLast) const;
   bool HasGoneToAndFro() const;
@@ -116,6 +115,7 @@ class TGraphWalk {
   TEntityCoordinate fStart;
   TIndex fFirst = kNone;
   TIndex fStartVertex = kNotFound;
+  TIndex fNextTurn = kNone;  // behind the one stepped back from: those before it in the ring are not free any more
   bool fBacktracks = false;
   bool fAvoidsBridges = false;
   bool fHasClosed = false;

@@ -209,11 +209,11 @@ void TVertexGraph::FindFarVertices() {
 }
 
 // Both half-edges of a piece at once, where all is well: each vertex is the first that is the same as itself, so the
-// two are not the same, and either end of the piece is the other end of the other one. False when something is not.
+// two are one or not the same, and either end of the piece is the other end of the other one. False when something is
+// not.
 bool TVertexGraph::JoinTwins(TIndex aHalfEdge, TIndex aTwin) {
   THalfEdge& halfEdge = fHalfEdges[At(aHalfEdge)];
   THalfEdge& twin = fHalfEdges[At(aTwin)];
-  if (halfEdge.fVertex == twin.fVertex) return false;
   const bool isLine = Entity(halfEdge).EntityType == DXFLine;
   THalfEdge joined = halfEdge;
   joined.fFarVertex = twin.fVertex;
