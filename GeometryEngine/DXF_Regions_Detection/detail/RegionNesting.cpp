@@ -75,7 +75,7 @@ class TNesting {
       (points.fAreTame ? tame : wild).push_back(ToIndex(i));
       if (points.fAreTame) boxes.push_back(points.fBox);
     }
-    const TBoxGrid grid(boxes);
+    TBoxGrid grid(boxes);
     std::optional<TBoxIndex> index;
     for (std::size_t i = 0; i < aCandidates.size(); ++i) {
       aCandidates[i] = wild;

@@ -18,7 +18,7 @@ namespace GeometryEngine::detail {
 /// REQUIRES: finite boxes.
 class TBoxGrid {
  public:
-  explicit TBoxGrid(std::span<const TBox> aBoxes) {
+  explicit TBoxGrid(std::span<const TBox> aBoxes) : fManyLeft(kManyPerBox * aBoxes.size()) {
     TBox corners;
     for (const TBox& box : aBoxes) corners.Include(box.fLeft, box.fBottom);
     const double count = static_cast<double>(aBoxes.size());
@@ -29,12 +29,13 @@ class TBoxGrid {
     Fill(aBoxes);
   }
 
-  /// Calls `aVisit(index)` for each box within this one; false, without a call, where it would look at many.
+  /// Calls `aVisit(index)` for each box within this one; false, without a call, where it would look at many and has
+  /// done so often: a few containers that hold much are no reason to arrange all boxes in another way.
   template <class TVisit>
-  bool ForFewWithin(const TBox& aBox, const TVisit& aVisit) const {
+  bool ForFewWithin(const TBox& aBox, const TVisit& aVisit) {
     if (!(aBox.fLeft <= aBox.fRight && aBox.fBottom <= aBox.fTop)) return true;  // within which nothing lies
     const TCells cells{fColumns.Of(aBox.fLeft), fColumns.Of(aBox.fRight), fRows.Of(aBox.fBottom), fRows.Of(aBox.fTop)};
-    if (!AreFew(cells)) return false;
+    if (!MayLookAt(cells)) return false;
     for (std::size_t row = cells.fBottom; row <= cells.fTop; ++row) {
       for (const TItem& item : ItemsOf(cells, row)) {
         if (item.fBox.IsWithin(aBox)) aVisit(item.fIndex);
@@ -44,8 +45,8 @@ class TBoxGrid {
   }
 
  private:
-  static constexpr std::size_t kFewRows = 128;
-  static constexpr std::size_t kFewItems = 512;
+  static constexpr std::size_t kFew = 512;        // rows and items
+  static constexpr std::size_t kManyPerBox = 16;  // looked at where they are more, all in all
 
   struct TItem {
     TBox fBox;
@@ -99,17 +100,20 @@ class TBoxGrid {
     return std::span(fItems).subspan(first, fFirst[CellAt(aCells.fRight, aRow) + 1] - first);
   }
 
-  bool AreFew(const TCells& aCells) const {
-    if (aCells.fTop - aCells.fBottom >= kFewRows) return false;
-    std::size_t items = 0;
-    for (std::size_t row = aCells.fBottom; row <= aCells.fTop; ++row) items += ItemsOf(aCells, row).size();
-    return items <= kFewItems;
+  bool MayLookAt(const TCells& aCells) {
+    std::size_t looks = aCells.fTop - aCells.fBottom;
+    for (std::size_t row = aCells.fBottom; row <= aCells.fTop; ++row) looks += ItemsOf(aCells, row).size();
+    if (looks <= kFew) return true;
+    if (looks > fManyLeft) return false;
+    fManyLeft -= looks;
+    return true;
   }
 
   TSteps fColumns;
   TSteps fRows;
   std::vector<std::uint32_t> fFirst;  // item of each cell, and one more
   std::vector<TItem> fItems;
+  std::size_t fManyLeft;
 };
 
 }  // namespace GeometryEngine::detail
