@@ -123,7 +123,7 @@ void TGraphWalk::WriteMarks() const {
 }
 
 inline void TGraphWalk::Enter(TIndex aHalfEdge) {
-  fNextTurn = kNone;
+  fSteppedBack = kNone;
   Mark(aHalfEdge, kWalked);
   fPath.push_back(aHalfEdge);
   fSteps.push_back(aHalfEdge);
@@ -176,7 +176,7 @@ inline bool TGraphWalk::StepBack() {
   }
   TakeOffPath(last);
   fPath.pop_back();
-  fNextTurn = fOrder.Record(last).fClockwise;
+  fSteppedBack = last;
   fSteps.push_back(TWalkSums::kStepBack);
   return true;
 }
@@ -203,10 +203,9 @@ bool TGraphWalk::IsLost() {
 
 inline TTurn<TIndex> TGraphWalk::FindSharpestTurn() {
   const TIndex last = fPath.back();
-  const TIndex first = fOrder.FirstTurn(last);
-  if (first == TTurnRecord::kUnclear) return FindByAngle(last);
+  if (!fOrder.HasClearTurns(last)) return FindByAngle(last);
   const TIndex twin = fOrder.Record(last).fTwin;
-  for (TIndex h = fNextTurn == kNone ? first : fNextTurn; h != twin; h = fOrder.Record(h).fClockwise) {
+  for (TIndex h = fOrder.Clockwise(fSteppedBack == kNone ? twin : fSteppedBack); h != twin; h = fOrder.Clockwise(h)) {
     if (!MayTake(h)) continue;
     return {h, fGraph.IsRegular() ? TEntityCoordinate{} : fGraph.FarEnd(fGraph.HalfEdge(h))};
   }
@@ -214,14 +213,14 @@ inline TTurn<TIndex> TGraphWalk::FindSharpestTurn() {
 }
 
 inline bool TGraphWalk::MayTake(TIndex aCandidate) {
-  const std::uint8_t marks = Marks(aCandidate);
+  const std::uint32_t marks = Marks(aCandidate);
   if ((marks & (kTaken | kWalked)) != 0) return false;
   return (marks & (kDeadEnd | kBridge)) == 0 || !PassBy(aCandidate);
 }
 
 // Whether it is a dead end or a bridge that the walk has no need to enter.
 bool TGraphWalk::PassBy(TIndex aCandidate) {
-  const std::uint8_t marks = Marks(aCandidate);
+  const std::uint32_t marks = Marks(aCandidate);
   if ((marks & kDeadEnd) != 0 && fBacktracks) {
     // What entering it and stepping back from it comes to.
     fSteps.push_back(aCandidate);

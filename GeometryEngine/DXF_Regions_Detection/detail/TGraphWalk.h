@@ -76,11 +76,11 @@ class TGraphWalk {
   bool Backtracks() const { return fBacktracks; }
 
  private:
-  static constexpr std::uint8_t kTaken = 1;   // travelled before the walk in hand
-  static constexpr std::uint8_t kWalked = 2;  // by the walk in hand: on its path, stepped back from or passed by
-  static constexpr std::uint8_t kTwinOnPath = 4;
-  static constexpr std::uint8_t kBridge = 8;
-  static constexpr std::uint8_t kDeadEnd = 16;  // leads to a vertex that nothing else leaves
+  static constexpr std::uint32_t kTaken = 1;   // travelled before the walk in hand
+  static constexpr std::uint32_t kWalked = 2;  // by the walk in hand: on its path, stepped back from or passed by
+  static constexpr std::uint32_t kTwinOnPath = 4;
+  static constexpr std::uint32_t kBridge = 8;
+  static constexpr std::uint32_t kDeadEnd = 16;  // leads to a vertex that nothing else leaves
 
   /// A bridge that was passed by, and after how many steps.
   struct TPassed {
@@ -91,11 +91,9 @@ class TGraphWalk {
   static std::size_t At(TIndex aIndex) { return static_cast<std::size_t>(aIndex); }
   void KeepMarks();
   void TakeOffPath(TIndex aHalfEdge);
-  std::uint8_t Marks(TIndex aHalfEdge) const { return fOrder.Record(aHalfEdge).fMarks; }
-  void Mark(TIndex aHalfEdge, std::uint8_t aMarks) { fOrder.Record(aHalfEdge).fMarks |= aMarks; }
-  void Unmark(TIndex aHalfEdge, std::uint8_t aMarks) {
-    fOrder.Record(aHalfEdge).fMarks &= static_cast<std::uint8_t>(~aMarks);
-  }
+  std::uint32_t Marks(TIndex aHalfEdge) const { return fOrder.Record(aHalfEdge).Marks(); }
+  void Mark(TIndex aHalfEdge, std::uint32_t aMarks) { fOrder.Record(aHalfEdge).Mark(aMarks); }
+  void Unmark(TIndex aHalfEdge, std::uint32_t aMarks) { fOrder.Record(aHalfEdge).Unmark(aMarks); }
   void FreeBlocked();
   void GiveUp();
   bool IsLost();
@@ -115,7 +113,7 @@ class TGraphWalk {
   TEntityCoordinate fStart;
   TIndex fFirst = kNone;
   TIndex fStartVertex = kNotFound;
-  TIndex fNextTurn = kNone;  // behind the one stepped back from: those before it in the ring are not free any more
+  TIndex fSteppedBack = kNone;  // what was just stepped back from: those before it in the ring are not free any more
   bool fBacktracks = false;
   bool fAvoidsBridges = false;
   bool fHasClosed = false;

@@ -33,8 +33,10 @@ TTurnOrder::TTurnOrder(const TVertexGraph& aGraph)
   for (TIndex h = 0; h < aGraph.HalfEdgeCount(); ++h) Record(h).fTwin = aGraph.HalfEdge(h).fTwin;
 }
 
-TIndex TTurnOrder::FindFirstTurn(TIndex aArriving) {
-  return IsClear(aArriving) ? Clockwise(Record(aArriving).fTwin) : TTurnRecord::kUnclear;
+TTurnClarity TTurnOrder::FindClarity(TIndex aArriving) {
+  const TTurnClarity found = IsClear(aArriving) ? TTurnClarity::kClear : TTurnClarity::kUnclear;
+  Record(aArriving).Turns(found);
+  return found;
 }
 
 // A walk that arrives on the vertex to the bit leaves it in the very directions that the ring is ordered by.
@@ -43,7 +45,8 @@ bool TTurnOrder::IsClear(TIndex aArriving) {
   const TIndex vertex = arriving.fFarVertex;
   const TIndex twin = arriving.fTwin;
   if (!arriving.fIsExact || twin == kNotFound || fGraph.HalfEdge(twin).fVertex != vertex) return false;
-  if (Clockwise(twin) == kNotFound) MakeRing(vertex);
+  if (static_cast<std::size_t>(fGraph.Degree(vertex)) > TTurnRecord::kLargestRing) return false;
+  if (Clockwise(twin) == twin) MakeRing(vertex);
   for (TIndex h = Clockwise(twin); h != twin; h = Clockwise(h)) {
     if (!fGraph.HalfEdge(h).fIsExact || fGraph.AreSameEntity(arriving, fGraph.HalfEdge(h))) return false;
   }
@@ -83,7 +86,8 @@ void TTurnOrder::MakeRing(TIndex aVertex) {
   }
   std::ranges::sort(fRing, std::greater{});
   for (std::size_t k = 0; k < fRing.size(); ++k) {
-    Record(fRing[k].second).fClockwise = fRing[(k + 1) % fRing.size()].second;
+    const TIndex halfEdge = fRing[k].second;
+    Record(halfEdge).ToNext(fRing[(k + 1) % fRing.size()].second - halfEdge);
   }
 }
 

@@ -2,6 +2,7 @@
 
 // In which order a walk tries the half-edges of a vertex. Private.
 
+#include <cstddef>
 #include <cstdint>
 #include <utility>
 #include <vector>
@@ -10,16 +11,38 @@
 
 namespace GeometryEngine::detail {
 
-/// What a walk reads of a half-edge. Those of one vertex stand side by side.
-struct TTurnRecord {
-  static constexpr TIndex kUnclear = -2;
-  static constexpr TIndex kUnknown = -3;
+/// What is known about the turns of a walk that arrives by a half-edge.
+enum class TTurnClarity : std::uint8_t { kUnknown, kClear, kUnclear };
+
+/// What a walk reads of a half-edge, in eight bytes: walks wander about, and wait for memory. Those of one vertex stand
+/// side by side.
+class TTurnRecord {
+ public:
+  static constexpr std::size_t kLargestRing = 1U << 23U;  ///< half-edges of a vertex
 
   TIndex fTwin = kNotFound;
-  TIndex fFirstTurn = kUnknown;   ///< see TTurnOrder::FirstTurn
-  TIndex fClockwise = kNotFound;  ///< the next half-edge of the vertex, once somebody has arrived there
-  std::uint8_t fMarks = 0;        ///< the walks' own
+
+  /// The walks' own.
+  std::uint32_t Marks() const { return fBits & kMarks; }
+  void Mark(std::uint32_t aMarks) { fBits |= aMarks; }
+  void Unmark(std::uint32_t aMarks) { fBits &= ~aMarks; }
+
+  TTurnClarity Turns() const { return static_cast<TTurnClarity>((fBits >> kTurnsAt) & kTurns); }
+  void Turns(TTurnClarity aClarity) { fBits |= static_cast<std::uint32_t>(aClarity) << kTurnsAt; }
+
+  /// How many half-edges on the next one of the ring stands; 0 until the ring is made, and where this is the only one.
+  TIndex ToNext() const { return static_cast<std::int32_t>(fBits) >> kToNextAt; }
+  void ToNext(TIndex aToNext) { fBits |= static_cast<std::uint32_t>(aToNext) << kToNextAt; }
+
+ private:
+  static constexpr std::uint32_t kMarks = 0x3F;
+  static constexpr std::uint32_t kTurns = 0x3;
+  static constexpr std::uint32_t kTurnsAt = 6;
+  static constexpr std::uint32_t kToNextAt = 8;
+
+  std::uint32_t fBits = 0;
 };
+static_assert(sizeof(TTurnRecord) == 8);
 
 /// The half-edges of each vertex, linked in a ring clockwise. A walk that arrives by a piece has its sharpest turn next
 /// to that piece in the ring, the next best one behind it, and so on, wherever directions leave no doubt about it.
@@ -30,22 +53,22 @@ class TTurnOrder {
  public:
   explicit TTurnOrder(const TVertexGraph& aGraph);
 
-  /// Where a walk that arrives by a half-edge begins to go round the ring of its far vertex, as far as the half-edge's
-  /// twin: it then comes by the turns from the sharpest to the least, and may take all of them but for their marks.
-  /// kUnclear where the angles proper have to decide, and for a half-edge without a far vertex.
-  TIndex FirstTurn(TIndex aArriving) {
-    TIndex& first = Record(aArriving).fFirstTurn;
-    if (first == TTurnRecord::kUnknown) first = FindFirstTurn(aArriving);
-    return first;
+  /// True when a walk that arrives by a half-edge comes by its turns from the sharpest to the least, and may take all
+  /// of them but for their marks, when it goes round the ring of the far vertex from behind the half-edge's twin to
+  /// that twin. False where the angles proper have to decide, and for a half-edge without a far vertex.
+  bool HasClearTurns(TIndex aArriving) {
+    const TTurnClarity turns = Record(aArriving).Turns();
+    return (turns == TTurnClarity::kUnknown ? FindClarity(aArriving) : turns) == TTurnClarity::kClear;
   }
+  /// The next half-edge of the same vertex. REQUIRES: one at which turns are clear for somebody.
+  TIndex Clockwise(TIndex aHalfEdge) const { return aHalfEdge + Record(aHalfEdge).ToNext(); }
 
   TTurnRecord& Record(TIndex aHalfEdge) { return fRecords[At(aHalfEdge)]; }
   const TTurnRecord& Record(TIndex aHalfEdge) const { return fRecords[At(aHalfEdge)]; }
 
  private:
   static std::size_t At(TIndex aIndex) { return static_cast<std::size_t>(aIndex); }
-  TIndex Clockwise(TIndex aHalfEdge) const { return Record(aHalfEdge).fClockwise; }
-  TIndex FindFirstTurn(TIndex aArriving);
+  TTurnClarity FindClarity(TIndex aArriving);
   bool IsClear(TIndex aArriving);
   bool AreTurnsClear(TIndex aArriving) const;
   void MakeRing(TIndex aVertex);
