@@ -1,5 +1,6 @@
 // The sort of a storage by left-most x.
 
+#include <cstddef>
 #include <iterator>
 #include <span>
 #include <utility>
@@ -20,21 +21,69 @@ std::vector<detail::TSortItem> GetKeys(std::span<const TDXFEntity> aEntities) {
   return keys;
 }
 
-/// Moves every entity to its place, one ring of places after another; `aOrder` is used up.
-void Rearrange(std::span<TDXFEntity> aEntities, std::span<detail::TSortItem> aOrder) {
-  for (std::size_t first = 0; first < aOrder.size(); ++first) {
-    if (aOrder[first].fPlace == first) continue;
-    TDXFEntity held = std::move(aEntities[first]);
-    std::size_t place = first;
-    for (std::size_t next = aOrder[place].fPlace; next != first; next = aOrder[place].fPlace) {
-      aEntities[place] = std::move(aEntities[next]);
-      aOrder[place].fPlace = place;
+/// Has memory fetch an entity. Inline by force: a function that only fetches ahead looks as if it could be left out.
+#ifdef __GNUC__
+[[gnu::always_inline]] inline void FetchAhead(const TDXFEntity& aEntity) {
+  __builtin_prefetch(&aEntity.EntityType, 1);
+  __builtin_prefetch(&aEntity.endAngle, 1);
+  __builtin_prefetch(&aEntity.SourceDXF, 1);
+}
+#else
+void FetchAhead(const TDXFEntity&) {}
+#endif
+
+/// The places from which the entities are to come. Short numbers, since each step along a ring waits for the last one.
+std::vector<TIndex> GetPlaces(std::span<const detail::TSortItem> aOrder) {
+  std::vector<TIndex> places;
+  places.reserve(aOrder.size());
+  for (const detail::TSortItem& item : aOrder) places.push_back(ToIndex(item.fPlace));
+  return places;
+}
+
+/// Moves every entity to its place, one ring of places after another; `aPlaces` is used up. Each entity is fetched some
+/// steps before its turn, since it may lie anywhere.
+class TRearrangement {
+ public:
+  TRearrangement(std::span<TDXFEntity> aEntities, std::vector<TIndex> aPlaces)
+      : fEntities(aEntities), fPlaces(std::move(aPlaces)) {}
+
+  void Run() {
+    for (TIndex first = 0; first < ToIndex(fPlaces.size()); ++first) {
+      if (PlaceOf(first) != first) MoveRing(first);
+    }
+  }
+
+ private:
+  static constexpr int kStepsAhead = 6;
+
+  TIndex& PlaceOf(TIndex aIndex) { return fPlaces[static_cast<std::size_t>(aIndex)]; }
+  TDXFEntity& EntityAt(TIndex aIndex) { return fEntities[static_cast<std::size_t>(aIndex)]; }
+
+  void MoveRing(TIndex aFirst) {
+    TDXFEntity held = std::move(EntityAt(aFirst));
+    TIndex place = aFirst;
+    TIndex ahead = GetPlaceAhead(aFirst);
+    for (TIndex next = PlaceOf(place); next != aFirst; next = PlaceOf(place)) {
+      FetchAhead(EntityAt(ahead));
+      if (ahead != aFirst) ahead = PlaceOf(ahead);
+      EntityAt(place) = std::move(EntityAt(next));
+      PlaceOf(place) = place;
       place = next;
     }
-    aEntities[place] = std::move(held);
-    aOrder[place].fPlace = place;
+    EntityAt(place) = std::move(held);
+    PlaceOf(place) = place;
   }
-}
+
+  /// Some steps along the ring, but not beyond its beginning.
+  TIndex GetPlaceAhead(TIndex aFirst) {
+    TIndex place = PlaceOf(aFirst);
+    for (int i = 1; i < kStepsAhead && place != aFirst; ++i) place = PlaceOf(place);
+    return place;
+  }
+
+  std::span<TDXFEntity> fEntities;
+  std::vector<TIndex> fPlaces;
+};
 
 }  // namespace
 
@@ -43,7 +92,7 @@ void TEntityStorage::QuickSortArray(TIndex aLow, TIndex aHigh) {
   const std::span<TDXFEntity> slice(fEntityArray.begin() + aLow, fEntityArray.begin() + aHigh + 1);
   std::vector<detail::TSortItem> order = GetKeys(slice);
   detail::TLomutoSort(order).Sort();
-  Rearrange(slice, order);
+  TRearrangement(slice, GetPlaces(order)).Run();
 }
 
 }  // namespace GeometryEngine
