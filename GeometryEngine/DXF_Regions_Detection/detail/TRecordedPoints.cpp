@@ -31,9 +31,11 @@ void TRecordedPoints::Add(TIndex aEntity, const TEntityCoordinate& aPoint) {
 /// The ends of a node's entity that have the numbers of the point.
 std::uint8_t TRecordedPoints::GetEndsAt(const TNode& aNode, const TEntityCoordinate& aPoint) const {
   const TDXFEntity& entity = EntityAt(aNode.fEntity);
-  const bool isStart = aPoint.x == entity.StartCoords.x && aPoint.y == entity.StartCoords.y;
-  const bool isEnd = aPoint.x == entity.EndCoords.x && aPoint.y == entity.EndCoords.y;
-  return static_cast<std::uint8_t>((isStart ? kStart : 0) | (isEnd ? kEnd : 0));
+  // No branches, half of which would be foreseen wrongly.
+  const auto isAt = [&](const TEntityCoordinate& end) {
+    return static_cast<unsigned int>(aPoint.x == end.x) & static_cast<unsigned int>(aPoint.y == end.y);
+  };
+  return static_cast<std::uint8_t>(isAt(entity.StartCoords) * kStart | isAt(entity.EndCoords) * kEnd);
 }
 
 // The node that was found once stays the first: nodes made later stand behind it.

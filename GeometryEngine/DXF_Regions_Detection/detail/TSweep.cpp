@@ -66,10 +66,8 @@ void TSweep::Enter(TIndex aIndex) {
 
 void TSweep::LeaveBehind(double aLeft) {
   fLeftBehind.clear();
-  while (!fRightEnds.empty() && IsLeftBehind(fRightEnds.front().first, aLeft)) {
-    std::ranges::pop_heap(fRightEnds, std::greater<>());
-    fLeftBehind.push_back(fRightEnds.back().second);
-    fRightEnds.pop_back();
+  while (!fRightEnds.IsEmpty() && IsLeftBehind(fRightEnds.Least(), aLeft)) {
+    fLeftBehind.push_back(fRightEnds.TakeLeast());
     Deactivate(fLeftBehind.back());
   }
 }
@@ -121,10 +119,7 @@ void TSweep::RecordPair(TIndex aEntering, TIndex aActive) {
 
 void TSweep::Activate(TIndex aIndex) {
   const double right = GetRightMostCoordinate(EntityAt(aIndex)).x;
-  if (!std::isnan(right)) {  // else it is never left behind
-    fRightEnds.emplace_back(right, aIndex);
-    std::ranges::push_heap(fRightEnds, std::greater<>());
-  }
+  if (!std::isnan(right)) fRightEnds.Add(right, aIndex);  // else it is never left behind
   if (!CanMeet(aIndex)) return;
   const std::optional<THeights>& heights = HeightsAt(aIndex);
   if (!heights) return fUnbounded.push_back(aIndex);

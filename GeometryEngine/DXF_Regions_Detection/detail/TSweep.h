@@ -5,10 +5,10 @@
 #include <cstddef>
 #include <optional>
 #include <span>
-#include <utility>
 #include <vector>
 
 #include "GeometryEngine/DXF_Regions_Detection/detail/TRecordedPoints.h"
+#include "GeometryEngine/DXF_Regions_Detection/detail/TRightEnds.h"
 #include "GeometryEngine/DXF_SweepLine_Utilities/TInterceptionPoints.h"
 #include "GeometryEngine/DXF_SweepLine_Utilities/detail/TActiveHeights.h"
 #include "GeometryEngine/DXF_SweepLine_Utilities/detail/TSweepHeights.h"
@@ -29,9 +29,6 @@ class TSweep {
   void Run();
 
  private:
-  /// An entity by its right-most x.
-  using TRightEnd = std::pair<double, TIndex>;
-
   void Enter(TIndex aIndex);
   void LeaveBehind(double aLeft);
   void FindCandidates(TIndex aIndex);
@@ -54,9 +51,9 @@ class TSweep {
   TActiveHeights fActive;          ///< lines and arcs that the sweep has reached and not left behind, but the unbounded
   TActiveHeights fActiveCircles;   ///< the arcs among them, by the heights of their circles
   std::vector<TIndex> fUnbounded;  ///< those of no known heights
-  std::vector<TRightEnd> fRightEnds;  ///< of all that is not left behind, a heap with the left-most on top
-  std::vector<TIndex> fLeftBehind;    ///< by the entity that the sweep has just reached
-  std::vector<TIndex> fCandidates;    ///< to be tested with it
+  TRightEnds fRightEnds;           ///< of all that is not left behind
+  std::vector<TIndex> fLeftBehind;  ///< by the entity that the sweep has just reached
+  std::vector<TIndex> fCandidates;  ///< to be tested with it
   TInterceptionPoints fPoints;
 };
 
