@@ -18,15 +18,16 @@ void TVertexGraphBuilder::Add(TDXFEntity&& aPiece) {
   fLastEnd = aPiece.EndCoords;
   fLastEndMatch = end;
   if (IsKnown(aPiece, start, end)) return;
-  aPiece.StartCoords = AddHalfEdge(aPiece.StartCoords, start.fFirst);
+  // Moved first and given its ends then: a record that has just been changed is copied slowly.
+  TDXFEntity& piece = fPieces.emplace_back(std::move(aPiece));
+  piece.StartCoords = AddHalfEdge(piece.StartCoords, start.fFirst);
   // A vertex just made at the start may be the same as the end, and then the only one of them.
   const bool isStartNew = start.fFirst == kNotFound;
-  const bool joinsStart = isStartNew && end.fFirst == kNotFound && aPiece.StartCoords == aPiece.EndCoords;
+  const bool joinsStart = isStartNew && end.fFirst == kNotFound && piece.StartCoords == piece.EndCoords;
   const TIndex endVertex = joinsStart ? fPoints.Count() - 1 : end.fFirst;
   fLastEndMatch = {endVertex == kNotFound ? fPoints.Count() : endVertex, end.fIsOnly};
   if (isStartNew || fLastEnd != fLastEnd) fLastEndMatch.reset();  // or the same as nothing, not even itself
-  aPiece.EndCoords = AddHalfEdge(aPiece.EndCoords, endVertex);
-  fPieces.push_back(std::move(aPiece));
+  piece.EndCoords = AddHalfEdge(piece.EndCoords, endVertex);
 }
 
 TPointMatch TVertexGraphBuilder::FindStart(const TEntityCoordinate& aStart) const {
