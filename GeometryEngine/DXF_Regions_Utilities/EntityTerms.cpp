@@ -69,7 +69,7 @@ TVector_Single GetEntityVector_Arc(const TEntityCoordinate& aCoordinate_A, const
   const bool entersAtStart = aArc.StartCoords == aCoordinate_A;
   if (!entersAtStart && aArc.EndCoords != aCoordinate_A) return {};
   const TTravelDirection direction = entersAtStart ? Travel_AntiClockwise : Travel_Clockwise;
-  const double startAngle = GetEntityStartAngle_Arc(aCoordinate_A, aArc);
+  const double startAngle = entersAtStart ? aArc.startAngle : aArc.endAngle;
   const auto segments = GetArcSegmentPoints_Surf(aArc, kChordTolerance);
   const auto point = [&](std::int32_t aIndex) {
     return GetArc_LineSegmentCoord(aArc, aIndex, direction, startAngle, segments.aStep);

@@ -257,10 +257,6 @@ bool TVertexGraph::AreSameEntity(const THalfEdge& aArriving, const THalfEdge& aL
   return Entity(aLeaving) == Entity(aArriving);
 }
 
-TEntityCoordinate TVertexGraph::FarEnd(const THalfEdge& aHalfEdge) const {
-  return aHalfEdge.fIsExact ? Point(aHalfEdge.fFarVertex) : FarEndFrom(From(aHalfEdge), aHalfEdge);
-}
-
 TEntityCoordinate TVertexGraph::FarEndFrom(const TEntityCoordinate& aPoint, const THalfEdge& aHalfEdge) const {
   return GetOtherEnd(aPoint, Entity(aHalfEdge), fTolerance);
 }

@@ -73,7 +73,9 @@ class TVertexGraph {
   /// The same, for who knows the ends and asks for the curve between them: one line stands for all, and is at hand.
   const TDXFEntity& Curve(const THalfEdge& aHalfEdge) const { return aHalfEdge.fIsLine ? fAnyLine : Entity(aHalfEdge); }
   const TEntityCoordinate& From(const THalfEdge& aHalfEdge) const { return Point(aHalfEdge.fVertex); }
-  TEntityCoordinate FarEnd(const THalfEdge& aHalfEdge) const;
+  TEntityCoordinate FarEnd(const THalfEdge& aHalfEdge) const {
+    return aHalfEdge.fIsExact ? Point(aHalfEdge.fFarVertex) : FarEndFrom(From(aHalfEdge), aHalfEdge);
+  }
   /// The far end of a half-edge of this vertex, were it entered at this point.
   TEntityCoordinate FarEndFrom(const TEntityCoordinate& aPoint, const THalfEdge& aHalfEdge) const;
 

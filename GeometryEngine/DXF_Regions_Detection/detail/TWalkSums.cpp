@@ -62,10 +62,16 @@ TWalkSums::TSums TWalkSums::GetSums(std::span<const TIndex> aSteps) {
   constexpr std::size_t kFewSteps = 16;  // half-edges for one step
   fStepsSummed += aSteps.size();
   if (kFewSteps * fStepsSummed > At(fGraph.HalfEdgeCount())) KeepTerms();
-  TSums sums;
-  const auto add = [&](const TSums& aTerms) { sums = {sums.fArea + aTerms.fArea, sums.fCentroid + aTerms.fCentroid}; };
+  // Two numbers by themselves are kept in registers; a record that is answered would not be.
+  double area = 0;
+  TEntityCoordinate centroid;
+  const auto add = [&](const TSums& aTerms) {
+    area += aTerms.fArea;
+    centroid = centroid + aTerms.fCentroid;
+  };
   const auto takeOut = [&](const TSums& aTerms) {
-    sums = {sums.fArea - aTerms.fArea, sums.fCentroid - aTerms.fCentroid};
+    area -= aTerms.fArea;
+    centroid = centroid - aTerms.fCentroid;
   };
   fPath.clear();
   for (std::size_t i = 0; i < aSteps.size(); ++i) {
@@ -81,7 +87,7 @@ TWalkSums::TSums TWalkSums::GetSums(std::span<const TIndex> aSteps) {
       add(fPath.back());
     }
   }
-  return sums;
+  return {area, centroid};
 }
 
 }  // namespace GeometryEngine::detail

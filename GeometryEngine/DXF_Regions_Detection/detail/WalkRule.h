@@ -35,37 +35,32 @@ bool IsSharper(const TTurn<THalfEdge>& aTurn, const TTurn<THalfEdge>& aBest, con
   return aTurn.fAngle == aBest.fAngle && IsPointLeft_Line(aTurn.fFarEnd, aVertex, aBest.fFarEnd) > 0;
 }
 
-/// Takes one step of a walk from the far end of the half-edge entered last. False when the walk is over. A walk has
+/// Walks on from the far end of the half-edge entered last until the walk is over. A walk has
 /// - `Enter(halfEdge)`: marks it as travelled, puts it on the path and its terms into the sums;
 /// - `FindSharpestTurn()`: where to go from the far end of the half-edge entered last; none at a dead end;
 /// - `IsOnPath(halfEdge)`: whether an end of its entity is on the path already;
 /// - `IsStart(turn)`, `Close(turn)`: whether it leads to where the loop closes, and the loop's last half-edge;
 /// - `StepBack()`: takes two half-edges off the path and enters the first of them again; false when there is but one;
 /// - `Backtracks()`, and `kNone`, which stands for no half-edge.
-template <class TWalk>
-bool WalkOn(TWalk& aWalk) {
-  const auto best = aWalk.FindSharpestTurn();
-  const bool deadEnd = best.fHalfEdge == TWalk::kNone;
-  if (deadEnd && !aWalk.Backtracks()) return false;
-  if (deadEnd || (aWalk.Backtracks() && aWalk.IsOnPath(best.fHalfEdge))) return aWalk.StepBack();
-  // KEPT: a loop closes where it first comes back to its start. One that passes a vertex twice is traced as a whole
-  // from every other vertex, but falls apart at that one; hosts index regions by what this rule yields.
-  if (aWalk.IsStart(best)) {
-    aWalk.Close(best);
-    return false;
-  }
-  aWalk.Enter(best.fHalfEdge);
-  return true;
-}
-
-/// Walks on from the half-edge entered last until the walk is over.
 ///
 /// Ends for every input. A step forwards marks a half-edge that was free, and no mark is taken back before the walk
 /// is over, so there are at most as many of them as half-edges. A step back shortens the path by one, so there are at
 /// most as many of those as steps forwards. Neither argument rests on a comparison of coordinates.
 template <class TWalk>
 void WalkToEnd(TWalk& aWalk) {
-  for (bool goesOn = true; goesOn;) goesOn = WalkOn(aWalk);
+  for (;;) {
+    const auto best = aWalk.FindSharpestTurn();
+    const bool deadEnd = best.fHalfEdge == TWalk::kNone;
+    if (deadEnd && !aWalk.Backtracks()) return;
+    if (deadEnd || (aWalk.Backtracks() && aWalk.IsOnPath(best.fHalfEdge))) {
+      if (!aWalk.StepBack()) return;
+      continue;
+    }
+    // KEPT: a loop closes where it first comes back to its start. One that passes a vertex twice is traced as a whole
+    // from every other vertex, but falls apart at that one; hosts index regions by what this rule yields.
+    if (aWalk.IsStart(best)) return aWalk.Close(best);
+    aWalk.Enter(best.fHalfEdge);
+  }
 }
 
 }  // namespace GeometryEngine::detail
