@@ -9,7 +9,6 @@
 #include "GeometryEngine/DXF_Regions_Detection/detail/TBoxIndex.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/THeightIndex.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TRegionOutline.h"
-#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TRegionEntities.h"
 
 namespace GeometryEngine::detail {
 
@@ -34,23 +33,13 @@ class TNesting {
   // REQUIRES: candidates in ascending order, each once.
   void KeepNested(TIndex aContainer, TIntegerArray& aCandidates) const {
     if (aCandidates.empty()) return;
-    for (const TIndex region : aCandidates) {
-      EntitiesOf(region).FetchAhead();
-    }
     TRegionOutline outline(fCoordinateTree, *fRegions[static_cast<std::size_t>(aContainer)]);
     std::erase_if(aCandidates, [&](TIndex region) { return region == aContainer || !LiesInside(region, outline); });
   }
 
-  TRegionEntities EntitiesOf(TIndex aRegion) const {
-    return {fCoordinateTree, *fRegions[static_cast<std::size_t>(aRegion)]};
-  }
-
   bool LiesInside(TIndex aRegion, TRegionOutline& aOutline) const {
-    const TRegionEntities entities = EntitiesOf(aRegion);
-    for (std::size_t i = 0; i < entities.size(); ++i) {
-      if (aOutline.GetWindingNumber(entities[i].StartCoords) < 1) return false;
-    }
-    return true;
+    return std::ranges::all_of(fReaches.PointsOf(aRegion),
+                               [&](const TEntityCoordinate& point) { return aOutline.GetWindingNumber(point) >= 1; });
   }
 
   std::vector<TIntegerArray> FindCandidates() {

@@ -43,11 +43,10 @@ void Include(TStartPoints& aPoints, const TEntityCoordinate& aPoint) {
   aPoints.fBox.Include(aPoint.x, aPoint.y);
 }
 
-TStartPoints GetStartPoints(const TEntityTree& aCoordinateTree, const TTreeNode& aRegion) {
-  const TRegionEntities entities(aCoordinateTree, aRegion);
+TStartPoints GetStartPoints(std::span<const TEntityCoordinate> aPoints) {
   TStartPoints points;
-  points.fLieNowhere = entities.empty();
-  for (std::size_t i = 0; i < entities.size(); ++i) Include(points, entities[i].StartCoords);
+  points.fLieNowhere = aPoints.empty();
+  for (const TEntityCoordinate& point : aPoints) Include(points, point);
   return points;
 }
 
@@ -75,13 +74,10 @@ class TReachOfRegion {
         fHeightsBefore_Left(aReaches.fOpenToTheLeft.size()),
         fHeightsBefore_Right(aReaches.fOpenToTheRight.size()) {}
 
-  TBox Get(const TEntityTree& aCoordinateTree, const TTreeNode& aRegion, TStartPoints& aStartPoints) {
-    const TRegionEntities entities(aCoordinateTree, aRegion);
-    TEntityCoordinate from = aRegion.Coordinates();
-    aStartPoints.fLieNowhere = entities.empty();
-    for (std::size_t i = 0; i < entities.size(); ++i) {
-      const TDXFEntity& entity = entities[i];
-      Include(aStartPoints, entity.StartCoords);
+  TBox Get(const TRegionEntities& aEntities, const TEntityCoordinate& aStart) {
+    TEntityCoordinate from = aStart;
+    for (std::size_t i = 0; i < aEntities.size(); ++i) {
+      const TDXFEntity& entity = aEntities[i];
       const TEntityCoordinate farEnd = GetOtherEnd(from, entity, fTolerance);
       if (entity.EntityType == DXFLine) AddLine(from, farEnd);
       if (entity.EntityType == DXFArc) AddArc(entity, from);
@@ -217,17 +213,19 @@ TRegionReaches GetRegionReaches(const TEntityTree& aRegionTree, const TEntityTre
   const double tolerance = ReadLinearTolerance();
   TRegionReaches reaches;
   reaches.fBoxes.assign(regions.size(), {-kInfinite, kInfinite, -kInfinite, kInfinite});
-  reaches.fStartPoints.resize(regions.size());
   const bool isTame = tolerance > 0 && tolerance < kLargest;
   for (std::size_t i = 0; i < regions.size(); ++i) {
     if (i + kRegionsAhead < regions.size()) TRegionEntities(aCoordinateTree, *regions[i + kRegionsAhead]).FetchAhead();
-    TStartPoints& points = reaches.fStartPoints[i];
+    const TRegionEntities entities(aCoordinateTree, *regions[i]);
+    const std::size_t firstPoint = reaches.fPoints.size();
+    reaches.fFirstPoints.push_back(firstPoint);
+    for (std::size_t k = 0; k < entities.size(); ++k) reaches.fPoints.push_back(entities[k].StartCoords);
+    reaches.fStartPoints.push_back(GetStartPoints(std::span(reaches.fPoints).subspan(firstPoint)));
     if (isTame) {
-      reaches.fBoxes[i] = TReachOfRegion(ToIndex(i), tolerance, reaches).Get(aCoordinateTree, *regions[i], points);
-    } else {
-      points = GetStartPoints(aCoordinateTree, *regions[i]);
+      reaches.fBoxes[i] = TReachOfRegion(ToIndex(i), tolerance, reaches).Get(entities, regions[i]->Coordinates());
     }
   }
+  reaches.fFirstPoints.push_back(reaches.fPoints.size());
   return reaches;
 }
 

@@ -3,6 +3,8 @@
 // Where points may lie that a region goes round at all, by the rules of WindingContributions.h. Private.
 // docs/numerics.md has the proof.
 
+#include <cstddef>
+#include <span>
 #include <vector>
 
 #include "GeometryEngine/DXF_Regions_Detection/detail/TBoxIndex.h"
@@ -34,6 +36,13 @@ struct TRegionReaches {
   std::vector<TOpenHeights> fOpenToTheLeft;
   std::vector<TOpenHeights> fOpenToTheRight;
   std::vector<TStartPoints> fStartPoints;  ///< of the regions
+  TCoordinateArray fPoints;                ///< the start points themselves, region after region,
+  std::vector<std::size_t> fFirstPoints;   ///< by region where its own begin, and at last where they all end
+
+  std::span<const TEntityCoordinate> PointsOf(TIndex aRegion) const {
+    const auto region = static_cast<std::size_t>(aRegion);
+    return std::span(fPoints).subspan(fFirstPoints[region], fFirstPoints[region + 1] - fFirstPoints[region]);
+  }
 };
 
 /// The reaches of all regions of the tree; the storage of `aCoordinateTree` holds their entities.
