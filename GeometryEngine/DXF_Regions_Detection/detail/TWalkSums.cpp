@@ -78,8 +78,9 @@ TWalkSums::TSums TWalkSums::GetSums(std::span<const TIndex> aSteps) {
     const TIndex step = aSteps[i];
     if (i + kAhead < aSteps.size()) FetchTerms(aSteps[i + kAhead]);
     if (step != kStepBack) {
-      fPath.push_back(GetTerms(step));
-      add(fPath.back());
+      const TSums terms = GetTerms(step);
+      fPath.push_back(terms);
+      add(terms);
     } else {
       takeOut(fPath.back());
       fPath.pop_back();
