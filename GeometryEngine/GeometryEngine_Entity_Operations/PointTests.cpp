@@ -7,6 +7,7 @@
 #include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
 #include "GeometryEngine/DXF_Entity_Types/detail/PointSameness.h"
 #include "GeometryEngine/GeometryEngine_Entity_Operations/detail/SegmentDistance.h"
+#include "GeometryEngine/GeometryEngine_Entity_Operations/detail/SideOfLine.h"
 #include "GeometryEngine/GeometryFuncts/detail/CirclePoint.h"
 #include "GeometryEngine/GeometryFuncts/detail/CoordinateDistance.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ArcAngles.h"
@@ -15,8 +16,6 @@
 namespace GeometryEngine {
 
 namespace {
-
-constexpr double kSideDeadBand = 1e-5;  // drawing length units squared, exclusive
 
 /// Inclusive, the two bounds in either order.
 bool IsBetween(double aValue, double aBound_A, double aBound_B) {
@@ -32,9 +31,7 @@ bool IsBeyond(double aValue, double aBound_A, double aBound_B, double aTolerance
 
 double IsPointLeft_Line(const TEntityCoordinate& aPoint, const TEntityCoordinate& aLineStart,
                         const TEntityCoordinate& aLineEnd) {
-  const double c =
-      (aLineEnd.x - aLineStart.x) * (aPoint.y - aLineStart.y) - (aPoint.x - aLineStart.x) * (aLineEnd.y - aLineStart.y);
-  return -kSideDeadBand < c && c < kSideDeadBand ? 0 : c;
+  return detail::GetSideOfLine(aPoint, aLineStart, aLineEnd);
 }
 
 bool IsPointInside_Arc(const TEntityCoordinate& aPoint, const TDXFEntity& aEntity) {

@@ -7,7 +7,7 @@
 #include <span>
 
 #include "GeometryEngine/DXF_Entity_Types/detail/Sameness.h"
-#include "GeometryEngine/GeometryEngine_Entity_Operations/PointTests.h"
+#include "GeometryEngine/GeometryEngine_Entity_Operations/detail/SideOfLine.h"
 
 namespace GeometryEngine::detail {
 
@@ -36,8 +36,8 @@ struct TLevel {
 inline std::int32_t GetSegmentWinding(const TEntityCoordinate& aStart, const TLevel& aStartLevel,
                                       const TEntityCoordinate& aEnd, const TLevel& aEndLevel,
                                       const TEntityCoordinate& aPoint) {
-  if (aStartLevel.fIsBelow && aEndLevel.fIsAbove) return IsPointLeft_Line(aPoint, aStart, aEnd) > 0 ? 1 : 0;
-  if (aStartLevel.fIsAbove && aEndLevel.fIsBelow) return IsPointLeft_Line(aPoint, aStart, aEnd) <= 0 ? -1 : 0;
+  if (aStartLevel.fIsBelow && aEndLevel.fIsAbove) return GetSideOfLine(aPoint, aStart, aEnd) > 0 ? 1 : 0;
+  if (aStartLevel.fIsAbove && aEndLevel.fIsBelow) return GetSideOfLine(aPoint, aStart, aEnd) <= 0 ? -1 : 0;
   return 0;
 }
 
