@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "GeometryEngine/DXF_Entity_Types/detail/PointSameness.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ChordCount.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ChordPoint.h"
 #include "GeometryEngine/host/Numerics.h"
@@ -9,8 +10,9 @@
 namespace GeometryEngine {
 
 double GetEntityStartAngle_Arc(const TEntityCoordinate& aCoordinate, const TDXFEntity& aEntity) {
-  if (aCoordinate == aEntity.StartCoords) return aEntity.startAngle;
-  if (aCoordinate == aEntity.EndCoords) return aEntity.endAngle;
+  const double tolerance = detail::ReadLinearTolerance();
+  if (detail::AreSame(aCoordinate, aEntity.StartCoords, tolerance)) return aEntity.startAngle;
+  if (detail::AreSame(aCoordinate, aEntity.EndCoords, tolerance)) return aEntity.endAngle;
   return 0;
 }
 

@@ -56,11 +56,16 @@ struct TEdgeEnd {
   double fSlack = 0;
 };
 
-// Whether the arc runs through the direction, or passes it by no more than the slack. UNITS: degrees.
-bool RunsThrough(const TDXFEntity& aArc, double aDirection, double aSlack) {
-  const double start = GetArcAngles(aArc).start;
-  const double turn = aDirection - start;
-  const double sweep = aArc.ArcSweep() + aSlack;
+// An arc's directions. UNITS: degrees.
+struct TDirections {
+  double fStart = 0;
+  double fSweep = 0;
+};
+
+// Whether an arc runs through the direction, or passes it by no more than the slack.
+bool RunsThrough(const TDirections& aArc, double aDirection, double aSlack) {
+  const double turn = aDirection - aArc.fStart;
+  const double sweep = aArc.fSweep + aSlack;
   return (turn >= -aSlack && turn <= sweep) || turn + 360 <= sweep;
 }
 
@@ -138,10 +143,11 @@ class TReachOfRegion {
     TBox box;
     box.Include(aStart.x, aStart.y);
     box.Include(aEnd.x, aEnd.y);
-    if (RunsThrough(aArc, 0, kAngleSlack)) box.Include(x + radius, y);
-    if (RunsThrough(aArc, 180, kAngleSlack)) box.Include(x - radius, y);
-    if (RunsThrough(aArc, 90, kFlatAngle)) AddCrown(y + radius, radius, -1, box);
-    if (RunsThrough(aArc, 270, kFlatAngle)) AddCrown(y - radius, radius, 1, box);
+    const TDirections directions{GetArcAngles(aArc).start, aArc.ArcSweep()};
+    if (RunsThrough(directions, 0, kAngleSlack)) box.Include(x + radius, y);
+    if (RunsThrough(directions, 180, kAngleSlack)) box.Include(x - radius, y);
+    if (RunsThrough(directions, 90, kFlatAngle)) AddCrown(y + radius, radius, -1, box);
+    if (RunsThrough(directions, 270, kFlatAngle)) AddCrown(y - radius, radius, 1, box);
     fBox.Include(box.fLeft - margin, box.fBottom - margin);
     fBox.Include(box.fRight + margin, box.fTop + margin);
   }
