@@ -103,6 +103,17 @@ TEST(TPointIndex, FindsEveryFinitePointUnderAnInfiniteTolerance) {
   EXPECT_EQ(index.FindFirst({kInfinity, 0}), kNotFound);
 }
 
+TEST(TPointIndex, SearchesFewCellsUnderTheLeastTolerances) {
+  support::TSettingsGuard settings;
+  for (const double tolerance : {1e-307, 1e-310, std::numeric_limits<double>::denorm_min()}) {
+    settings.With(ifLinearTolerance, tolerance);
+    TPointIndex index;
+    for (const TEntityCoordinate& point : TCoordinateArray{{0, 0}, {1e-300, 0}, {1, -1}, {1e300, 3}}) index.Add(point);
+    for (TIndex i = 0; i < index.Count(); ++i) EXPECT_EQ(index.FindFirst(index.Point(i)), i) << tolerance;
+    EXPECT_EQ(index.FindFirst({1, 1}), kNotFound);
+  }
+}
+
 TEST(TPointIndex, CountsPointsThatAreNotFiniteWithoutFindingThem) {
   support::TSettingsGuard settings;
   TPointIndex index;

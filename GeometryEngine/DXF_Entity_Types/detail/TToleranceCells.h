@@ -25,7 +25,9 @@ struct TCellRange {
 /// not finite is the same as none. Under an infinite tolerance all finite values are the same, and there is one cell.
 class TToleranceCells {
  public:
-  explicit TToleranceCells(double aTolerance) : fTolerance(aTolerance), fScale(1 / (kTolerancesPerCell * aTolerance)) {}
+  explicit TToleranceCells(double aTolerance)
+      : fTolerance(aTolerance),
+        fScale(std::min(1 / (kTolerancesPerCell * aTolerance), std::numeric_limits<double>::max())) {}
 
   /// True when the same values are the same under this tolerance.
   bool ServesTolerance(double aTolerance) const {
