@@ -7,18 +7,8 @@
 
 namespace GeometryEngine::detail {
 
-namespace {
-
-constexpr std::size_t kAhead = 16;  // steps between asking for terms and summing them up
-
-}  // namespace
-
 void TWalkSums::KeepTerms() {
   if (fTerms.empty()) fTerms.resize(At(fGraph.HalfEdgeCount()), kUnknown);
-}
-
-void TWalkSums::FetchTerms(TIndex aStep) const {
-  if (!fTerms.empty() && aStep != kStepBack) __builtin_prefetch(&fTerms[At(aStep)]);
 }
 
 double TWalkSums::ComputeArea(TIndex aHalfEdge) const {
@@ -74,9 +64,7 @@ TWalkSums::TSums TWalkSums::GetSums(std::span<const TIndex> aSteps) {
     centroid = centroid - aTerms.fCentroid;
   };
   fPath.clear();
-  for (std::size_t i = 0; i < aSteps.size(); ++i) {
-    const TIndex step = aSteps[i];
-    if (i + kAhead < aSteps.size()) FetchTerms(aSteps[i + kAhead]);
+  for (const TIndex step : aSteps) {
     if (step != kStepBack) {
       const TSums terms = GetTerms(step);
       fPath.push_back(terms);

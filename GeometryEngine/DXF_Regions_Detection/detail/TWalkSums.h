@@ -47,7 +47,6 @@ class TWalkSums {
   double ComputeArea(TIndex aHalfEdge) const;
   TEntityCoordinate ComputeCentroid(TIndex aHalfEdge) const;
   TSums GetTerms(TIndex aHalfEdge);
-  void FetchTerms(TIndex aStep) const;
 
   const TVertexGraph& fGraph;
   std::size_t fStepsSummed = 0;  // to and fro
