@@ -9,6 +9,7 @@
 #include "GeometryEngine/DXF_EntityStorage/TEntityStorage.h"
 #include "GeometryEngine/DXF_EntityStorage/detail/LomutoSort.h"
 #include "GeometryEngine/DXF_SweepLine_Utilities/ExtremeCoordinates.h"
+#include "GeometryEngine/host/detail/FetchAhead.h"
 
 namespace GeometryEngine {
 
@@ -21,16 +22,12 @@ std::vector<detail::TSortItem> GetKeys(std::span<const TDXFEntity> aEntities) {
   return keys;
 }
 
-/// Has memory fetch an entity. Inline by force: a function that only fetches ahead looks as if it could be left out.
-#ifdef __GNUC__
+/// Has memory fetch an entity.
 [[gnu::always_inline]] inline void FetchAhead(const TDXFEntity& aEntity) {
-  __builtin_prefetch(&aEntity.EntityType, 1);
-  __builtin_prefetch(&aEntity.endAngle, 1);
-  __builtin_prefetch(&aEntity.SourceDXF, 1);
+  detail::FetchAhead(&aEntity.EntityType);
+  detail::FetchAhead(&aEntity.endAngle);
+  detail::FetchAhead(&aEntity.SourceDXF);
 }
-#else
-void FetchAhead(const TDXFEntity&) {}
-#endif
 
 /// The places from which the entities are to come. Short numbers, since each step along a ring waits for the last one.
 std::vector<TIndex> GetPlaces(std::span<const detail::TSortItem> aOrder) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "GeometryEngine/host/TIndex.h"
+#include "GeometryEngine/host/detail/FetchAhead.h"
 
 namespace GeometryEngine::detail {
 
@@ -45,16 +46,12 @@ class TCellChains {
   bool HasHash(TIndex aItem, std::uint64_t aHash) const {
     return fItems[static_cast<std::size_t>(aItem)].fHash == aHash;
   }
-#ifdef __GNUC__
-  // Inline by force: a function that only fetches ahead looks to g++ as if it could be left out.
+  /// Has memory fetch what a search under this hash will look at first.
   [[gnu::always_inline]] void FetchAhead(std::uint64_t aHash) const {
-    if (!fEnds.empty()) __builtin_prefetch(&fEnds[SlotOf(aHash)]);
+    if (!fEnds.empty()) detail::FetchAhead(&fEnds[SlotOf(aHash)]);
   }
-#endif
   /// The item after this one in its chain; kNotFound after the last.
-  TIndex Next(TIndex aItem) const {
-    return fItems[static_cast<std::size_t>(aItem)].fNext;
-  }
+  TIndex Next(TIndex aItem) const { return fItems[static_cast<std::size_t>(aItem)].fNext; }
 
  private:
   struct TItem {
@@ -66,9 +63,7 @@ class TCellChains {
     TIndex fLast = kNotFound;
   };
 
-  std::size_t SlotOf(std::uint64_t aHash) const {
-    return aHash & (fEnds.size() - 1);
-  }
+  std::size_t SlotOf(std::uint64_t aHash) const { return aHash & (fEnds.size() - 1); }
 
   void Append(TIndex aItem) {
     TChainEnds& ends = fEnds[SlotOf(fItems[static_cast<std::size_t>(aItem)].fHash)];

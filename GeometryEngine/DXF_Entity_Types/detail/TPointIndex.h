@@ -82,12 +82,10 @@ class TPointIndex {
     return equal == kNotFound ? match : TPointMatch{equal, true};
   }
 
-#ifdef __GNUC__
   /// Has memory fetch what a search for this point will look at first.
   [[gnu::always_inline]] void FetchAhead(const TEntityCoordinate& aPoint) const {
     if (CanMatch(aPoint)) fChains.FetchAhead(GetHash(aPoint));
   }
-#endif
 
   /// The first among the points that are the same as `aPoint` whose index `aAccepts`.
   template <class TAccepts>
@@ -105,9 +103,7 @@ class TPointIndex {
   }
 
  private:
-  static std::uint64_t GetHash(std::int64_t aColumn, std::int64_t aRow) {
-    return MixCell(MixCell(0, aColumn), aRow);
-  }
+  static std::uint64_t GetHash(std::int64_t aColumn, std::int64_t aRow) { return MixCell(MixCell(0, aColumn), aRow); }
 
   std::uint64_t GetHash(const TEntityCoordinate& aPoint) const {
     return GetHash(fCells.GetCell(aPoint.x), fCells.GetCell(aPoint.y));

@@ -23,11 +23,7 @@ class TVertexGraphBuilder {
 
   void Add(TDXFEntity&& aPiece);
   /// Has memory fetch what the search for a piece's end will look at first.
-#ifdef __GNUC__
   [[gnu::always_inline]] void FetchAhead(const TEntityCoordinate& aEnd) const { fPoints.FetchAhead(aEnd); }
-#else
-  void FetchAhead(const TEntityCoordinate&) const {}
-#endif
   /// After the last piece; the object is used up.
   std::unique_ptr<TPendingGraph> TakeGraph();
 

@@ -1,6 +1,7 @@
 #include "GeometryEngine/DXF_Regions_TreeClasses/detail/TRegionEntities.h"
 
 #include "GeometryEngine/DXF_Regions_TreeClasses/detail/TPendingLeaves.h"
+#include "GeometryEngine/host/detail/FetchAhead.h"
 
 namespace GeometryEngine::detail {
 
@@ -19,13 +20,11 @@ const TDXFEntity& TRegionEntities::Empty() {
 }
 
 void TRegionEntities::FetchAhead() const {
-#ifdef __GNUC__
   for (std::size_t i = 0; i < size(); ++i) {
     const TDXFEntity& entity = (*this)[i];
-    __builtin_prefetch(&entity.EntityType);
-    __builtin_prefetch(&entity.endAngle);
+    detail::FetchAhead(&entity.EntityType);
+    detail::FetchAhead(&entity.endAngle);
   }
-#endif
 }
 
 }  // namespace GeometryEngine::detail
