@@ -49,7 +49,7 @@ TEntityCoordinate GetCentroidComponent_Arc(const TEntityCoordinate& aFrom, const
   const double startAngle = GetEntityStartAngle_Arc(aFrom, aArc);
   const TTravelDirection direction = GetArcTravelDirection(startAngle, aArc);
   TEntityCoordinate sum;
-  detail::ForEachChord(aArc, detail::GetWalkedAngles(direction, startAngle, step), count,
+  detail::ForEachChord(aArc, detail::GetWalkedAngles(direction, startAngle, step), 0, std::int64_t{count} - 1,
                        [&](const TEntityCoordinate& aChordFrom, const TEntityCoordinate& aChordTo) {
                          const TEntityCoordinate term = GetCentroidTerm(aChordFrom, aChordTo);
                          sum.x += term.x;

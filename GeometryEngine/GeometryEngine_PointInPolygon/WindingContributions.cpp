@@ -5,7 +5,6 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
-#include <optional>
 #include <span>
 
 #include "GeometryEngine/GeometryEngine_PointInPolygon/detail/SegmentWinding.h"
@@ -52,15 +51,11 @@ class TArcWalk {
   bool IsTurnedTooFar() const { return !(std::abs(fStartAngle) <= kLargestAngle); }
 
   std::int32_t SumUp(const TChordRange& aRange) const {
-    if (aRange.fLast < aRange.fFirst) return 0;
     std::int32_t sum = 0;
-    std::optional<TEntityCoordinate> from;
-    const detail::TAngleSteps walk = detail::GetWalkedAngles(fDirection, fStartAngle, fSegments.aStep);
-    detail::ForEachChordPoint(fArc, walk, aRange.fFirst, std::int64_t{aRange.fLast} + 1,
-                              [&](const TEntityCoordinate& to) {
-                                if (from) sum += detail::GetSegmentWinding(*from, to, fPoint, fTolerance);
-                                from = to;
-                              });
+    detail::ForEachChord(fArc, detail::GetWalkedAngles(fDirection, fStartAngle, fSegments.aStep), aRange.fFirst,
+                         aRange.fLast, [&](const TEntityCoordinate& aFrom, const TEntityCoordinate& aTo) {
+                           sum += detail::GetSegmentWinding(aFrom, aTo, fPoint, fTolerance);
+                         });
     return sum;
   }
 

@@ -30,12 +30,14 @@ void ForEachChordPoint(const TDXFEntity& aArc, const TAngleSteps& aWalk, std::in
   });
 }
 
-/// Calls `aVisit` with the ends of each of so many chords in turn, from point 0 on.
+/// Calls `aVisit` with the ends of chords `aFirst` to `aLast` in turn; chord i runs from point i to point i + 1.
 template <class TVisit>
-void ForEachChord(const TDXFEntity& aArc, const TAngleSteps& aWalk, std::int64_t aCount, const TVisit& aVisit) {
+void ForEachChord(const TDXFEntity& aArc, const TAngleSteps& aWalk, std::int64_t aFirst, std::int64_t aLast,
+                  const TVisit& aVisit) {
+  if (aFirst > aLast) return;
   bool isStart = true;
   TEntityCoordinate from;
-  ForEachChordPoint(aArc, aWalk, 0, aCount, [&](const TEntityCoordinate& aTo) {
+  ForEachChordPoint(aArc, aWalk, aFirst, aLast + 1, [&](const TEntityCoordinate& aTo) {
     if (!isStart) aVisit(from, aTo);
     isStart = false;
     from = aTo;
