@@ -37,6 +37,8 @@ function(geometryengine_add_library target host_root)
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
   target_compile_definitions(${target} PRIVATE GeometryEngine_EXPORTS)
+  # Up to half the time of building would go into reading these, once a file.
+  target_precompile_headers(${target} PRIVATE <algorithm> <cmath> <cstdint> <memory> <span> <string> <vector>)
   # Calls inside the library are its own: nobody replaces a function of it, so they need no detour by the linker's tables.
   target_compile_options(${target} PRIVATE -fno-semantic-interposition)
   target_link_options(${target} PRIVATE LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map
