@@ -3,7 +3,6 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 #include "GeometryEngine/host/Numerics.h"
@@ -151,7 +150,10 @@ void DxfFeed::NameSection(std::string_view aName) {
 }
 
 void DxfFeed::Write(int aCode, std::string_view aValue) {
-  fmt::format_to(std::back_inserter(fBuffer), "{}\n{}\n", aCode, aValue.substr(0, kLongestValue));
+  fBuffer += std::to_string(aCode);
+  fBuffer += '\n';
+  fBuffer += aValue.substr(0, kLongestValue);
+  fBuffer += '\n';
 }
 
 void DxfFeed::WriteValue(const DxfPair& aPair) {

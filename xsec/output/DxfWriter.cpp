@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
 #include <limits>
 #include <set>
 #include <utility>
@@ -107,7 +106,7 @@ class DxfTextWriter {
   }
 
  private:
-  void Add(int code, std::string_view value) { fmt::format_to(std::back_inserter(fText), "{:3}\n{}\n", code, value); }
+  void Add(int code, std::string_view value) { fText += fmt::format("{:3}\n{}\n", code, value); }
   void Add(int code, int value) { Add(code, fmt::format("{}", value)); }
   void Add(int code, double value) { Add(code, fmt::format("{}", value)); }
   void AddHandle(int code, int handle) { Add(code, fmt::format("{:X}", handle)); }

@@ -3,18 +3,18 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <iterator>
 #include <string>
 #include <utility>
 
 namespace xsec {
 
-/// A text that grows by what is added, for writers of files to derive from.
+/// A text that grows by what is added, for writers of files to derive from. (What formats into a string at once,
+/// without one in between, would take each writer seconds to compile.)
 class FormattedText {
  protected:
   template <typename... Values>
   void Add(fmt::format_string<Values...> aFormat, Values&&... aValues) {
-    fmt::format_to(std::back_inserter(fText), aFormat, std::forward<Values>(aValues)...);
+    fText += fmt::format(aFormat, std::forward<Values>(aValues)...);
   }
 
   std::string fText;

@@ -125,7 +125,7 @@ std::string TableText(const Report& aReport) {
 
   std::array<std::size_t, kColumns.size()> widths{};
   for (const Row& row : rows) {
-    for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], fmt::formatted_size("{:<1}", row[i]));
+    for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], fmt::format("{:<1}", row[i]).size());
   }
   std::string text;
   for (const Row& row : rows) text += Line(row, widths);
