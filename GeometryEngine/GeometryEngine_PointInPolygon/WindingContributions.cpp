@@ -7,6 +7,7 @@
 #include <limits>
 #include <span>
 
+#include "GeometryEngine/DXF_Entity_Types/detail/Sameness.h"
 #include "GeometryEngine/GeometryEngine_PointInPolygon/detail/SegmentWinding.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/ArcWalking.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ChordPoint.h"
@@ -127,10 +128,9 @@ class TArcWalk {
 
 // Every point of the walk lies between the lowest and the highest of the circle, rounded likewise.
 bool PassesHeight(const TDXFEntity& aArc, double aHeight) {
-  const double tolerance = detail::ReadLinearTolerance();
+  const detail::TLevels levels(detail::ReadLinearTolerance());
   const double reach = std::abs(aArc.radius);
-  return detail::IsClearlyAbove(aArc.CentreCoords.y + reach, aHeight, tolerance) &&
-         detail::IsBelowOrLevel(aArc.CentreCoords.y - reach, aHeight, tolerance);
+  return levels.IsAbove(aArc.CentreCoords.y + reach - aHeight) && levels.IsBelow(aArc.CentreCoords.y - reach - aHeight);
 }
 
 }  // namespace

@@ -18,6 +18,7 @@ namespace {
 constexpr double kChordTolerance = 0.01;            // drawing length units from chord to arc
 constexpr std::int32_t kMostChordsListed = 10'000;  // of one arc
 constexpr std::size_t kBlockChords = 8;             // looked at together
+static_assert(kBlockChords < kMostVerticesAtOnce);
 
 /// The heights of the chords between these ends, some in a row at once, and as far beyond as a chord still counts.
 std::vector<THeightRange> GetHeightsOfBlocks(const TCoordinateArray& aEnds, double aMargin) {
