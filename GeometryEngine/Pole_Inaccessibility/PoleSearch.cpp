@@ -90,6 +90,21 @@ class TPendingCells {
     return fCells[first];
   }
 
+  /// The cell that comes first among those with the greatest distance; `aBest` unless that is greater than its own.
+  TCell FindDeepest(const TCell& aBest) const {
+    const TWaiting* deepest = nullptr;
+    double distance = aBest.fDistance;
+    for (const TWaiting& waiting : fWaiting) {
+      const double other = fCells[waiting.fNumber].fDistance;
+      const bool isDeeper =
+          other > distance || (deepest != nullptr && other == distance && TComesLater()(*deepest, waiting));
+      if (!isDeeper) continue;
+      deepest = &waiting;
+      distance = other;
+    }
+    return deepest == nullptr ? aBest : fCells[deepest->fNumber];
+  }
+
  private:
   struct TWaiting {
     double fBound;
@@ -193,9 +208,14 @@ TEntityCoordinate FindPoleInaccessibility(const TPoleRegion& aRegion, double aPr
     if (splits > kLargestSplitCount) return aRegion.fCentroid;
     const TCell cell = pending.TakeFirst();
     if (cell.fDistance > best.fDistance) best = cell;
-    if (!IsWorthSplitting(cell, best, aPrecision, aMinimumDistance)) continue;
-    AddQuarters(pending, cell, region);
-    ++splits;
+    if (IsWorthSplitting(cell, best, aPrecision, aMinimumDistance)) {
+      AddQuarters(pending, cell, region);
+      ++splits;
+    } else if (aPrecision >= 0) {
+      // Bounds fall from here on: no later cell is worth it either, whichever of them is the best by then.
+      best = pending.FindDeepest(best);
+      break;
+    }
   }
   return {best.fCenter_X, best.fCenter_Y};
 }

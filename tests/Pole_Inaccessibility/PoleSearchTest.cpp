@@ -9,6 +9,7 @@
 
 #include <gmock/gmock.h>
 
+#include "tests/reference/plain/TTreeNode_Geometry.h"
 #include "tests/support/Chains.h"
 #include "tests/support/Geometry.h"
 #include "tests/support/Regions.h"
@@ -48,6 +49,13 @@ class PoleSearchTest : public ::testing::Test {
   }
   TEntityCoordinate Find(double aPrecision = kPrecision, double aMinimumDistance = kMinimumDistance) const {
     return FindPoleInaccessibility(fRegion, aPrecision, aMinimumDistance);
+  }
+  TEntityCoordinate FindPlainly(double aPrecision, double aMinimumDistance) const {
+    Plain::TTreeNode_Geometry region(nullptr);
+    region.fEntities.AddEntities(fRegion.fOutline->EntityArray());
+    region.fEntities.StartCoordinate(fRegion.fOutline->StartCoordinate());
+    region.fCentroid = fRegion.fCentroid;
+    return Plain::FindPoleInaccessibility(region, true, aPrecision, aMinimumDistance);
   }
   double DistanceAt(double x, double y) const { return GetSignedDistance(fRegion, {x, y}); }
 
@@ -281,6 +289,37 @@ TEST_F(FindPole, StepsThatGetLostInLargeCoordinatesEndTheSearch) {
   for (const double minimumDistance : {kMinimumDistance, 0.0, -1.0}) {
     EXPECT_THAT(Find(kPrecision, minimumDistance), IsBits(kCentroid)) << minimumDistance;
   }
+}
+
+struct TPoleCase {
+  const char* fOutline;
+  double fMinimumDistance;
+};
+
+// Among the outlines are some in which a smaller cell that waits lies deeper than the first one that is found inside.
+TEST_F(FindPole, IsThePlainSearchsPoleWhateverThePrecision) {
+  constexpr TPoleCase kCases[] = {{"0,0 10,0 10,2 2,2 2,8 10,8 10,10 0,10", 0.7},
+                                  {"32,0 244,128 212,181 0,53", 6},
+                                  {"0,0 40,0 40,3 34,3 34,9 28,9 28,3 9,3 9,14 3,14 3,3 0,3", 1.4},
+                                  {"20,1 -4,-7 -2,-7 3,-7 10,-6 19,-2", 0.75},
+                                  {"26,11 22,14 12,18 -18,16 -26,-11 30,-5", 3.25},
+                                  {"30,1 22,37 -11,-51 -4,-54 2,-55", 6.5},
+                                  {"2,-27 53,7 56,29 -56,29 -53,7 -2,-27", 1},
+                                  {"24,34 -34,-27 -17,-37 37,-24", 5.5},
+                                  {"10,-39 13,-20 24,-18 42,13 -42,13 -24,-18 -13,-20 -10,-39", 5.25}};
+  int found = 0;
+  for (const auto& [outline, minimumDistance] : kCases) {
+    Outline(support::PolygonText(outline));
+    for (const double precision : {-10.0, -1.0, -0.0, 0.0, 0.25, 1.0, kInfinity, kNotANumber}) {
+      for (const double distance : {-100.0, 0.001, minimumDistance}) {
+        const TEntityCoordinate expected = FindPlainly(precision, distance);
+        EXPECT_THAT(Find(precision, distance), IsBits(expected))
+            << outline << ", precision " << precision << ", minimum distance " << distance;
+        if (expected != kCentroid) ++found;
+      }
+    }
+  }
+  EXPECT_GT(found, 100);
 }
 
 TEST_F(FindPole, EndlessBoxesAndBoxesOfNoNumberEndTheSearch) {
