@@ -17,7 +17,6 @@ namespace {
 
 constexpr std::int32_t kAreaSegments = 5;        // segments of the polygon that stands for an arc's area
 constexpr double kDegreesPerFactor = 10;         // the resolution factor counts segments per this many degrees
-constexpr double kChordTolerance = 0.01;         // drawing length units between chord and arc
 constexpr double kFullTurn = 6.283185307179586;  // radians
 constexpr std::int32_t kModeLeaving = 1;         // vector in which the entity leaves the first coordinate
 constexpr std::int32_t kModeBack = 0;            // vector in which the entity leaves its far end
@@ -70,7 +69,7 @@ TVector_Single GetEntityVector_Arc(const TEntityCoordinate& aCoordinate_A, const
   if (!entersAtStart && aArc.EndCoords != aCoordinate_A) return {};
   const TTravelDirection direction = entersAtStart ? Travel_AntiClockwise : Travel_Clockwise;
   const double startAngle = entersAtStart ? aArc.startAngle : aArc.endAngle;
-  const auto segments = GetArcSegmentPoints_Surf(aArc, kChordTolerance);
+  const auto segments = GetArcSegmentPoints_Surf(aArc, detail::kSurfChordTolerance);
   const auto point = [&](std::int32_t aIndex) {
     return GetArc_LineSegmentCoord(aArc, aIndex, direction, startAngle, segments.aStep);
   };

@@ -10,6 +10,7 @@
 #include "GeometryEngine/DXF_Entity_Types/detail/Sameness.h"
 #include "GeometryEngine/GeometryEngine_PointInPolygon/detail/SegmentWinding.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/ArcWalking.h"
+#include "GeometryEngine/GetFunctions_GeometryOperations/detail/ChordCount.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ChordPoint.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/LimitedSegments.h"
 #include "GeometryEngine/host/Numerics.h"
@@ -18,7 +19,6 @@ namespace GeometryEngine {
 
 namespace {
 
-constexpr double kChordTolerance = 0.01;  // drawing length units between chord and arc
 constexpr std::int32_t kFewChords = 16;   // no more than this many are looked at one by one
 constexpr double kLargestAngle = 1e6;     // degrees; rounding of larger ones is not small beside a chord
 constexpr double kAngleSlack = 1e-10;     // degrees; above the rounding of an arcsine, below a chord
@@ -38,7 +38,7 @@ class TArcWalk {
         fTolerance(detail::ReadLinearTolerance()),
         fStartAngle(GetEntityStartAngle_Arc(aStart, aArc)),
         fDirection(GetArcTravelDirection(fStartAngle, aArc)),
-        fSegments(GetArcSegmentPoints_Surf(aArc, kChordTolerance)) {
+        fSegments(GetArcSegmentPoints_Surf(aArc, detail::kSurfChordTolerance)) {
     if (IsTurnedTooFar()) fSegments = detail::GetLimitedSegments(fSegments);
   }
 

@@ -3,27 +3,24 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <utility>
 
+#include "GeometryEngine/DXF_Entity_Types/detail/PointSameness.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/WalkRule.h"
 
 namespace GeometryEngine::detail {
 
 namespace {
 
-// Directions as numbers from 0 to 4 that grow with the angle from the x axis, cheaper than the angle.
-constexpr double kFullTurn = 4;
-constexpr double kHalfTurn = 2;
 constexpr double kNoDirection = -1;
-constexpr double kClearDifference = 1e-9;  // far more than rounding can do to these numbers or to the angles proper
+constexpr double kClearDifference = 1e-9;  // far more than rounding can do to directions or to the angles proper
 
-/// Two directions differ by at least half as much as their angles in radians.
-/// DEGENERATE: not a number for the vector (0, 0), and where infinite components leave the angle to a convention.
 double DirectionOf(const TVector_Single& aVector) {
-  const auto x = static_cast<double>(aVector.x);
-  const auto y = static_cast<double>(aVector.y);
-  const double slope = y / (std::abs(x) + std::abs(y));
-  if (x < 0) return kHalfTurn - slope;
-  return slope < 0 ? kFullTurn + slope : slope;
+  return GetDirection(static_cast<double>(aVector.x), static_cast<double>(aVector.y));
+}
+
+bool AreSameBits(const TEntityCoordinate& aPoint, const TEntityCoordinate& aOther) {
+  return aPoint.x == aOther.x && aPoint.y == aOther.y;
 }
 
 }  // namespace
@@ -51,7 +48,9 @@ bool TTurnOrder::IsClear(TIndex aArriving) {
     if (!fGraph.HalfEdge(h).fIsExact || fGraph.AreSameEntity(arriving, fGraph.HalfEdge(h))) return false;
   }
   // A turn that is the only one is taken whatever its angle.
-  return fGraph.Degree(vertex) < 3 || AreTurnsClear(aArriving);
+  if (fGraph.Degree(vertex) < 3) return true;
+  const bool isInClearRing = Record(twin).IsInClearRing() && fGraph.HalfEdge(twin).fTwin == aArriving;
+  return isInClearRing || AreTurnsClear(aArriving);
 }
 
 // Each turn, to the left from where the walk came from, is to be less than the one before it in the ring. None may be
@@ -77,18 +76,66 @@ double TTurnOrder::GetArrivingDirection(const THalfEdge& aArriving) const {
 }
 
 void TTurnOrder::MakeRing(TIndex aVertex) {
+  const bool isClear = fGraph.Degree(aVertex) >= 3 && FillRing_Roughly(aVertex);
+  if (!isClear) FillRing(aVertex);
+  for (std::size_t k = 0; k < fRing.size(); ++k) {
+    const TIndex halfEdge = fRing[k].fHalfEdge;
+    Record(halfEdge).ToNext(fRing[(k + 1) % fRing.size()].fHalfEdge - halfEdge);
+    if (isClear) Record(halfEdge).PutInClearRing();
+  }
+}
+
+void TTurnOrder::FillRing(TIndex aVertex) {
   const bool needsDirections = fGraph.Degree(aVertex) >= 3;
   fRing.clear();
   for (TIndex h = fGraph.FirstHalfEdge(aVertex); h < fGraph.EndOfHalfEdges(aVertex); ++h) {
     if (needsDirections) fLeaving[At(h)] = GetDirection(fGraph.HalfEdge(h), kVector_Leaving);
     const double direction = fLeaving[At(h)];
-    fRing.emplace_back(std::isnan(direction) ? kNoDirection : direction, h);
+    fRing.push_back({std::isnan(direction) ? kNoDirection : direction, 0, h});
   }
-  std::ranges::sort(fRing, std::greater{});
-  for (std::size_t k = 0; k < fRing.size(); ++k) {
-    const TIndex halfEdge = fRing[k].second;
-    Record(halfEdge).ToNext(fRing[(k + 1) % fRing.size()].second - halfEdge);
+  SortRing();
+}
+
+// False unless all directions are known so well, and are so far apart, that there is no doubt about their order. A walk
+// that arrives by a piece then comes from its direction in the ring, but for rounding.
+bool TTurnOrder::FillRing_Roughly(TIndex aVertex) {
+  fRing.clear();
+  for (TIndex h = fGraph.FirstHalfEdge(aVertex); h < fGraph.EndOfHalfEdges(aVertex); ++h) {
+    const std::optional<TRoughDirection> direction = GetRoughDirection(h);
+    if (!direction || std::isnan(direction->fDirection)) return false;
+    fRing.push_back({direction->fDirection, direction->fSlack, h});
   }
+  SortRing();
+  double next = fRing.front().fDirection - kFullTurn - fRing.front().fSlack;
+  for (std::size_t k = fRing.size(); k-- > 0;) {
+    const auto& [direction, slack, halfEdge] = fRing[k];
+    if (!(direction - slack - next > 2 * kRoughness)) return false;
+    next = direction + slack;
+  }
+  return true;
+}
+
+void TTurnOrder::SortRing() {
+  std::ranges::sort(fRing, std::greater{},
+                    [](const TRingPlace& place) { return std::pair(place.fDirection, place.fHalfEdge); });
+}
+
+// Nothing for a piece that doesn't run between the two vertices to the bit, in either direction.
+std::optional<TRoughDirection> TTurnOrder::GetRoughDirection(TIndex aHalfEdge) const {
+  const THalfEdge& leaving = fGraph.HalfEdge(aHalfEdge);
+  if (!leaving.fIsExact || leaving.fTwin == kNotFound) return std::nullopt;
+  const THalfEdge& arriving = fGraph.HalfEdge(leaving.fTwin);
+  const bool isReverse = arriving.fIsExact && arriving.fTwin == aHalfEdge && arriving.fFarVertex == leaving.fVertex &&
+                         leaving.fFarVertex == arriving.fVertex;
+  if (!isReverse) return std::nullopt;
+  if (leaving.fIsLine) return TRoughDirection{GetDirection(leaving, kVector_Leaving), 0};
+  const TDXFEntity& arc = fGraph.Entity(leaving);
+  const TEntityCoordinate& from = fGraph.From(leaving);
+  const TEntityCoordinate& to = fGraph.From(arriving);
+  const bool isFromStart = AreSameBits(from, arc.StartCoords) && AreSameBits(to, arc.EndCoords);
+  const bool isFromEnd = AreSameBits(from, arc.EndCoords) && AreSameBits(to, arc.StartCoords);
+  const bool isArc = arc.EntityType == DXFArc && isFromStart != isFromEnd && !AreSame(from, to, fGraph.Tolerance());
+  return isArc ? GetRoughDirection_Arc(arc, isFromStart) : std::nullopt;
 }
 
 double TTurnOrder::GetDirection(const THalfEdge& aHalfEdge, std::int32_t aMode) const {

@@ -4,9 +4,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <utility>
+#include <optional>
 #include <vector>
 
+#include "GeometryEngine/DXF_Regions_Detection/detail/Directions.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TVertexGraph.h"
 
 namespace GeometryEngine::detail {
@@ -34,8 +35,13 @@ class TTurnRecord {
   TIndex ToNext() const { return static_cast<std::int32_t>(fBits) >> kToNextAt; }
   void ToNext(TIndex aToNext) { fBits |= static_cast<std::uint32_t>(aToNext) << kToNextAt; }
 
+  /// True when the directions of the ring are so far apart that there is no doubt about any turn in it.
+  bool IsInClearRing() const { return (fBits & kInClearRing) != 0; }
+  void PutInClearRing() { fBits |= kInClearRing; }
+
  private:
-  static constexpr std::uint32_t kMarks = 0x3F;
+  static constexpr std::uint32_t kMarks = 0x1F;
+  static constexpr std::uint32_t kInClearRing = 0x20;
   static constexpr std::uint32_t kTurns = 0x3;
   static constexpr std::uint32_t kTurnsAt = 6;
   static constexpr std::uint32_t kToNextAt = 8;
@@ -48,7 +54,8 @@ static_assert(sizeof(TTurnRecord) == 8);
 /// to that piece in the ring, the next best one behind it, and so on, wherever directions leave no doubt about it.
 ///
 /// REQUIRES: a graph that outlives the order.
-/// COST: the directions at a vertex of three half-edges or more, when a walk first comes there; nothing at others.
+/// COST: the directions at a vertex of three half-edges or more, when a walk first comes there; nothing at others. They
+/// are found out roughly first, and only where that leaves doubt to the last bit.
 class TTurnOrder {
  public:
   explicit TTurnOrder(const TVertexGraph& aGraph);
@@ -72,13 +79,23 @@ class TTurnOrder {
   bool IsClear(TIndex aArriving);
   bool AreTurnsClear(TIndex aArriving) const;
   void MakeRing(TIndex aVertex);
+  bool FillRing_Roughly(TIndex aVertex);
+  void FillRing(TIndex aVertex);
+  void SortRing();
+  std::optional<TRoughDirection> GetRoughDirection(TIndex aHalfEdge) const;
   double GetArrivingDirection(const THalfEdge& aArriving) const;
   double GetDirection(const THalfEdge& aHalfEdge, std::int32_t aMode) const;
 
+  struct TRingPlace {
+    double fDirection;
+    double fSlack;
+    TIndex fHalfEdge;
+  };
+
   const TVertexGraph& fGraph;
-  std::vector<TTurnRecord> fRecords;             // by half-edge
-  std::vector<double> fLeaving;                  // the direction of each, where there are three or more
-  std::vector<std::pair<double, TIndex>> fRing;  // of the vertex in hand
+  std::vector<TTurnRecord> fRecords;  // by half-edge
+  std::vector<double> fLeaving;       // the direction of each in a ring of three or more that is not clear
+  std::vector<TRingPlace> fRing;      // of the vertex in hand, in descending order of directions
 };
 
 }  // namespace GeometryEngine::detail

@@ -9,13 +9,13 @@
 #include "GeometryEngine/GeometryEngine_PointInPolygon/detail/ArcHeights.h"
 #include "GeometryEngine/GeometryEngine_PointInPolygon/detail/SegmentWinding.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/ArcWalking.h"
+#include "GeometryEngine/GetFunctions_GeometryOperations/detail/ChordCount.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ChordPoint.h"
 
 namespace GeometryEngine::detail {
 
 namespace {
 
-constexpr double kChordTolerance = 0.01;            // drawing length units from chord to arc
 constexpr std::int32_t kMostChordsListed = 10'000;  // of one arc
 constexpr std::size_t kBlockChords = 8;             // looked at together
 static_assert(kBlockChords < kMostVerticesAtOnce);
@@ -66,7 +66,7 @@ std::int32_t TWalkedEntity::GetWinding(const TEntityCoordinate& aPoint, double a
 }
 
 void TWalkedEntity::ListChords(double aTolerance) {
-  const auto [count, step] = GetArcSegmentPoints_Surf(*fEntity, kChordTolerance);
+  const auto [count, step] = GetArcSegmentPoints_Surf(*fEntity, kSurfChordTolerance);
   if (count > kMostChordsListed) return;
   const double startAngle = GetEntityStartAngle_Arc(fFrom, *fEntity);
   const TTravelDirection direction = GetArcTravelDirection(startAngle, *fEntity);
