@@ -19,9 +19,9 @@ namespace GeometryEngine {
 
 namespace {
 
-constexpr std::int32_t kFewChords = 16;   // no more than this many are looked at one by one
-constexpr double kLargestAngle = 1e6;     // degrees; rounding of larger ones is not small beside a chord
-constexpr double kAngleSlack = 1e-10;     // degrees; above the rounding of an arcsine, below a chord
+constexpr std::int32_t kFewChords = 16;  // no more than this many are looked at one by one
+constexpr double kLargestAngle = 1e6;    // degrees; rounding of larger ones is not small beside a chord
+constexpr double kAngleSlack = 1e-10;    // degrees; above the rounding of an arcsine, below a chord
 
 // Chords from the first to the last, both counted in; the last one is less than the first where there are none.
 struct TChordRange {
