@@ -106,7 +106,7 @@ bool TTurnOrder::FillRing_Roughly(TIndex aVertex) {
     fRing.push_back({direction->fDirection, direction->fSlack, h});
   }
   SortRing();
-  double next = fRing.front().fDirection - kFullTurn - fRing.front().fSlack;
+  double next = fRing.front().fDirection - kFullTurn + fRing.front().fSlack;
   for (std::size_t k = fRing.size(); k-- > 0;) {
     const auto& [direction, slack, halfEdge] = fRing[k];
     if (!(direction - slack - next > 2 * kRoughness)) return false;
