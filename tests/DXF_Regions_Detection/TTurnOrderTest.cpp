@@ -1,7 +1,6 @@
 #include "GeometryEngine/DXF_Regions_Detection/detail/TTurnOrder.h"
 
 #include <cmath>
-#include <numbers>
 #include <random>
 
 #include <gmock/gmock.h>
@@ -18,8 +17,6 @@ using detail::TTurnOrder;
 using detail::TVertexGraph;
 
 namespace {
-
-constexpr double kDegree = std::numbers::pi / 180;
 
 // Pieces that leave one point in directions of which many are next to each other, and next to an axis.
 class TStar {
