@@ -11,4 +11,9 @@ inline bool AreSame(const TEntityCoordinate& aPoint_A, const TEntityCoordinate& 
   return AreSame(aPoint_A.x, aPoint_B.x, aTolerance) && AreSame(aPoint_A.y, aPoint_B.y, aTolerance);
 }
 
+/// Equal numbers, without any tolerance.
+inline bool AreEqual(const TEntityCoordinate& aPoint_A, const TEntityCoordinate& aPoint_B) {
+  return aPoint_A.x == aPoint_B.x && aPoint_A.y == aPoint_B.y;
+}
+
 }  // namespace GeometryEngine::detail

@@ -12,14 +12,10 @@ namespace {
 
 constexpr std::size_t kFewPoints = 12;
 
-bool HasSameBits(const TEntityCoordinate& aLeft, const TEntityCoordinate& aRight) {
-  return aLeft.x == aRight.x && aLeft.y == aRight.y;
-}
-
 /// Arcs that give the same angle to every point.
 bool HaveSameOrder(const TDXFEntity& aArc_A, const TDXFEntity& aArc_B) {
-  return HasSameBits(aArc_A.StartCoords, aArc_B.StartCoords) && HasSameBits(aArc_A.EndCoords, aArc_B.EndCoords) &&
-         HasSameBits(aArc_A.CentreCoords, aArc_B.CentreCoords) && aArc_A.startAngle == aArc_B.startAngle &&
+  return AreEqual(aArc_A.StartCoords, aArc_B.StartCoords) && AreEqual(aArc_A.EndCoords, aArc_B.EndCoords) &&
+         AreEqual(aArc_A.CentreCoords, aArc_B.CentreCoords) && aArc_A.startAngle == aArc_B.startAngle &&
          aArc_A.endAngle == aArc_B.endAngle;
 }
 

@@ -19,10 +19,6 @@ double DirectionOf(const TVector_Single& aVector) {
   return GetDirection(static_cast<double>(aVector.x), static_cast<double>(aVector.y));
 }
 
-bool AreSameBits(const TEntityCoordinate& aPoint, const TEntityCoordinate& aOther) {
-  return aPoint.x == aOther.x && aPoint.y == aOther.y;
-}
-
 }  // namespace
 
 TTurnOrder::TTurnOrder(const TVertexGraph& aGraph)
@@ -49,8 +45,8 @@ bool TTurnOrder::IsClear(TIndex aArriving) {
   }
   // A turn that is the only one is taken whatever its angle.
   if (fGraph.Degree(vertex) < 3) return true;
-  const bool isInClearRing = Record(twin).IsInClearRing() && fGraph.HalfEdge(twin).fTwin == aArriving;
-  return isInClearRing || AreTurnsClear(aArriving);
+  if (Record(twin).IsInClearRing()) return fGraph.HalfEdge(twin).fTwin == aArriving;
+  return AreTurnsClear(aArriving);
 }
 
 // Each turn, to the left from where the walk came from, is to be less than the one before it in the ring. None may be
@@ -132,8 +128,8 @@ std::optional<TRoughDirection> TTurnOrder::GetRoughDirection(TIndex aHalfEdge) c
   const TDXFEntity& arc = fGraph.Entity(leaving);
   const TEntityCoordinate& from = fGraph.From(leaving);
   const TEntityCoordinate& to = fGraph.From(arriving);
-  const bool isFromStart = AreSameBits(from, arc.StartCoords) && AreSameBits(to, arc.EndCoords);
-  const bool isFromEnd = AreSameBits(from, arc.EndCoords) && AreSameBits(to, arc.StartCoords);
+  const bool isFromStart = AreEqual(from, arc.StartCoords) && AreEqual(to, arc.EndCoords);
+  const bool isFromEnd = AreEqual(from, arc.EndCoords) && AreEqual(to, arc.StartCoords);
   const bool isArc = arc.EntityType == DXFArc && isFromStart != isFromEnd && !AreSame(from, to, fGraph.Tolerance());
   return isArc ? GetRoughDirection_Arc(arc, isFromStart) : std::nullopt;
 }
