@@ -1,6 +1,7 @@
 #include "GeometryEngine/Pole_Inaccessibility/PoleSearch.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -17,9 +18,23 @@ namespace {
 constexpr double kSquareRootOf2 = 1.4142135623730951;  // half a square's diagonal, in half sides
 constexpr std::int32_t kLargestSplitCount = 1000;      // splits after which one more ends the search
 constexpr std::size_t kLargestGrid = 1000000;          // cells
+constexpr std::int32_t kSplitsBeforeDoubt = 16;        // most searches are over by then
+constexpr double kLongestDoubted = 150;                // minimum distances; longer boxes would take too many cells
+constexpr std::size_t kMostLookedAhead = 2000;         // cells; all splits together make twice as many
 
 double GetCellSize(const TEntityStorage& aBox) {
   return std::min(aBox.Max_X() - aBox.Min_X(), aBox.Max_Y() - aBox.Min_Y());
+}
+
+/// The box with as much above and to the right as squares over it may overhang.
+detail::TPlaneBox GetCoveredBox(const TEntityStorage& aBox) {
+  const double size = GetCellSize(aBox);
+  return {aBox.Min_X(), aBox.Max_X() + size, aBox.Min_Y(), aBox.Max_Y() + size};
+}
+
+/// How far the corners of a cell are from its centre.
+double GetCornerDistance(double aHalfWidth) {
+  return aHalfWidth * kSquareRootOf2;
 }
 
 /// The chains of a region, prepared for many measurements: outline, internal chain, children.
@@ -34,9 +49,19 @@ class TMeasuredRegion {
 
   /// True when no square over the box, and no part of one, has its centre farther inside than this.
   bool IsThinnerThan(double aDistance, const TEntityStorage& aBox) const {
-    const double size = GetCellSize(aBox);  // by which squares may overhang
-    return fSegments.GetGreatestDistance({aBox.Min_X(), aBox.Max_X() + size, aBox.Min_Y(), aBox.Max_Y() + size}) <=
-           aDistance;
+    return fSegments.GetGreatestDistance(GetCoveredBox(aBox)) <= aDistance;
+  }
+
+  /// More than what rounding changes in the distances of cells over the box, however often they have been quartered:
+  /// with each split it moves a centre by a last place at most.
+  double GetRounding(const TEntityStorage& aBox) const {
+    constexpr double kSplits = 64;  // times the rounding of a distance, itself 64 last places: four for each split
+    return kSplits * fSegments.GetRounding(GetCoveredBox(aBox));
+  }
+
+  /// How far a certain point of the boundaries is from the box.
+  double GetDistanceOfBox(const TEntityStorage& aBox) const {
+    return fSegments.GetDistanceOfBox({aBox.Min_X(), aBox.Max_X(), aBox.Min_Y(), aBox.Max_Y()});
   }
 
   TCell MakeCell(double aCenter_X, double aCenter_Y, double aHalfWidth) {
@@ -88,6 +113,11 @@ class TPendingCells {
     const std::uint32_t first = fWaiting.back().fNumber;
     fWaiting.pop_back();
     return fCells[first];
+  }
+
+  template <typename TAccepts>
+  bool AreAll(const TAccepts& aAccepts) const {
+    return std::ranges::all_of(fWaiting, [&](const TWaiting& waiting) { return aAccepts(fCells[waiting.fNumber]); });
   }
 
   /// The cell that comes first among those with the greatest distance; `aBest` unless that is greater than its own.
@@ -152,12 +182,68 @@ TPendingCells CoverWithCells(const TEntityStorage& aBox, TMeasuredRegion& aRegio
   return cells;
 }
 
-void AddQuarters(TPendingCells& aCells, const TCell& aCell, TMeasuredRegion& aRegion) {
+std::array<TCell, 4> GetQuarters(const TCell& aCell, TMeasuredRegion& aRegion) {
   const double half = aCell.fHalfWidth / 2;
-  for (const double y : {aCell.fCenter_Y - half, aCell.fCenter_Y + half}) {
-    for (const double x : {aCell.fCenter_X - half, aCell.fCenter_X + half}) aCells.Add(aRegion.MakeCell(x, y, half));
-  }
+  const double left = aCell.fCenter_X - half;
+  const double right = aCell.fCenter_X + half;
+  const double below = aCell.fCenter_Y - half;
+  const double above = aCell.fCenter_Y + half;
+  return {aRegion.MakeCell(left, below, half), aRegion.MakeCell(right, below, half),
+          aRegion.MakeCell(left, above, half), aRegion.MakeCell(right, above, half)};
 }
+
+/// Looks ahead of a search that has found nothing yet, in as few cells as that takes.
+class TOutlook {
+ public:
+  TOutlook(TMeasuredRegion& aRegion, const TEntityStorage& aBox, double aMinimumDistance)
+      : fRegion(aRegion),
+        fMinimumDistance(aMinimumDistance),
+        fLongestSide(std::max(aBox.Max_X() - aBox.Min_X(), aBox.Max_Y() - aBox.Min_Y())),
+        fRounding(aRegion.GetRounding(aBox)),
+        fLeastBound(-(aRegion.GetDistanceOfBox(aBox) + fRounding)) {}
+
+  /// True when the search finds nothing that lies farther inside than the minimum distance, neither among the cells
+  /// that wait nor among their parts. False also when too many would have to be looked at.
+  bool IsHopeless(const TPendingCells& aPending) {
+    const bool isTame = fRounding <= kLargestRounding;
+    const bool isSmall = fLongestSide <= kLongestDoubted * fMinimumDistance;
+    return isTame && isSmall && aPending.AreAll([this](const TCell& aCell) { return LeadsNowhere(aCell); });
+  }
+
+ private:
+  static constexpr double kLargestRounding = 1e100;  // drawing length units; squares of any distance are finite then
+
+  bool LeadsNowhere(const TCell& aCell) {
+    for (fCells.assign(1, aCell); !fCells.empty();) {
+      const TCell cell = fCells.back();
+      fCells.pop_back();
+      if (cell.fDistance > fMinimumDistance || fMeasured > kMostLookedAhead) return false;
+      if (IsShallow(cell) || IsNeverSplit(cell)) continue;
+      const auto quarters = GetQuarters(cell, fRegion);
+      fCells.insert(fCells.end(), quarters.begin(), quarters.end());
+      fMeasured += quarters.size();
+    }
+    return true;
+  }
+
+  /// True when all of the cell is so close to a boundary that no part of it lies far enough inside.
+  bool IsShallow(const TCell& aCell) const {
+    return std::abs(aCell.fDistance) + GetCornerDistance(aCell.fHalfWidth) + fRounding <= fMinimumDistance;
+  }
+
+  /// As long as nothing is found every cell is split, so one of those that wait always holds the place of the box that
+  /// is closest to a certain point of the boundaries. A cell with a bound below all that this one's can be never comes
+  /// first.
+  bool IsNeverSplit(const TCell& aCell) const { return aCell.fMaxDistance < fLeastBound; }
+
+  TMeasuredRegion& fRegion;
+  double fMinimumDistance;
+  double fLongestSide;  // of the box
+  double fRounding;
+  double fLeastBound;
+  std::size_t fMeasured = 0;  // cells
+  std::vector<TCell> fCells;  // to be looked at
+};
 
 bool HasInsideBox(TEntityStorage& aOutline) {
   aOutline.CalculateMinMaxValues();
@@ -181,7 +267,7 @@ TCell::TCell(double aCenter_X, double aCenter_Y, double aHalfWidth, double aDist
       fCenter_Y(aCenter_Y),
       fHalfWidth(aHalfWidth),
       fDistance(aDistance),
-      fMaxDistance(aDistance + aHalfWidth * kSquareRootOf2) {}
+      fMaxDistance(aDistance + GetCornerDistance(aHalfWidth)) {}
 
 int CellComparer(const TCell& aLeft, const TCell& aRight) {
   return CompareBounds(aLeft.fMaxDistance, aRight.fMaxDistance);
@@ -206,10 +292,14 @@ TEntityCoordinate FindPoleInaccessibility(const TPoleRegion& aRegion, double aPr
   while (pending.AreThere()) {
     // KEPT: a search that has used up its splits answers the centroid, not the best cell it has found.
     if (splits > kLargestSplitCount) return aRegion.fCentroid;
+    const bool isDoubtful = splits == kSplitsBeforeDoubt && !(best.fDistance > aMinimumDistance);
+    if (isDoubtful && TOutlook(region, *aRegion.fOutline, aMinimumDistance).IsHopeless(pending)) {
+      return aRegion.fCentroid;
+    }
     const TCell cell = pending.TakeFirst();
     if (cell.fDistance > best.fDistance) best = cell;
     if (IsWorthSplitting(cell, best, aPrecision, aMinimumDistance)) {
-      AddQuarters(pending, cell, region);
+      for (const TCell& quarter : GetQuarters(cell, region)) pending.Add(quarter);
       ++splits;
     } else if (aPrecision >= 0) {
       // Bounds fall from here on: no later cell is worth it either, whichever of them is the best by then.

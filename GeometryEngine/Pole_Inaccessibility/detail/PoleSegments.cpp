@@ -95,8 +95,16 @@ double TPoleSegments::GetGreatestDistance(const TPlaneBox& aBox) const {
   const double beyond = std::max({chain.fMin_Y - aBox.fMin_Y, aBox.fMax_Y - chain.fMax_Y, 0.0});
   const double across = std::max(aBox.fMax_X - chain.fMin_X, chain.fMax_X - aBox.fMin_X);
   const double along = std::max(aBox.fMax_Y - chain.fMin_Y, chain.fMax_Y - aBox.fMin_Y);
-  const double largest = std::max(GetLargest({aBox.fMin_X, aBox.fMin_Y}), GetLargest({aBox.fMax_X, aBox.fMax_Y}));
-  return std::min(besides + along, beyond + across) + GetRounding(largest);
+  return std::min(besides + along, beyond + across) + GetRounding(aBox);
+}
+
+double TPoleSegments::GetDistanceOfBox(const TPlaneBox& aBox) const {
+  if (fGroups.empty()) return kInfinity;
+  return std::sqrt(GetSquaredBoxDistance(fGroups.front().Get(0).fStart, aBox));
+}
+
+double TPoleSegments::GetRounding(const TPlaneBox& aBox) const {
+  return GetRounding(std::max(GetLargest({aBox.fMin_X, aBox.fMin_Y}), GetLargest({aBox.fMax_X, aBox.fMax_Y})));
 }
 
 double TPoleSegments::GetDistance(const TEntityCoordinate& aPoint) {

@@ -21,6 +21,11 @@ class TPoleSegments {
   /// No point of the box is farther than this from the chains, however the first one runs within its own box; it passes
   /// every column and every row of that. DEGENERATE: infinite when the first chain has no polyline.
   double GetGreatestDistance(const TPlaneBox& aBox) const;
+  /// How far a vertex of the chains, the last one of the first polyline, is from the box. DEGENERATE: infinite without
+  /// a polyline.
+  double GetDistanceOfBox(const TPlaneBox& aBox) const;
+  /// More than what rounding can change in the distance of a point of the box.
+  double GetRounding(const TPlaneBox& aBox) const;
 
  private:
   bool AddChain(const TEntityStorage& aChain);
