@@ -24,7 +24,9 @@ TEntityBaseClass::TEntityBaseClass()
     : fCoordinateTree(CreateCoordinateTree()),
       fCoordinateTree_Duplicated(CreateCoordinateTree_Duplicated()),
       fInterceptTree(CreateInterceptTree()),
-      fRegionTree(CreateRegionTree()) {}
+      fRegionTree(CreateRegionTree()) {
+  fCoordinateTree.pEntityStorage(&fEntityStorage_Regions);
+}
 
 TEntityBaseClass::~TEntityBaseClass() = default;
 

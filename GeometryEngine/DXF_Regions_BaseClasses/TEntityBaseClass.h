@@ -72,7 +72,8 @@ class GEOMETRYENGINE_API TEntityBaseClass {
   /// COST: n log n for the entities and their points, besides the pairs of entities that meet in x and in y.
   void DetermineInterceptions(TEntityStorage* apEntityStorage);
   /// The second half of DetermineInterceptions: splits every entity of the intercept tree at its points and adds the
-  /// pieces to the vertex graph. REQUIRES: a vertex graph just cleared.
+  /// pieces to the vertex graph. Vertices that stand there already remain, with the half-edges they have; pieces snap
+  /// to them. COST: n log n for the pieces when the graph was cleared before, else a search among all of them for each.
   void CreateCoordinateTreeFromIntercepts();
   /// Appends a line or an arc to the tree's storage and its two half-edges to the vertices at its ends; the ends snap
   /// to vertices that stand there already. DEGENERATE: nothing happens when the tree has no storage, when an equal
@@ -124,6 +125,8 @@ class GEOMETRYENGINE_API TEntityBaseClass {
   static TEntityTree CreateCoordinateTree_Duplicated();
   static TEntityTree CreateInterceptTree();
   static TEntityTree CreateRegionTree();
+  void BuildCoordinateTree();
+  void AddPiecesToCoordinateTree();
 
   // Which regions are listed by some region, as of a count of the region tree's changes.
   struct TListedRegions {

@@ -62,9 +62,25 @@ void TEntityBaseClass::DetermineInterceptions(TEntityStorage* apEntityStorage) {
 
 void TEntityBaseClass::CreateCoordinateTreeFromIntercepts() {
   detail::TDriverPass pass(fCoordinateTree, &fEntityStorage_Regions);
-  if (!fCoordinateTree.RootNode()->Children().empty()) fCoordinateTree.Clear();  // a host that has not done so itself
   fEntityStorage_Regions.FreeEntities();
   fCoordinateTree.pEntityStorage(&fEntityStorage_Regions);
+  if (fCoordinateTree.RootNode()->Children().empty()) {
+    BuildCoordinateTree();
+  } else {
+    AddPiecesToCoordinateTree();
+  }
+  pass.Done();
+}
+
+void TEntityBaseClass::AddPiecesToCoordinateTree() {
+  const auto add = [&](const TDXFEntity& piece) { AddEntityToCoordinateTree(fCoordinateTree, piece); };
+  for (const TTreeNode* node : fInterceptTree.RootNode()->Children()) {
+    detail::ForEachPiece(fInterceptTree.GetEntity(node->EntityIndex()), node->Children(), add);
+  }
+}
+
+// All pieces at once, the nodes when somebody looks at them.
+void TEntityBaseClass::BuildCoordinateTree() {
   const auto* rows = dynamic_cast<const detail::TInterceptRows*>(fInterceptTree.PendingNodes());
   std::size_t mostPieces = 0;
   const auto count = [&](TIndex, auto points) { mostPieces += GetMostPieces(points.size()); };
@@ -79,7 +95,6 @@ void TEntityBaseClass::CreateCoordinateTreeFromIntercepts() {
   };
   ForEachMetEntity(fInterceptTree, rows, addPieces, fetchAhead);
   fCoordinateTree.PendingNodes(graph.TakeGraph());
-  pass.Done();
 }
 
 void TEntityBaseClass::AddEntityToCoordinateTree(TEntityTree& aTree, const TDXFEntity& aEntity) {

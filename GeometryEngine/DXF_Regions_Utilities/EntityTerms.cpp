@@ -133,10 +133,11 @@ TVector_Single GetEntityVector(const TEntityCoordinate& aCoordinate_A, const TEn
                                       : GetEntityVector_Line(aCoordinate_A, aCoordinate_B, aMode);
 }
 
+// No component is a negative zero, which would turn a direction along the negative x axis by a whole turn.
 TVector_Single GetVectorFromCoordinates(const TEntityCoordinate& aCoordinate_A,
                                         const TEntityCoordinate& aCoordinate_B) {
-  return {static_cast<float>(aCoordinate_B.x - aCoordinate_A.x), static_cast<float>(aCoordinate_B.y - aCoordinate_A.y),
-          0};
+  const TEntityCoordinate difference = aCoordinate_B - aCoordinate_A;
+  return {static_cast<float>(difference.x + 0.0), static_cast<float>(difference.y + 0.0), 0};
 }
 
 double GetAngleBetweenVectors(const TVector_Single& aVector_1, const TVector_Single& aVector_2) {

@@ -74,10 +74,9 @@ double TPlane::GetAngleBetweenBasisVectors() const {
   const float length_X = fVector_X.Length();
   const float length_Y = fVector_Y.Length();
   if (length_X == 0 || length_Y == 0) return 0;
-  const double lengths = static_cast<double>(length_X) * static_cast<double>(length_Y);
-  const double cosine = static_cast<double>(fVector_X.Dot(fVector_Y)) / lengths;
-  // Single-precision lengths may leave the cosine of parallel vectors a hair outside -1 to 1.
-  return std::acos(std::clamp(cosine, -1.0, 1.0)) * kDegreesPerRadian;
+  const float cosine = fVector_X.Dot(fVector_Y) / (length_X * length_Y);
+  // Single precision may leave the cosine of parallel vectors a hair outside -1 to 1.
+  return std::acos(static_cast<double>(std::clamp(cosine, -1.0F, 1.0F))) * kDegreesPerRadian;
 }
 
 double TPlane::AngleBetweenBasisVectors() const {

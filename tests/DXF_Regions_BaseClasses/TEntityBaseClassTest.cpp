@@ -30,13 +30,20 @@ class AddRegionEntities : public testing::Test {
 
 }  // namespace
 
-TEST(TEntityBaseClass, OwnsFourNamedTreesOfWhichNoneHasAStorageYet) {
-  const TEntityBaseClass driver;
+TEST(TEntityBaseClass, OwnsFourNamedTreesAndTheStorageOfTheFirst) {
+  TEntityBaseClass driver;
   EXPECT_EQ(driver.CoordinateTree().Name(), "Coordinates_SlotPole");
   EXPECT_EQ(driver.CoordinateTree_Duplicated().Name(), "Coordinates_Symmetry");
   EXPECT_EQ(driver.InterceptTree().Name(), "Intercepts");
   EXPECT_EQ(driver.RegionTree().Name(), "Regions");
   EXPECT_EQ(driver.CoordinateTree_Duplicated().pEntityStorage(), nullptr);
+  EXPECT_EQ(driver.InterceptTree().pEntityStorage(), nullptr);
+  EXPECT_EQ(driver.RegionTree().pEntityStorage(), nullptr);
+
+  driver.AddEntityToCoordinateTree(driver.CoordinateTree(), TDXFEntity::Line({0, 0}, {4, 0}));
+  ASSERT_NE(driver.CoordinateTree().pEntityStorage(), nullptr);
+  EXPECT_EQ(driver.CoordinateTree().pEntityStorage()->Count(), 1);
+  EXPECT_EQ(driver.CoordinateTree().RootNode()->Count(), 2);
 }
 
 TEST_F(AddRegionEntities, CopiesAnAnticlockwiseLoopAsItWasTraced) {

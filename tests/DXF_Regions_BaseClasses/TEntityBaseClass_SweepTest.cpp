@@ -228,6 +228,26 @@ TEST_F(CreateCoordinateTreeFromIntercepts, RebuildsFromTheInterceptTreeAsItStand
   EXPECT_EQ(detection.driver.CoordinateTree().RootNode()->Count(), 5);
 }
 
+TEST_F(CreateCoordinateTreeFromIntercepts, AddsToTheVerticesThatStand) {
+  TDetection detection(WithFarLine("L 0,0 4,0; L 4,0 4,4; L 4,4 0,0"));
+  TEntityTree& tree = detection.driver.CoordinateTree();
+  ASSERT_EQ(tree.Count(), 3 + 6);
+  detection.driver.CreateCoordinateTreeFromIntercepts();
+  EXPECT_EQ(Pieces(detection).size(), 3U);
+  EXPECT_EQ(tree.RootNode()->Count(), 3);
+  EXPECT_EQ(tree.Count(), 3 + 6 + 6);
+}
+
+TEST_F(CreateCoordinateTreeFromIntercepts, SnapsToAVertexOfTheHost) {
+  TDetection detection(WithFarLine("L 0,0 4,0; L 4,0 4,4; L 4,4 0,0"));
+  TEntityTree& tree = detection.driver.CoordinateTree();
+  tree.Clear();
+  detection.driver.AddCoordinateNode(tree, {4.00005, 3.99995}, 0);
+  detection.driver.CreateCoordinateTreeFromIntercepts();
+  EXPECT_THAT(Pieces(detection), IsBits("L 4.00005,3.99995 0,0; L 4,0 0,0; L 4.00005,3.99995 4,0"));
+  EXPECT_EQ(tree.RootNode()->Count(), 3);
+}
+
 TEST_F(AddEntityToCoordinateTree, ListsThePieceUnderBothOfItsEnds) {
   Add("L 0,0 4,0");
   Add("L 4,0 4,4");

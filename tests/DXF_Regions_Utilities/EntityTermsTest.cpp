@@ -191,6 +191,13 @@ TEST(GetVectorFromCoordinates, IsTheDifferenceNarrowedToSinglePrecision) {
   ExpectVector(GetVectorFromCoordinates({0, 0}, {0.1, -0.1}), 0.1F, -0.1F);
 }
 
+TEST(GetVectorFromCoordinates, OfZerosOfEitherSignHasNoNegativeZero) {
+  const TVector_Single vector = GetVectorFromCoordinates({1, 0.0}, {0, -0.0});
+  EXPECT_FALSE(std::signbit(vector.y));
+  EXPECT_EQ(GetAngleBetweenVectors(vector, {-1, 0, 0}), 0);
+  EXPECT_FALSE(std::signbit(GetVectorFromCoordinates({0.0, 1}, {-0.0, 0}).x));
+}
+
 TEST(GetVectorFromCoordinates, SubtractsBeforeItNarrows) {
   ExpectVector(GetVectorFromCoordinates({1e8, 1e8}, {1e8 + 1, 1e8 - 1}), 1, -1);
 }

@@ -164,6 +164,14 @@ TEST(AngleBetweenBasisVectors, OfAVectorAndItselfIsANumber) {
   }
 }
 
+// The quotient of dot product and lengths is 1 in single precision, a little less in double.
+TEST(AngleBetweenBasisVectors, IsOfASinglePrecisionCosine) {
+  const TVector_Single vector{0.1F, 0.2F, 0};
+  ASSERT_LT(static_cast<double>(vector.Dot(vector)),
+            static_cast<double>(vector.Length()) * static_cast<double>(vector.Length()));
+  EXPECT_EQ(AngleBetween(vector, vector), 0);
+}
+
 TEST(AngleBetweenBasisVectors, IsZeroWithoutALength) {
   EXPECT_EQ(AngleBetween({}, {1, 0, 0}), 0);
   EXPECT_EQ(AngleBetween({1, 0, 0}, {}), 0);

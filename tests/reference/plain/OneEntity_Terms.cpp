@@ -61,7 +61,10 @@ double AreaOfArc(const TEntityCoordinate& aFrom, const TEntityCoordinate& aTo, c
 }
 
 TVector_Single Vector(const TEntityCoordinate& aFrom, const TEntityCoordinate& aTo) {
-  return {static_cast<float>(aTo.x - aFrom.x), static_cast<float>(aTo.y - aFrom.y), 0};
+  const auto difference = [](double from, double to) {
+    return static_cast<float>(from > to ? -std::abs(to - from) : std::abs(to - from));
+  };
+  return {difference(aFrom.x, aTo.x), difference(aFrom.y, aTo.y), 0};
 }
 
 double Direction(const TVector_Single& aVector) {
