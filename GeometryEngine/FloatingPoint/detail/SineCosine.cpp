@@ -46,12 +46,11 @@ void ComputeOneByOne(const TAngleSteps& aAngles, double aFirst, std::size_t aCou
 }  // namespace
 
 void GetSinesCosines(const TAngleSteps& aAngles, std::int64_t aFirst, std::size_t aCount, TSinesCosines& aFound) {
-  static const auto compute = HasWideLoops() ? Compute_Wide : Compute_Common;
   const auto first = static_cast<double>(aFirst);
   // The angles grow or fall all along: none is larger than those at the ends.
   const bool isBeyond = IsBeyondReduction(aAngles.GetRadians(first)) ||
                         IsBeyondReduction(aAngles.GetRadians(first + static_cast<double>(aCount - 1)));
-  (isBeyond ? ComputeOneByOne : compute)(aAngles, first, aCount, aFound);
+  (isBeyond ? ComputeOneByOne : ChooseLoops(Compute_Wide, Compute_Common))(aAngles, first, aCount, aFound);
 }
 
 }  // namespace GeometryEngine::detail

@@ -23,4 +23,10 @@ inline bool HasWideLoops() {
 #endif
 }
 
+/// Of two functions of loops that do the same, the one to call. Asking is a plain load.
+template <class TFunction>
+TFunction* ChooseLoops(TFunction* aWide, TFunction* aCommon) {
+  return HasWideLoops() ? aWide : aCommon;
+}
+
 }  // namespace GeometryEngine::detail

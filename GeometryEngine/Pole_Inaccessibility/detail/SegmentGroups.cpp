@@ -102,13 +102,11 @@ TPlaneBox TBoxGroup::Get(std::size_t aPlace) const {
 }
 
 double GetLeastSquaredDistance(const TEntityCoordinate& aPoint, const TSegmentGroup& aSegments) {
-  static const auto getLeast = HasWideLoops() ? GetLeast_Wide : GetLeast_Common;
-  return getLeast(aPoint, aSegments);
+  return ChooseLoops(GetLeast_Wide, GetLeast_Common)(aPoint, aSegments);
 }
 
 TGroupNumbers GetSquaredBoxDistances(const TEntityCoordinate& aPoint, const TBoxGroup& aBoxes) {
-  static const auto getSquares = HasWideLoops() ? GetSquaredExcesses_Wide : GetSquaredExcesses_Common;
-  return getSquares(aPoint, aBoxes);
+  return ChooseLoops(GetSquaredExcesses_Wide, GetSquaredExcesses_Common)(aPoint, aBoxes);
 }
 
 }  // namespace GeometryEngine::detail
