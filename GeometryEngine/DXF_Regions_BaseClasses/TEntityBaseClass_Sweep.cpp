@@ -74,9 +74,10 @@ void TEntityBaseClass::CreateCoordinateTreeFromIntercepts() {
 
 void TEntityBaseClass::AddPiecesToCoordinateTree() {
   const auto add = [&](const TDXFEntity& piece) { AddEntityToCoordinateTree(fCoordinateTree, piece); };
-  for (const TTreeNode* node : fInterceptTree.RootNode()->Children()) {
-    detail::ForEachPiece(fInterceptTree.GetEntity(node->EntityIndex()), node->Children(), add);
-  }
+  const auto addPieces = [&](TIndex index, auto points) {
+    detail::ForEachPiece(fInterceptTree.GetEntity(index), points, add);
+  };
+  ForEachMetEntity(fInterceptTree, nullptr, addPieces, [](auto) {});
 }
 
 // All pieces at once, the nodes when somebody looks at them.

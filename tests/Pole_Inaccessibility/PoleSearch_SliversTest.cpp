@@ -85,7 +85,7 @@ class TRandomSlivers {
   TEntityArray Chain(const TEntityCoordinate& aCentre, double aSize) {
     const int count = Between(0, 1) < 0.8 ? 3 : 4;
     const double flatness = std::pow(10, Between(-2, 0));
-    const double turned = Between(0, 360);
+    const double turned = Between(0, 2 * M_PI);
     TCoordinateArray vertices;
     for (int k = 0; k < count; ++k) {
       const double angle = (k + Between(-0.3, 0.3)) * 2 * M_PI / count;
