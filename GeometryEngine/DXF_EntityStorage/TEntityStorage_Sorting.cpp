@@ -1,5 +1,6 @@
 // The sort of a storage by left-most x.
 
+#include <array>
 #include <cstddef>
 #include <iterator>
 #include <span>
@@ -37,49 +38,75 @@ std::vector<TIndex> GetPlaces(std::span<const detail::TSortItem> aOrder) {
   return places;
 }
 
-/// Moves every entity to its place, one ring of places after another; `aPlaces` is used up. Each entity is fetched some
-/// steps before its turn, since it may lie anywhere.
+/// Moves every entity to its place, along the rings of places; `aPlaces` is used up.
+///
+/// Each step along a ring waits for memory: the entity may lie anywhere, and where the one after it lies is known only
+/// then. So several walks are under way, each a step further in turn. A walk takes an entity out, which leaves its
+/// place vacant, fills that from another place, and so on, until the entity that the vacant place is to have is one
+/// that was taken out. Walks may be on one ring; then each ends where another began.
 class TRearrangement {
  public:
   TRearrangement(std::span<TDXFEntity> aEntities, std::vector<TIndex> aPlaces)
       : fEntities(aEntities), fPlaces(std::move(aPlaces)) {}
 
   void Run() {
-    for (TIndex first = 0; first < ToIndex(fPlaces.size()); ++first) {
-      if (PlaceOf(first) != first) MoveRing(first);
+    std::array<TWalk, kWalks> walks;
+    std::size_t underWay = 0;
+    while (underWay < kWalks && Begin(walks[underWay], ToIndex(underWay))) ++underWay;
+    while (underWay > 0) {
+      for (std::size_t i = 0; i < underWay; ++i) {
+        if (!Step(walks[i])) walks[i] = walks[--underWay];
+      }
     }
   }
 
  private:
-  static constexpr int kStepsAhead = 6;
+  static constexpr std::size_t kWalks = 8;
+
+  struct TWalk {
+    TIndex fVacant;
+    TIndex fNext;  ///< the place whose entity it is to have
+  };
 
   TIndex& PlaceOf(TIndex aIndex) { return fPlaces[static_cast<std::size_t>(aIndex)]; }
   TDXFEntity& EntityAt(TIndex aIndex) { return fEntities[static_cast<std::size_t>(aIndex)]; }
 
-  void MoveRing(TIndex aFirst) {
-    TDXFEntity held = std::move(EntityAt(aFirst));
-    TIndex place = aFirst;
-    TIndex ahead = GetPlaceAhead(aFirst);
-    for (TIndex next = PlaceOf(place); next != aFirst; next = PlaceOf(place)) {
-      FetchAhead(EntityAt(ahead));
-      if (ahead != aFirst) ahead = PlaceOf(ahead);
-      EntityAt(place) = std::move(EntityAt(next));
-      PlaceOf(place) = place;
-      place = next;
-    }
-    EntityAt(place) = std::move(held);
-    PlaceOf(place) = place;
+  /// Takes out the first entity that is not where it belongs, to hold it in a slot that is free. False if there is
+  /// none.
+  bool Begin(TWalk& aWalk, TIndex aSlot) {
+    while (fFirst < ToIndex(fPlaces.size()) && (PlaceOf(fFirst) < 0 || PlaceOf(fFirst) == fFirst)) ++fFirst;
+    if (fFirst == ToIndex(fPlaces.size())) return false;
+    fHeld[static_cast<std::size_t>(aSlot)] = std::move(EntityAt(fFirst));
+    aWalk = {fFirst, PlaceOf(fFirst)};
+    PlaceOf(fFirst) = ~aSlot;
+    Fetch(aWalk.fNext);
+    return true;
   }
 
-  /// Some steps along the ring, but not beyond its beginning.
-  TIndex GetPlaceAhead(TIndex aFirst) {
-    TIndex place = PlaceOf(aFirst);
-    for (int i = 1; i < kStepsAhead && place != aFirst; ++i) place = PlaceOf(place);
-    return place;
+  /// Fills the vacant place. False when the walk has ended and there is no other to begin.
+  bool Step(TWalk& aWalk) {
+    TIndex& next = PlaceOf(aWalk.fNext);
+    if (next < 0) {
+      const TIndex slot = ~next;
+      next = aWalk.fNext;
+      EntityAt(aWalk.fVacant) = std::move(fHeld[static_cast<std::size_t>(slot)]);
+      return Begin(aWalk, slot);
+    }
+    EntityAt(aWalk.fVacant) = std::move(EntityAt(aWalk.fNext));
+    aWalk = {aWalk.fNext, std::exchange(next, aWalk.fNext)};
+    Fetch(aWalk.fNext);
+    return true;
+  }
+
+  void Fetch(TIndex aPlace) {
+    detail::FetchAhead(&PlaceOf(aPlace));
+    FetchAhead(EntityAt(aPlace));
   }
 
   std::span<TDXFEntity> fEntities;
-  std::vector<TIndex> fPlaces;
+  std::vector<TIndex> fPlaces;  ///< by place, the one its entity comes from; ~slot where the entity was taken out
+  std::array<TDXFEntity, kWalks> fHeld;
+  TIndex fFirst = 0;
 };
 
 }  // namespace

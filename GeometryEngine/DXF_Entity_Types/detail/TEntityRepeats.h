@@ -34,7 +34,7 @@ namespace GeometryEngine::detail {
 class TEntityRepeats {
  public:
   explicit TEntityRepeats(std::span<const TDXFEntity> aEntities)
-      : fCounts(std::bit_ceil(kSlotsPerEntity * aEntities.size() + 1)), fMayRepeat(aEntities.size()) {
+      : fCounts(std::bit_ceil(kSlotsPerEntity * aEntities.size() / kSlotsPerWord + 1)), fMayRepeat(aEntities.size()) {
     for (const TDXFEntity& entity : aEntities) {
       if (CanMatch(entity)) Count(GetHash(entity, fCells.GetCell(KeyOf(entity).x), fCells.GetCell(KeyOf(entity).y)));
     }
@@ -47,7 +47,8 @@ class TEntityRepeats {
 
  private:
   static constexpr std::size_t kSlotsPerEntity = 8;
-  static constexpr std::uint8_t kSeveral = 2;
+  static constexpr std::size_t kSlotsPerWord = 32;
+  static constexpr std::uint64_t kSeveral = 2;
 
   static constexpr double kReach = 2.01;  // tolerances
   static constexpr double kMostTolerances = 1e13;
@@ -75,12 +76,17 @@ class TEntityRepeats {
 
   bool IsExactEnough(double aSum) const { return std::abs(aSum) <= fFarthest; }
 
-  std::uint8_t& CountOf(std::uint64_t aHash) { return fCounts[aHash & (fCounts.size() - 1)]; }
-  std::uint8_t CountOf(std::uint64_t aHash) const { return fCounts[aHash & (fCounts.size() - 1)]; }
+  std::size_t WordOf(std::uint64_t aHash) const { return aHash / kSlotsPerWord & (fCounts.size() - 1); }
+  static std::uint64_t GetShift(std::uint64_t aHash) { return 2 * (aHash % kSlotsPerWord); }
 
+  std::uint64_t CountOf(std::uint64_t aHash) const { return fCounts[WordOf(aHash)] >> GetShift(aHash) & 3U; }
+
+  /// One more, up to several: the upper bit of the two stays once it is set.
   void Count(std::uint64_t aHash) {
-    std::uint8_t& count = CountOf(aHash);
-    count = count == 0 ? 1 : kSeveral;
+    std::uint64_t& word = fCounts[WordOf(aHash)];
+    const std::uint64_t shift = GetShift(aHash);
+    const std::uint64_t count = word >> shift & 3U;
+    word += (count ^ kSeveral) >> 1 << shift;
   }
 
   bool IsAlone(const TDXFEntity& aEntity) const {
@@ -88,7 +94,7 @@ class TEntityRepeats {
     if (!IsExactEnough(key.x) || !IsExactEnough(key.y)) return false;
     const TCellRange columns = fCells.GetCellsAround(key.x);
     const TCellRange rows = fCells.GetCellsAround(key.y);
-    unsigned int around = 0;
+    std::uint64_t around = 0;
     for (std::int64_t column = columns.fFirst; column <= columns.fLast; ++column) {
       for (std::int64_t row = rows.fFirst; row <= rows.fLast; ++row) around += CountOf(GetHash(aEntity, column, row));
     }
@@ -97,7 +103,7 @@ class TEntityRepeats {
 
   TToleranceCells fCells{kReach * GetLinearTolerance()};
   double fFarthest = kMostTolerances * GetLinearTolerance();
-  std::vector<std::uint8_t> fCounts;  ///< by hash; 0, 1, or `kSeveral` for more
+  std::vector<std::uint64_t> fCounts;  ///< two bits for a hash: 0, 1, or `kSeveral` for more
   std::vector<bool> fMayRepeat;
 };
 
