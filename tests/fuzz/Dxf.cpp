@@ -29,6 +29,13 @@ void CheckEntities(const xsec::Drawing& aDrawing) {
   }
 }
 
+void WriteFem(const xsec::Report& aReport) {
+  try {
+    xsec::FemText(aReport);
+  } catch (const xsec::OutputError&) {  // a region without a point inside
+  }
+}
+
 void Detect(const xsec::Drawing& aDrawing) {
   const xsec::Settings settings = xsec::ApplySettings({}, aDrawing.extents);
   const xsec::Detection detection = xsec::DetectRegions(aDrawing, settings);
@@ -39,6 +46,10 @@ void Detect(const xsec::Drawing& aDrawing) {
   xsec::TableText(report);
   xsec::DiagnosticLines(report);
   xsec::SvgText(report);
+  xsec::CsvText(report);
+  xsec::DxfOutputText(report);
+  xsec::GeoText(report);
+  WriteFem(report);
   Require(nlohmann::json::accept(xsec::JsonText(report)), "the output is JSON");
 }
 
