@@ -106,6 +106,16 @@ TEST(TRecordedPoints, GivesEachPointOfWhatEqualsNothingANodeOfItsOwn) {
   EXPECT_EQ(RecordAtOnce(drawing, {{0, {1, 0}}, {0, {1, 0}}}), "-1:0 0 0,0\n0:0 -1 1,0\n-1:1 0 0,0\n2:0 -1 1,0\n");
 }
 
+// An end is told by its numbers, of which either zero is the same; the row has the numbers that were recorded.
+TEST(TRecordedPoints, KeepsTheSignOfZero) {
+  support::TSettingsGuard settings;
+  TEntityStorage drawing;
+  drawing.AddEntities(support::ParseEntities("L 0,0 4,0"));
+  const std::vector<TRecording> recordings{{0, {-0.0, 0}}, {0, {4, -0.0}}, {0, {0, 0}}};
+  EXPECT_EQ(RecordAtOnce(drawing, recordings), "-1:0 0 0,0\n0:1 -1 -0,0\n0:0 -1 4,-0\n");
+  EXPECT_EQ(RecordOneByOne(drawing, recordings), RecordAtOnce(drawing, recordings));
+}
+
 TEST(TRecordedPoints, WithoutPointsGivesNoNodes) {
   support::TSettingsGuard settings;
   TEntityStorage drawing;

@@ -1,20 +1,24 @@
 #include "GeometryEngine/DXF_Regions_Detection/detail/TRecordedPoints.h"
 
+#include <algorithm>
+#include <bit>
 #include <utility>
-
-#include "GeometryEngine/DXF_Regions_Detection/detail/TPointRow.h"
 
 namespace GeometryEngine::detail {
 
 namespace {
 
-constexpr std::size_t kPointsPerEntity = 6;  // of a drawing whose entities meet at their ends
+/// Of one sign too where they are 0.
+bool HaveSameBits(const TEntityCoordinate& aPoint, const TEntityCoordinate& aOther) {
+  return std::bit_cast<std::uint64_t>(aPoint.x) == std::bit_cast<std::uint64_t>(aOther.x) &&
+         std::bit_cast<std::uint64_t>(aPoint.y) == std::bit_cast<std::uint64_t>(aOther.y);
+}
 
 }  // namespace
 
 TRecordedPoints::TRecordedPoints(std::span<const TDXFEntity> aEntities)
     : fEntities(aEntities), fRepeats(aEntities), fNodeOf(aEntities.size(), kNotFound) {
-  fRecords.reserve(kPointsPerEntity * aEntities.size());
+  fNodes.reserve(aEntities.size());
 }
 
 void TRecordedPoints::Add(TIndex aEntity, const TEntityCoordinate& aPoint) {
@@ -24,8 +28,21 @@ void TRecordedPoints::Add(TIndex aEntity, const TEntityCoordinate& aPoint) {
   const std::uint8_t ends = GetEndsAt(node, aPoint);
   if ((ends & node.fEnds) != 0) return;
   node.fEnds |= ends;
-  ++node.fCount;
-  fRecords.push_back({aPoint, aEntity, index});
+  const TIndex turn = fTurns++;
+  if (TIndex* endTurn = FindEndTurn(node, aEntity, aPoint, ends)) {
+    *endTurn = turn;
+    return;
+  }
+  ++node.fRecords;
+  fRecords.push_back({aPoint, aEntity, index, turn});
+}
+
+/// Where the turn of a point is kept that is an end of the node's own entity; null for other points.
+TIndex* TRecordedPoints::FindEndTurn(TNode& aNode, TIndex aEntity, const TEntityCoordinate& aPoint,
+                                     std::uint8_t aEnds) const {
+  if (aEnds == 0 || aEntity != aNode.fEntity) return nullptr;
+  if (HaveSameBits(aPoint, EntityAt(aEntity).StartCoords)) return &aNode.fStartTurn;
+  return HaveSameBits(aPoint, EntityAt(aEntity).EndCoords) ? &aNode.fEndTurn : nullptr;
 }
 
 /// The ends of a node's entity that have the numbers of the point.
@@ -72,7 +89,7 @@ std::vector<TIndex> TRecordedPoints::GetRecordsByNode() const {
   std::vector<TIndex> starts;
   starts.reserve(fNodes.size());
   TIndex start = 0;
-  for (const TNode& node : fNodes) starts.push_back(std::exchange(start, start + node.fCount));
+  for (const TNode& node : fNodes) starts.push_back(std::exchange(start, start + node.fRecords));
   std::vector<TIndex> records(fRecords.size());
   for (std::size_t i = 0; i < fRecords.size(); ++i) {
     TIndex& place = starts[static_cast<std::size_t>(fRecords[i].fNode)];
@@ -81,21 +98,35 @@ std::vector<TIndex> TRecordedPoints::GetRecordsByNode() const {
   return records;
 }
 
+/// The points of a node in the order in which they came.
+void TRecordedPoints::GetTurns(const TNode& aNode, std::span<const TIndex> aRecords, std::vector<TTurn>& aTurns) const {
+  aTurns.clear();
+  const TDXFEntity& own = EntityAt(aNode.fEntity);
+  if (aNode.fStartTurn != kNotFound) aTurns.push_back({aNode.fStartTurn, {own.StartCoords, &own}});
+  if (aNode.fEndTurn != kNotFound) aTurns.push_back({aNode.fEndTurn, {own.EndCoords, &own}});
+  for (const TIndex index : aRecords) {
+    const TRecord& record = RecordAt(index);
+    aTurns.push_back({record.fTurn, {record.fPoint, &EntityAt(record.fEntity)}});
+  }
+  std::ranges::sort(aTurns, {}, &TTurn::fTurn);
+}
+
 std::unique_ptr<TInterceptRows> TRecordedPoints::GetRows() const {
-  auto rows = std::make_unique<TInterceptRows>(fNodes.size(), fRecords.size(), ToIndex(fRecords.size()));
+  auto rows = std::make_unique<TInterceptRows>(fNodes.size(), static_cast<std::size_t>(fTurns), fTurns);
   const std::vector<TIndex> records = GetRecordsByNode();
+  std::vector<TTurn> turns;
   std::vector<TRowPoint> points;
   TPointRow row;
   auto first = records.begin();
   for (const TNode& node : fNodes) {
-    const std::span turns(first, first + node.fCount);
+    GetTurns(node, {first, first + node.fRecords}, turns);
     points.clear();
-    for (const TIndex turn : turns) points.push_back({RecordAt(turn).fPoint, &EntityAt(RecordAt(turn).fEntity)});
+    for (const TTurn& turn : turns) points.push_back(turn.fPoint);
     rows->AddRow(node.fEntity);
     for (const std::size_t position : row.Arrange(points)) {
-      rows->AddPoint({points[position].fPoint, turns[position]});
+      rows->AddPoint({turns[position].fPoint.fPoint, turns[position].fTurn});
     }
-    first += node.fCount;
+    first += node.fRecords;
   }
   return rows;
 }
