@@ -108,8 +108,8 @@ class TLomutoSort {
     TSlice smaller{aSlice.fFirst, aPivot};
     TSlice larger{aPivot + 1, aSlice.fPastLast};
     if (smaller.Size() > larger.Size()) std::swap(smaller, larger);
-    fOpen.push_back(larger);
-    fOpen.push_back(smaller);
+    if (larger.Size() > 1) fOpen.push_back(larger);
+    if (smaller.Size() > 1) fOpen.push_back(smaller);
   }
 
   void SortBounded(const TSlice& aSlice) {

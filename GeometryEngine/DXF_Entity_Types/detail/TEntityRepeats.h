@@ -46,7 +46,7 @@ class TEntityRepeats {
   bool MayRepeat(TIndex aEntity) const { return fMayRepeat[static_cast<std::size_t>(aEntity)]; }
 
  private:
-  static constexpr std::size_t kSlotsPerEntity = 8;
+  static constexpr std::size_t kSlotsPerEntity = 32;
   static constexpr std::size_t kSlotsPerWord = 32;
   static constexpr std::uint64_t kSeveral = 2;
 
