@@ -61,7 +61,7 @@ class TLomutoSort {
   /// The limit, as a multiple of n log2(n). Shuffled keys take about 1.4.
   static constexpr std::uint64_t kComparisonsPerItemAndLevel = 16;
 
-  static constexpr std::size_t kBlock = 64;
+  static constexpr std::size_t kBlock = 64;  // items compared before those among them that go to the left are swapped
 
   struct TSlice {
     std::size_t fFirst;
