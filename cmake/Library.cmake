@@ -8,7 +8,30 @@ file(GLOB_RECURSE geometryengine_sources CONFIGURE_DEPENDS RELATIVE ${PROJECT_SO
      ${PROJECT_SOURCE_DIR}/GeometryEngine/*.cpp)
 list(FILTER geometryengine_sources EXCLUDE REGEX "^GeometryEngine/host/")
 
-# Makes a shared library of the sources with the host package found below `host_root`.
+# Sets `result` to the given files of the library and all those that include them, directly or through others.
+# (Found out when CMake configures, as ./check has it do each time.)
+function(geometryengine_find_dependents result)
+  file(GLOB_RECURSE files RELATIVE ${PROJECT_SOURCE_DIR}
+       ${PROJECT_SOURCE_DIR}/GeometryEngine/*.h ${PROJECT_SOURCE_DIR}/GeometryEngine/*.cpp)
+  set(dependents ${ARGN})
+  set(before)
+  while(NOT dependents STREQUAL before)
+    set(before ${dependents})
+    string(JOIN "|" any ${dependents})
+    foreach(file IN LISTS files)
+      if(NOT file IN_LIST dependents)
+        file(STRINGS ${PROJECT_SOURCE_DIR}/${file} found REGEX "^#include \"(${any})\"" LIMIT_COUNT 1)
+        if(found)
+          list(APPEND dependents ${file})
+        endif()
+      endif()
+    endforeach()
+  endwhile()
+  set(${result} ${dependents} PARENT_SCOPE)
+endfunction()
+
+# Makes a shared library of the sources with the host package found below `host_root`. In a second library, for another
+# host, what sees nothing of the files that this host brings is what the first one is made of.
 function(geometryengine_add_library target host_root)
   set(host_sources)
   set(host_names)
@@ -20,7 +43,15 @@ function(geometryengine_add_library target host_root)
     list(APPEND host_sources ${names})
   endforeach()
   list(TRANSFORM geometryengine_sources PREPEND ${PROJECT_SOURCE_DIR}/ OUTPUT_VARIABLE sources)
-  add_library(${target} SHARED ${sources} ${host_sources})
+  list(APPEND sources ${host_sources})
+  if(TARGET GeometryEngine AND GEOMETRYENGINE_HOST_ROOT STREQUAL PROJECT_SOURCE_DIR)
+    file(GLOB own_files CONFIGURE_DEPENDS RELATIVE ${host_root} ${host_root}/GeometryEngine/host/*)
+    geometryengine_find_dependents(dependents ${own_files})
+    string(JOIN "|" any ${dependents})
+    list(FILTER sources INCLUDE REGEX "/(${any})$")
+    list(APPEND sources $<FILTER:$<TARGET_OBJECTS:GeometryEngine>,EXCLUDE,/\(${any}\)\\.o$>)
+  endif()
+  add_library(${target} SHARED ${sources})
   target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:geometryengine_flags>)
   target_compile_features(${target} PUBLIC cxx_std_20)
   set_target_properties(${target} PROPERTIES
