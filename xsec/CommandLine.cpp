@@ -1,50 +1,80 @@
 #include "xsec/CommandLine.h"
 
 #include <CLI/CLI.hpp>
+#include <cstdint>
+#include <optional>
+#include <vector>
 
 namespace xsec {
 
-namespace {
+Command Command::InGroup(const char* aGroup) const {
+  Command command = *this;
+  command.fGroup = aGroup;
+  return command;
+}
 
-constexpr const char* kDescription = "xsec finds the regions of a machine's cross-section in a drawing.";
+void Command::AddRequired(const char* aName, const char* aMeaning, std::string& aValue) const {
+  fApp->add_option(aName, aValue, aMeaning)->required()->type_name("");
+}
 
-constexpr const char* kExamples =
-    "Examples:\n"
-    "  xsec regions stator.dxf                        a table of all regions\n"
-    "  xsec regions stator.dxf -o stator.svg          and a picture of them\n"
-    "  xsec check stator.dxf                          what is open or doubled, and where\n"
-    "  xsec info stator.dxf                           what the file holds\n"
-    "  xsec transform pole.dxf --copies 8 -o all.dxf  the whole machine from an eighth\n"
-    "  xsec diff old.json new.json                    what has changed between two drawings\n"
-    "\n"
-    "xsec COMMAND --help has the options and more examples.\n"
-    "\n"
-    "Exit codes: 0 fine, 1 findings or differences, 2 wrong usage, 3 drawing unreadable, 4 output not written,\n"
-    "5 no closed region found, 6 an outline that cannot be offset, 7 a limit is reached, 8 a crash, with --isolate.";
+template <typename Value>
+void Command::Add(const std::string& aName, const char* aUnit, const std::string& aMeaning,
+                  const std::function<void(const Value&)>& aKeep) const {
+  // No extra arguments: an option that may be repeated takes one value each time, so that the drawing may follow it.
+  fApp->add_option_function<Value>(aName, aKeep, aMeaning)->type_name(aUnit)->group(fGroup)->allow_extra_args(false);
+}
 
-}  // namespace
+template <typename Value>
+using Keep = std::function<void(const Value&)>;
 
-Action ParseCommandLine(int aCount, const char* const* aArguments) {
-  Action action;
-  CLI::App app(kDescription, "xsec");
-  app.set_version_flag("--version", "xsec " XSEC_VERSION);
-  app.footer(kExamples);
-  app.require_subcommand(1);
-  AddRegionsCommand(app, action);
-  AddCheckCommand(app, action);
-  AddInfoCommand(app, action);
-  AddTransformCommand(app, action);
-  AddDiffCommand(app, action);
-  AddSchemaCommand(app, action);
+template void Command::Add(const std::string&, const char*, const std::string&, const Keep<std::string>&) const;
+template void Command::Add(const std::string&, const char*, const std::string&, const Keep<double>&) const;
+template void Command::Add(const std::string&, const char*, const std::string&,
+                           const Keep<std::optional<double>>&) const;
+template void Command::Add(const std::string&, const char*, const std::string&, const Keep<int>&) const;
+template void Command::Add(const std::string&, const char*, const std::string&, const Keep<std::int64_t>&) const;
+template void Command::Add(const std::string&, const char*, const std::string&,
+                           const Keep<std::vector<std::string>>&) const;
+
+void Command::AddFlag(const char* aName, const char* aMeaning, bool& aFlag, bool aGiven) const {
+  fApp->add_flag_callback(
+          aName, [&aFlag, aGiven] { aFlag = aGiven; }, aMeaning)
+      ->group(fGroup);
+}
+
+void Command::Check(const std::function<void()>& aCheck) const {
+  fApp->parse_complete_callback(aCheck);
+}
+
+void Command::Run(const Action& aAction) const {
+  fApp->callback([asked = fAction, aAction] { *asked = aAction; });
+}
+
+CommandLine::CommandLine(const char* aDescription, const char* aExamples)
+    : fApp(std::make_unique<CLI::App>(aDescription, "xsec")) {
+  fApp->set_version_flag("--version", "xsec " XSEC_VERSION);
+  fApp->footer(aExamples);
+  fApp->require_subcommand(1);
+}
+
+CommandLine::~CommandLine() = default;
+
+Command CommandLine::AddCommand(const char* aName, const char* aDescription, const char* aExamples) {
+  CLI::App& app = *fApp->add_subcommand(aName, aDescription);
+  app.footer(aExamples);
+  return {app, fAction};
+}
+
+Action CommandLine::Parse(int aCount, const char* const* aArguments) {
   try {
-    app.parse(aCount, aArguments);
+    fApp->parse(aCount, aArguments);
   } catch (const CLI::Success& success) {
-    app.exit(success);
+    fApp->exit(success);
     return {};
   } catch (const CLI::ParseError& error) {
     throw UsageError(error.what());
   }
-  return action;
+  return fAction;
 }
 
 }  // namespace xsec

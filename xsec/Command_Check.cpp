@@ -1,10 +1,10 @@
-#include <CLI/CLI.hpp>
 #include <memory>
 
 #include "xsec/Commands.h"
 #include "xsec/DrawingOptions.h"
 #include "xsec/RegionDetection.h"
 #include "xsec/Report.h"
+#include "xsec/ReportAnswer.h"
 #include "xsec/Terminal.h"
 #include "xsec/check/CheckText.h"
 #include "xsec/check/Findings.h"
@@ -52,21 +52,15 @@ ExitCode RunCheck(const CheckOptions& options) {
 
 }  // namespace
 
-void AddCheckCommand(CLI::App& aApp, Action& aAction) {
+void AddCheckCommand(CommandLine& aLine) {
   const auto options = std::make_shared<CheckOptions>();
-  CLI::App& command = *aApp.add_subcommand("check", "Say what is open, doubled or close to it, where, and what helps");
+  const Command command =
+      aLine.AddCommand("check", "Say what is open, doubled or close to it, where, and what helps", kExamples);
   AddDrawingOptions(command, options->drawing);
-  command.add_flag("--json", options->asJson, "Print everything as JSON");
-  command
-      .add_option_function<std::vector<std::string>>(
-          "-o,--output", [options](const std::vector<std::string>& paths) { options->outputs = FindOutputs(paths); },
-          "Write the regions to a file as well; a .svg has a mark at every finding. May be repeated")
-      ->type_name("FILE")
-      ->allow_extra_args(false);
-  command.footer(kExamples);
-  command.callback([&aAction, options] {
-    aAction = [options] { return RunAsAsked(options->drawing, options->outputs, [&] { return RunCheck(*options); }); };
-  });
+  command.AddFlag("--json", "Print everything as JSON", options->asJson);
+  AddOutputOption(command, options->outputs,
+                  "Write the regions to a file as well; a .svg has a mark at every finding. May be repeated");
+  command.Run([options] { return RunAsAsked(options->drawing, options->outputs, [&] { return RunCheck(*options); }); });
 }
 
 }  // namespace xsec

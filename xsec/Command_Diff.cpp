@@ -1,12 +1,11 @@
 #include <fmt/format.h>
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <memory>
 
 #include "xsec/Commands.h"
+#include "xsec/DrawingOptions.h"
 #include "xsec/Terminal.h"
 #include "xsec/diff/RegionDiff.h"
 
@@ -50,24 +49,15 @@ ExitCode RunDiff(const DiffOptions& options) {
 
 }  // namespace
 
-void AddDiffCommand(CLI::App& aApp, Action& aAction) {
+void AddDiffCommand(CommandLine& aLine) {
   const auto options = std::make_shared<DiffOptions>();
-  CLI::App& command = *aApp.add_subcommand("diff", "Compare the regions of two drawings");
-  command.add_option("BEFORE", options->before, "JSON of the regions before")->required()->type_name("");
-  command.add_option("AFTER", options->after, "JSON of the regions after")->required()->type_name("");
-  command
-      .add_option_function<double>(
-          "--tol",
-          [options](double tolerance) {
-            if (!(tolerance > 0 && std::isfinite(tolerance))) {
-              throw UsageError(fmt::format("--tol {}: expected a length in millimetres above 0", tolerance));
-            }
-            options->tolerance = tolerance;
-          },
-          "How far a place may move unnoticed. Without it the larger tolerance of the two files")
-      ->type_name("MM");
-  command.footer(kExamples);
-  command.callback([&aAction, options] { aAction = [options] { return RunDiff(*options); }; });
+  const Command command = aLine.AddCommand("diff", "Compare the regions of two drawings", kExamples);
+  command.AddRequired("BEFORE", "JSON of the regions before", options->before);
+  command.AddRequired("AFTER", "JSON of the regions after", options->after);
+  command.Add<double>("--tol", "MM",
+                      "How far a place may move unnoticed. Without it the larger tolerance of the two files",
+                      [options](double value) { options->tolerance = CheckedLength("--tol", value); });
+  command.Run([options] { return RunDiff(*options); });
 }
 
 }  // namespace xsec

@@ -1,6 +1,5 @@
 #include <fmt/format.h>
 
-#include <CLI/CLI.hpp>
 #include <functional>
 #include <iterator>
 #include <map>
@@ -79,15 +78,12 @@ ExitCode RunInfo(const DrawingOptions& options) {
 
 }  // namespace
 
-void AddInfoCommand(CLI::App& aApp, Action& aAction) {
+void AddInfoCommand(CommandLine& aLine) {
   const auto options = std::make_shared<DrawingOptions>();
-  CLI::App& command =
-      *aApp.add_subcommand("info", "Say what a drawing holds, in which unit, and what would be skipped");
+  const Command command =
+      aLine.AddCommand("info", "Say what a drawing holds, in which unit, and what would be skipped", kExamples);
   AddDrawingOptions(command, *options);
-  command.footer(kExamples);
-  command.callback([&aAction, options] {
-    aAction = [options] { return RunAsAsked(*options, {}, [&] { return RunInfo(*options); }); };
-  });
+  command.Run([options] { return RunAsAsked(*options, {}, [&] { return RunInfo(*options); }); });
 }
 
 }  // namespace xsec

@@ -1,6 +1,5 @@
 #include <fmt/format.h>
 
-#include <CLI/CLI.hpp>
 #include <memory>
 
 #include "xsec/Commands.h"
@@ -53,20 +52,17 @@ ExitCode RunRegions(const RegionsOptions& options) {
 
 }  // namespace
 
-void AddRegionsCommand(CLI::App& aApp, Action& aAction) {
+void AddRegionsCommand(CommandLine& aLine) {
   const auto options = std::make_shared<RegionsOptions>();
-  CLI::App& command = *aApp.add_subcommand("regions", "Find, name, nest and measure the closed regions of a drawing");
+  const Command command =
+      aLine.AddCommand("regions", "Find, name, nest and measure the closed regions of a drawing", kExamples);
   AddDrawingOptions(command, options->drawing);
   AddSearchOptions(command, options->search, options->drawing.settings);
   AddCopiesOption(command, options->search.request.copies,
                   "How often the machine holds what is drawn, for areas of the whole; 8 for an eighth");
   AddOutputOption(command, options->outputs);
-  command.footer(kExamples);
-  command.callback([&aAction, options] {
-    aAction = [options] {
-      return RunAsAsked(options->drawing, options->outputs, [&] { return RunRegions(*options); });
-    };
-  });
+  command.Run(
+      [options] { return RunAsAsked(options->drawing, options->outputs, [&] { return RunRegions(*options); }); });
 }
 
 }  // namespace xsec

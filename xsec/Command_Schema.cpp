@@ -1,4 +1,3 @@
-#include <CLI/CLI.hpp>
 #include <string>
 
 #include "xsec/Commands.h"
@@ -7,16 +6,18 @@
 
 namespace xsec {
 
-void AddSchemaCommand(CLI::App& aApp, Action& aAction) {
-  CLI::App& command = *aApp.add_subcommand("schema", "Print the JSON schema of what -o FILE.json holds");
-  command.footer(
-      "Example:\n"
-      "  xsec schema > regions.schema.json && jsonschema -i stator.json regions.schema.json");
-  command.callback([&aAction] {
-    aAction = [] {
-      PrintToStandardOutput(std::string(RegionsSchema()));
-      return ExitCode::Fine;
-    };
+namespace {
+
+constexpr const char* kExample =
+    "Example:\n"
+    "  xsec schema > regions.schema.json && jsonschema -i stator.json regions.schema.json";
+
+}  // namespace
+
+void AddSchemaCommand(CommandLine& aLine) {
+  aLine.AddCommand("schema", "Print the JSON schema of what -o FILE.json holds", kExample).Run([] {
+    PrintToStandardOutput(std::string(RegionsSchema()));
+    return ExitCode::Fine;
   });
 }
 

@@ -1,6 +1,5 @@
 #include <fmt/format.h>
 
-#include <CLI/CLI.hpp>
 #include <cmath>
 #include <memory>
 #include <optional>
@@ -109,27 +108,21 @@ ExitCode RunOrRefuse(const TransformOptions& options) {
 
 }  // namespace
 
-void AddTransformCommand(CLI::App& aApp, Action& aAction) {
+void AddTransformCommand(CommandLine& aLine) {
   const auto options = std::make_shared<TransformOptions>();
-  CLI::App& command = *aApp.add_subcommand("transform", "Offset, mirror, turn or copy the outlines of a drawing");
+  const Command command =
+      aLine.AddCommand("transform", "Offset, mirror, turn or copy the outlines of a drawing", kExamples);
   AddDrawingOptions(command, options->drawing);
   AddSearchOptions(command, options->search, options->drawing.settings);
   AddOutputOption(command, options->outputs);
-  command.add_option("--offset", options->offset, "Move every outline outwards, or inwards by a negative distance")
-      ->type_name("MM");
-  command
-      .add_option_function<std::string>(
-          "--mirror", [options](const std::string& text) { options->mirror = MirrorLine(text); },
-          "Mirror about the line through two points")
-      ->type_name("X1,Y1,X2,Y2");
-  command.add_option("--rotate", options->rotate, "Turn anticlockwise about the origin")->type_name("DEG");
+  command.Add("--offset", "MM", "Move every outline outwards, or inwards by a negative distance", options->offset);
+  command.Add<std::string>("--mirror", "X1,Y1,X2,Y2", "Mirror about the line through two points",
+                           [options](const std::string& text) { options->mirror = MirrorLine(text); });
+  command.Add("--rotate", "DEG", "Turn anticlockwise about the origin", options->rotate);
   AddCopiesOption(command, options->copies, "Copy round the origin, at equal angles");
-  command.footer(kExamples);
-  command.callback([&aAction, options] {
+  command.Run([options] {
     CheckOneIsAsked(*options);
-    aAction = [options] {
-      return RunAsAsked(options->drawing, options->outputs, [&] { return RunOrRefuse(*options); });
-    };
+    return RunAsAsked(options->drawing, options->outputs, [&] { return RunOrRefuse(*options); });
   });
 }
 

@@ -2,7 +2,6 @@
 
 #include <fmt/format.h>
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cmath>
 #include <set>
@@ -33,11 +32,6 @@ DrawingUnits UnitsOf(const std::string& name) {
   return *units;
 }
 
-double CheckedLength(const char* option, double length) {
-  if (length > 0 && std::isfinite(length)) return length;
-  throw UsageError(fmt::format("{} {}: expected a length in millimetres above 0", option, length));
-}
-
 double CheckedArea(double area) {
   if (area >= 0 && std::isfinite(area)) return area;
   throw UsageError(fmt::format("--sliver-area {}: expected an area in square millimetres", area));
@@ -48,63 +42,45 @@ std::uint8_t CheckedMachineType(int type) {
   throw UsageError(fmt::format("--machine-type {}: expected a number from 0 to 255", type));
 }
 
-void AddSettingsOptions(CLI::App& command, SettingsRequest& settings) {
-  command
-      .add_option_function<double>(
-          "--tol", [&](double value) { settings.tolerance = CheckedLength("--tol", value); },
-          "Linear tolerance: ends closer than this meet. Without it a millionth of the drawing's diagonal")
-      ->type_name("MM");
-  command
-      .add_option_function<std::vector<std::string>>(
-          "--setting",
-          [&](const std::vector<std::string>& fields) {
-            for (const std::string& field : fields) settings.fields.push_back(ParseFieldValue(field));
-          },
-          "Set a numbered input field of the library. May be repeated")
-      ->type_name("FIELD=VALUE")
-      ->allow_extra_args(false);
-  command
-      .add_option_function<int>(
-          "--machine-type", [&](int type) { settings.machineType = CheckedMachineType(type); },
-          "The machine-type selector, 0 to 255")
-      ->type_name("N");
-  command
-      .add_option_function<double>(
-          "--sliver-area", [&](double area) { settings.sliverArea = CheckedArea(area); },
-          "Regions smaller than this are slivers. Without it a square of the tolerance; regions thinner than the "
-          "tolerance always are")
-      ->type_name("MM2");
-  command.add_flag("--drop-slivers", settings.dropsSlivers, "Make slivers part of the neighbour they share most with");
-  command.add_flag_callback(
-      "--no-prepare", [&] { settings.prepares = false; },
-      "Hand the drawing to the library as it is, whatever way it lies");
+void AddSettingsOptions(const Command& command, SettingsRequest& settings) {
+  command.Add<double>("--tol", "MM",
+                      "Linear tolerance: ends closer than this meet. Without it a millionth of the drawing's diagonal",
+                      [&](double value) { settings.tolerance = CheckedLength("--tol", value); });
+  const auto keepFields = [&settings](const std::vector<std::string>& texts) {
+    for (const std::string& text : texts) settings.fields.push_back(ParseFieldValue(text));
+  };
+  command.Add<std::vector<std::string>>("--setting", "FIELD=VALUE",
+                                        "Set a numbered input field of the library. May be repeated", keepFields);
+  command.Add<int>("--machine-type", "N", "The machine-type selector, 0 to 255",
+                   [&](int type) { settings.machineType = CheckedMachineType(type); });
+  command.Add<double>(
+      "--sliver-area", "MM2",
+      "Regions smaller than this are slivers. Without it a square of the tolerance; regions thinner than the "
+      "tolerance always are",
+      [&](double area) { settings.sliverArea = CheckedArea(area); });
+  command.AddFlag("--drop-slivers", "Make slivers part of the neighbour they share most with", settings.dropsSlivers);
+  command.AddFlag("--no-prepare", "Hand the drawing to the library as it is, whatever way it lies", settings.prepares,
+                  false);
 }
 
-void AddLayerOptions(CLI::App& command, DrawingOptions& options) {
-  command
-      .add_option("--layer", options.layers,
-                  "Read the layers that fit, nothing else; * and ? stand for any. May be repeated")
-      ->type_name("PATTERN")
-      ->allow_extra_args(false);
-  command.add_option("--exclude-layer", options.excludedLayers, "Do not read the layers that fit. May be repeated")
-      ->type_name("PATTERN")
-      ->allow_extra_args(false);
+void AddLayerOptions(const Command& command, DrawingOptions& options) {
+  command.Add("--layer", "PATTERN", "Read the layers that fit, nothing else; * and ? stand for any. May be repeated",
+              options.layers);
+  command.Add("--exclude-layer", "PATTERN", "Do not read the layers that fit. May be repeated", options.excludedLayers);
 }
 
 /// An option that takes a number from 1 to `most` and hands it to `keep`.
-template <typename Keep>
-void AddLimitOption(CLI::App& command, const std::string& name, const char* unit, const std::string& description,
-                    std::uint64_t most, Keep keep) {
-  const auto check = [name, most, keep](std::int64_t value) {
+void AddLimitOption(const Command& command, const std::string& name, const char* unit, const std::string& meaning,
+                    std::uint64_t most, const std::function<void(std::uint64_t)>& keep) {
+  command.Add<std::int64_t>(name, unit, meaning, [name, most, keep](std::int64_t value) {
     if (value < 1 || static_cast<std::uint64_t>(value) > most) {
       throw UsageError(fmt::format("{} {}: expected a number from 1 to {}", name, value, most));
     }
     keep(static_cast<std::uint64_t>(value));
-  };
-  command.add_option_function<std::int64_t>(name, check, description)->type_name(unit)->group("Limits");
+  });
 }
 
-void AddLimitOptions(CLI::App& command, DrawingOptions& options) {
+void AddLimitOptions(const Command& command, DrawingOptions& options) {
   AddLimitOption(command, "--max-entities", "N",
                  fmt::format("Refuse drawings of more lines and arcs. Without it {}", options.reading.mostEntities),
                  kMostEntitiesAsked, [&](std::uint64_t count) { options.reading.mostEntities = count; });
@@ -115,10 +91,9 @@ void AddLimitOptions(CLI::App& command, DrawingOptions& options) {
                  [&](std::uint64_t size) { options.limits.memory = size * kMebibyte; });
   AddLimitOption(command, "--max-seconds", "S", "Give up when more processor time is needed", kMostSeconds,
                  [&](std::uint64_t seconds) { options.limits.seconds = seconds; });
-  command
-      .add_flag("--isolate", options.isIsolated,
-                "Work in a process apart: where that one crashes or is killed, say so, with an exit code of its own")
-      ->group("Limits");
+  command.AddFlag("--isolate",
+                  "Work in a process apart: where that one crashes or is killed, say so, with an exit code of its own",
+                  options.isIsolated);
 }
 
 bool FitsAny(const std::string& layer, const std::vector<std::string>& patterns) {
@@ -168,37 +143,35 @@ void RefuseSkipped(const Drawing& drawing) {
 
 }  // namespace
 
-void AddDrawingOptions(CLI::App& aCommand, DrawingOptions& aOptions) {
-  aCommand.add_option("DRAWING", aOptions.path, "The drawing, a DXF file in ASCII")->required()->type_name("");
-  aCommand
-      .add_option_function<std::string>(
-          "--units", [&](const std::string& name) { aOptions.reading.units = UnitsOf(name); },
-          "The unit the drawing is drawn in, whatever it says itself: " + UnitNames())
-      ->type_name("U");
+void AddDrawingOptions(const Command& aCommand, DrawingOptions& aOptions) {
+  aCommand.AddRequired("DRAWING", "The drawing, a DXF file in ASCII", aOptions.path);
+  aCommand.Add<std::string>("--units", "U", "The unit the drawing is drawn in, whatever it says itself: " + UnitNames(),
+                            [&](const std::string& name) { aOptions.reading.units = UnitsOf(name); });
   AddLayerOptions(aCommand, aOptions);
-  aCommand
-      .add_option_function<std::string>(
-          "--origin",
-          [&](const std::string& text) {
-            std::tie(aOptions.reading.originX, aOptions.reading.originY) = PairOf("--origin", text);
-          },
-          "The point that becomes the origin, the axis of the machine, in millimetres")
-      ->type_name("X,Y");
-  aCommand
-      .add_option_function<double>(
-          "--flatten", [&](double value) { aOptions.reading.flattenTolerance = CheckedLength("--flatten", value); },
-          "The furthest that an ellipse or a spline may lie from the lines and arcs it is made into. Without it "
-          "0.01 mm or a thousandth of the curve's size, whichever is less")
-      ->type_name("MM");
-  aCommand.add_flag("--strict", aOptions.strict, "Whatever of the drawing is not read is an error");
+  const auto keepOrigin = [&aOptions](const std::string& text) {
+    std::tie(aOptions.reading.originX, aOptions.reading.originY) = PairOf("--origin", text);
+  };
+  aCommand.Add<std::string>("--origin", "X,Y",
+                            "The point that becomes the origin, the axis of the machine, in millimetres", keepOrigin);
+  aCommand.Add<double>(
+      "--flatten", "MM",
+      "The furthest that an ellipse or a spline may lie from the lines and arcs it is made into. Without it "
+      "0.01 mm or a thousandth of the curve's size, whichever is less",
+      [&](double value) { aOptions.reading.flattenTolerance = CheckedLength("--flatten", value); });
+  aCommand.AddFlag("--strict", "Whatever of the drawing is not read is an error", aOptions.strict);
   AddSettingsOptions(aCommand, aOptions.settings);
-  AddLimitOptions(aCommand, aOptions);
-  aCommand.parse_complete_callback([&aOptions] { CheckSettings(aOptions.settings); });
+  AddLimitOptions(aCommand.InGroup("Limits"), aOptions);
+  aCommand.Check([&aOptions] { CheckSettings(aOptions.settings); });
 }
 
 ExitCode RunAsAsked(const DrawingOptions& aOptions, const std::vector<Output>& aOutputs,
                     const std::function<ExitCode()>& aWork) {
   return aOptions.isIsolated ? RunApart(aOutputs, aWork) : aWork();
+}
+
+double CheckedLength(const char* aOption, double aLength) {
+  if (aLength > 0 && std::isfinite(aLength)) return aLength;
+  throw UsageError(fmt::format("{} {}: expected a length in millimetres above 0", aOption, aLength));
 }
 
 std::pair<double, double> PairOf(const std::string& aOption, const std::string& aText) {

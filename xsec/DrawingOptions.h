@@ -8,16 +8,13 @@
 #include <utility>
 #include <vector>
 
+#include "xsec/CommandLine.h"
 #include "xsec/Drawing.h"
 #include "xsec/DxfReader.h"
 #include "xsec/Errors.h"
 #include "xsec/ProcessLimits.h"
 #include "xsec/Settings.h"
 #include "xsec/output/OutputFiles.h"
-
-namespace CLI {
-class App;
-}
 
 namespace xsec {
 
@@ -34,11 +31,14 @@ struct DrawingOptions {
 
 /// Binds the options to where they are kept, which must outlive the parsing. Values that make no sense are a UsageError
 /// while they are parsed.
-void AddDrawingOptions(CLI::App& aCommand, DrawingOptions& aOptions);
+void AddDrawingOptions(const Command& aCommand, DrawingOptions& aOptions);
 
 /// Does a command's work as the options ask: here or in a process apart.
 ExitCode RunAsAsked(const DrawingOptions& aOptions, const std::vector<Output>& aOutputs,
                     const std::function<ExitCode()>& aWork);
+
+/// The length, if it is one above 0. Throws UsageError, which names the option.
+double CheckedLength(const char* aOption, double aLength);
 
 /// "X,Y" as two numbers. Throws UsageError, which names the option.
 std::pair<double, double> PairOf(const std::string& aOption, const std::string& aText);

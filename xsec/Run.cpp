@@ -5,7 +5,7 @@
 #include <exception>
 #include <new>
 
-#include "xsec/CommandLine.h"
+#include "xsec/Commands.h"
 #include "xsec/Terminal.h"
 
 namespace xsec {
@@ -39,7 +39,7 @@ ExitCode AnswerToException() {
 
 ExitCode Run(int aCount, const char* const* aArguments) {
   try {
-    const Action action = ParseCommandLine(aCount, aArguments);
+    const Action action = ParseArguments(aCount, aArguments);
     return action ? action() : ExitCode::Fine;
   } catch (...) {
     return AnswerToException();

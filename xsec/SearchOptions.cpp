@@ -2,7 +2,6 @@
 
 #include <fmt/format.h>
 
-#include <CLI/CLI.hpp>
 #include <cmath>
 #include <map>
 
@@ -32,49 +31,34 @@ NameSource SourceNamed(const std::string& name) {
   throw UsageError(fmt::format("--name-from {}: unknown; known are layer, text, block", name));
 }
 
-void AddNaming(CLI::App& command, SearchOptions& options) {
-  command.add_option("--rules", options.rules, "Give names, types, colours, materials by the rules in a JSON file")
-      ->type_name("FILE");
-  command
-      .add_option_function<std::string>(
-          "--name-from", [&](const std::string& name) { options.request.naming.source = SourceNamed(name); },
-          "Name regions by the layer of their outline (as without this), the text in them, or the block they come from")
-      ->type_name("layer|text|block");
+void AddNaming(const Command& command, SearchOptions& options) {
+  command.Add("--rules", "FILE", "Give names, types, colours, materials by the rules in a JSON file", options.rules);
+  command.Add<std::string>(
+      "--name-from", "layer|text|block",
+      "Name regions by the layer of their outline (as without this), the text in them, or the block they come from",
+      [&](const std::string& name) { options.request.naming.source = SourceNamed(name); });
 }
 
 }  // namespace
 
-void AddSearchOptions(CLI::App& aCommand, SearchOptions& aOptions, SettingsRequest& aSettings) {
+void AddSearchOptions(const Command& aCommand, SearchOptions& aOptions, SettingsRequest& aSettings) {
   AddNaming(aCommand, aOptions);
-  aCommand
-      .add_option_function<double>(
-          "--min-area", [&](double area) { aOptions.request.minimumArea = CheckedArea("--min-area", area); },
-          "Leave out regions with less net area")
-      ->type_name("MM2");
-  aCommand
-      .add_option_function<double>(
-          "--min-label-area", [&](double area) { aSettings.minimumLabelArea = CheckedArea("--min-label-area", area); },
-          "Write no names into the picture of smaller regions, holes counted in")
-      ->type_name("MM2");
-  aCommand
-      .add_option_function<double>(
-          "--turn", [&](double turn) { aOptions.request.turn = CheckedTurn(turn); },
-          "Turn the drawing before its regions are sought, and the regions back after it")
-      ->type_name("DEG");
+  aCommand.Add<double>("--min-area", "MM2", "Leave out regions with less net area",
+                       [&](double area) { aOptions.request.minimumArea = CheckedArea("--min-area", area); });
+  aCommand.Add<double>("--min-label-area", "MM2",
+                       "Write no names into the picture of smaller regions, holes counted in",
+                       [&](double area) { aSettings.minimumLabelArea = CheckedArea("--min-label-area", area); });
+  aCommand.Add<double>("--turn", "DEG", "Turn the drawing before its regions are sought, and the regions back after it",
+                       [&](double turn) { aOptions.request.turn = CheckedTurn(turn); });
 }
 
-void AddCopiesOption(CLI::App& aCommand, std::size_t& aCopies, const char* aMeaning) {
-  aCommand
-      .add_option_function<int>(
-          "--copies",
-          [&](int copies) {
-            if (copies < 1 || copies > kMostCopies) {
-              throw UsageError(fmt::format("--copies {}: expected a number from 1 to {}", copies, kMostCopies));
-            }
-            aCopies = static_cast<std::size_t>(copies);
-          },
-          aMeaning)
-      ->type_name("N");
+void AddCopiesOption(const Command& aCommand, std::size_t& aCopies, const char* aMeaning) {
+  aCommand.Add<int>("--copies", "N", aMeaning, [&aCopies](int copies) {
+    if (copies < 1 || copies > kMostCopies) {
+      throw UsageError(fmt::format("--copies {}: expected a number from 1 to {}", copies, kMostCopies));
+    }
+    aCopies = static_cast<std::size_t>(copies);
+  });
 }
 
 SearchRequest LoadRequest(const SearchOptions& aOptions) {

@@ -5,12 +5,9 @@
 #include <optional>
 #include <string>
 
+#include "xsec/CommandLine.h"
 #include "xsec/RegionSearch.h"
 #include "xsec/Settings.h"
-
-namespace CLI {
-class App;
-}
 
 namespace xsec {
 
@@ -20,10 +17,10 @@ struct SearchOptions {
 };
 
 /// As AddDrawingOptions; what is for the library goes into aSettings.
-void AddSearchOptions(CLI::App& aCommand, SearchOptions& aOptions, SettingsRequest& aSettings);
+void AddSearchOptions(const Command& aCommand, SearchOptions& aOptions, SettingsRequest& aSettings);
 
 /// How often the machine holds what is drawn. Its name is an option of other commands too.
-void AddCopiesOption(CLI::App& aCommand, std::size_t& aCopies, const char* aMeaning);
+void AddCopiesOption(const Command& aCommand, std::size_t& aCopies, const char* aMeaning);
 
 /// The request with its rules read. Throws InputError.
 SearchRequest LoadRequest(const SearchOptions& aOptions);
