@@ -4,12 +4,11 @@
 #include <cmath>
 #include <string_view>
 
-#include <nlohmann/json.hpp>
-
 #include "tests/fuzz/FuzzSettings.h"
 #include "tests/fuzz/FuzzTarget.h"
 #include "xsec/DxfReader.h"
 #include "xsec/Errors.h"
+#include "xsec/Json.h"
 #include "xsec/RegionDetection.h"
 #include "xsec/Report.h"
 #include "xsec/Settings.h"
@@ -50,7 +49,7 @@ void Detect(const xsec::Drawing& aDrawing) {
   xsec::DxfOutputText(report);
   xsec::GeoText(report);
   WriteFem(report);
-  Require(nlohmann::json::accept(xsec::JsonText(report)), "the output is JSON");
+  xsec::ParsedJson(xsec::JsonText(report));  // throws what ends the run when the output is no JSON
 }
 
 }  // namespace

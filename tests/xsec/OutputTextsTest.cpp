@@ -4,11 +4,11 @@
 #include <numbers>
 
 #include <gmock/gmock.h>
-#include <nlohmann/json.hpp>
 
 #include "tests/support/Settings.h"
 #include "tests/xsec/Drawings.h"
 #include "xsec/DxfReader.h"
+#include "xsec/Json.h"
 #include "xsec/Report.h"
 #include "xsec/Schema.h"
 #include "xsec/Settings.h"
@@ -74,7 +74,7 @@ TEST(GeoText, NamesEachGroupOnceAndTheOuterBoundary) {
 TEST(OutputTexts, HoldNamesThatEndNothing) {
   const std::string name = "../A\", \"B\" <c> & {d}; \\";
   const Drawing drawing = DrawingOf({{name, Rectangle(0, 0, 4, 2.5)}});
-  EXPECT_EQ(nlohmann::json::parse(TextOf(drawing, &JsonText))["regions"][0]["name"], name);
+  EXPECT_EQ(ParsedJson(TextOf(drawing, &JsonText))["regions"][0]["name"], name);
   EXPECT_THAT(TextOf(drawing, &CsvText), HasSubstr("\"../A\"\", \"\"B\"\" <c> & {d}; \\\""));
   EXPECT_THAT(TextOf(drawing, &GeoText), HasSubstr("(\"../A', 'B' <c> & {d}; \\\", 1)"));
   EXPECT_THAT(TextOf(drawing, &FemText), HasSubstr("\"../A', 'B' <c> & {d}; \\\"\n"));

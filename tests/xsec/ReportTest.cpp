@@ -6,11 +6,11 @@
 #include <sstream>
 
 #include <gmock/gmock.h>
-#include <nlohmann/json.hpp>
 
 #include "tests/support/Geometry.h"
 #include "tests/support/Settings.h"
 #include "tests/xsec/Drawings.h"
+#include "xsec/Json.h"
 #include "xsec/RegionDetection.h"
 
 namespace xsec {
@@ -32,7 +32,7 @@ struct Carried {
     detection = DetectRegions(drawing, settings);
   }
   Report report() const { return {drawing, settings, detection}; }
-  json AsJson() const { return json::parse(JsonText(report())); }
+  json AsJson() const { return ParsedJson(JsonText(report())); }
 
   Drawing drawing;
   Settings settings;

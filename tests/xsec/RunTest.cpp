@@ -18,7 +18,8 @@
 #include <utility>
 
 #include <gmock/gmock.h>
-#include <nlohmann/json.hpp>
+
+#include "xsec/Json.h"
 
 namespace {
 
@@ -108,7 +109,7 @@ TEST_F(Xsec, WritesWhatIsAskedForAndPrintsTheTable) {
   EXPECT_EQ(RunXsec("regions -o " + Out("a.svg") + " " + drawing + " -o " + Out("b.JSON")), 0) << fStderr;
   EXPECT_THAT(FilesWritten(), UnorderedElementsAre("a.svg", "b.JSON"));
   EXPECT_THAT(ReadFile(Out("a.svg")), StartsWith("<svg "));
-  EXPECT_EQ(nlohmann::json::parse(ReadFile(Out("b.JSON")))["regions"].size(), 2U);
+  EXPECT_EQ(xsec::ParsedJson(ReadFile(Out("b.JSON")))["regions"].size(), 2U);
   EXPECT_THAT(fStdout, HasSubstr("2 regions, net area 100 mm2\n"));
   EXPECT_THAT(fStderr, HasSubstr("linear tolerance 1.41421e-05 mm"));
 }
@@ -119,7 +120,7 @@ TEST_F(Xsec, ReplacesAFormerResultAndKeepsALinkALink) {
   fs::create_symlink("real.json", Out("link.json"));
   EXPECT_EQ(RunXsec("regions " + drawing + " -o " + Out("link.json")), 0) << fStderr;
   EXPECT_TRUE(fs::is_symlink(Out("link.json")));
-  EXPECT_EQ(nlohmann::json::parse(ReadFile(Out("real.json")))["regions"].size(), 1U);
+  EXPECT_EQ(xsec::ParsedJson(ReadFile(Out("real.json")))["regions"].size(), 1U);
   EXPECT_THAT(FilesWritten(), UnorderedElementsAre("real.json", "link.json"));
 }
 
@@ -128,7 +129,7 @@ TEST_F(Xsec, HonoursUnitsToleranceAndSettings) {
   EXPECT_EQ(RunXsec("regions " + drawing + " --units m --tol 5 --setting 6529=7 --machine-type 4 -o " + Out("a.json")),
             0)
       << fStderr;
-  const auto json = nlohmann::json::parse(ReadFile(Out("a.json")));
+  const auto json = xsec::ParsedJson(ReadFile(Out("a.json")));
   EXPECT_EQ(json["drawing"]["units"]["source"], "--units");
   EXPECT_EQ(json["drawing"]["extents"]["maxX"], 1000);
   EXPECT_EQ(json["settings"]["fields"]["6529"], 7);
@@ -219,7 +220,7 @@ TEST_F(Xsec, CheckNamesTheGapItsPlaceAndTheToleranceThatClosesIt) {
 TEST_F(Xsec, CheckAsJsonHoldsWhatTheTextSays) {
   const std::string drawing = Drawing(DxfOf(Square(0, 0, 10) + Line(2, 0, 5, 0) + Line(4, 4, 4, 6)));
   EXPECT_EQ(RunXsec("check --json " + drawing + " -o " + Out("a.svg")), 1) << fStderr;
-  const auto json = nlohmann::json::parse(fStdout);
+  const auto json = xsec::ParsedJson(fStdout);
   EXPECT_TRUE(json["findings"]);
   EXPECT_EQ(json["openEnds"].size(), 2U);
   EXPECT_FALSE(json["openEnds"][0]["touches"]);
@@ -253,9 +254,9 @@ TEST_F(Xsec, SliverIsReportedAndOnRequestDropped) {
   const std::string drawing = Drawing(DxfOf(Square(0, 0, 10) + Line(0, 5, 10, 5) + Line(0, 5.002, 10, 5.002)));
   EXPECT_EQ(RunXsec("regions " + drawing + " --sliver-area 0.1 -o " + Out("a.json")), 0);
   EXPECT_THAT(fStderr, HasSubstr("slivers"));
-  EXPECT_EQ(nlohmann::json::parse(ReadFile(Out("a.json")))["regions"].size(), 3U);
+  EXPECT_EQ(xsec::ParsedJson(ReadFile(Out("a.json")))["regions"].size(), 3U);
   EXPECT_EQ(RunXsec("regions " + drawing + " --sliver-area 0.1 --drop-slivers -o " + Out("a.json")), 0);
-  const auto json = nlohmann::json::parse(ReadFile(Out("a.json")));
+  const auto json = xsec::ParsedJson(ReadFile(Out("a.json")));
   EXPECT_EQ(json["regions"].size(), 2U);
   EXPECT_NEAR(json["totalArea"].get<double>(), 100, 1e-9);
   EXPECT_EQ(json["diagnostics"]["cures"][0]["kind"], "sliver");
@@ -265,7 +266,7 @@ TEST_F(Xsec, EllipseIsMadeIntoArcsAsCloseAsIsAskedFor) {
   const std::string drawing = Drawing(DxfOf("0\nELLIPSE\n8\nPlate\n11\n30\n40\n0.5\n"));
   const auto outlineAt = [&](const std::string& options) {
     EXPECT_EQ(RunXsec("regions " + drawing + options + " -o " + Out("a.json")), 0) << fStderr;
-    const auto json = nlohmann::json::parse(ReadFile(Out("a.json")));
+    const auto json = xsec::ParsedJson(ReadFile(Out("a.json")));
     EXPECT_EQ(json["diagnostics"]["flattened"]["ELLIPSE"], 1);
     EXPECT_NEAR(json["totalArea"].get<double>(), 450 * std::numbers::pi, 1);
     return json["regions"][0]["outline"].size();
@@ -303,7 +304,7 @@ TEST_F(Xsec, OriginTurnAndMinimumAreasShowInTheResult) {
   const std::string drawing = Drawing(DxfOf(Square(10, 10, 10) + Square(12, 12, 3)));
   EXPECT_EQ(RunXsec("regions --origin 10,10 --turn 30 --min-area 10 -o " + Out("a.json") + " " + drawing), 0)
       << fStderr;
-  const auto json = nlohmann::json::parse(ReadFile(Out("a.json")));
+  const auto json = xsec::ParsedJson(ReadFile(Out("a.json")));
   ASSERT_EQ(json["regions"].size(), 1U);
   EXPECT_NEAR(json["regions"][0]["centroid"][0].get<double>(), 5, 1e-9);
   EXPECT_NEAR(json["regions"][0]["netArea"].get<double>(), 91, 1e-9);
@@ -341,7 +342,7 @@ TEST_F(Xsec, TransformWritesWhatItWasAskedForOnce) {
   EXPECT_EQ(RunXsec("transform " + drawing + " --offset -1"), 0) << fStderr;
   EXPECT_THAT(fStdout, HasSubstr("1 region, net area 64 mm2"));
   EXPECT_EQ(RunXsec("transform " + drawing + " --mirror 0,0,0,1 -o " + Out("a.json")), 0) << fStderr;
-  EXPECT_EQ(nlohmann::json::parse(ReadFile(Out("a.json")))["drawing"]["extents"]["minX"], -11);
+  EXPECT_EQ(xsec::ParsedJson(ReadFile(Out("a.json")))["drawing"]["extents"]["minX"], -11);
   EXPECT_EQ(RunXsec("transform " + drawing + " --rotate 90 -o " + Out("a.dxf")), 0) << fStderr;
   EXPECT_EQ(RunXsec("info " + Out("a.dxf")), 0) << fStderr;
   EXPECT_THAT(fStdout, HasSubstr("x -11 to -1, y 1 to 11"));
@@ -370,7 +371,7 @@ TEST_F(Xsec, DiffTellsWhatChangedByItsExitCode) {
 
 TEST_F(Xsec, SchemaIsPrinted) {
   EXPECT_EQ(RunXsec("schema"), 0);
-  EXPECT_TRUE(nlohmann::json::parse(fStdout).contains("properties"));
+  EXPECT_TRUE(xsec::ParsedJson(fStdout).contains("properties"));
 }
 
 TEST_F(Xsec, EndNearASideIsToldWithAToleranceThatWasTried) {
@@ -378,7 +379,7 @@ TEST_F(Xsec, EndNearASideIsToldWithAToleranceThatWasTried) {
   const std::string plate = Line(0, 0, 40, 0) + Line(40, 0, 50, 30) + Line(50, 30, 0, 30) + Line(0, 30, 0, 0);
   const std::string drawing = Drawing(DxfOf(plate + Line(0, 15, 44.998, 15)));
   EXPECT_EQ(RunXsec("check --json " + drawing), 1) << fStderr;
-  const auto miss = nlohmann::json::parse(fStdout)["nearMisses"][0];
+  const auto miss = xsec::ParsedJson(fStdout)["nearMisses"][0];
   EXPECT_FALSE(miss["otherIsEnd"]);
   EXPECT_TRUE(miss["closes"]);
   EXPECT_EQ(RunXsec("check " + drawing), 1);
@@ -563,7 +564,7 @@ TEST_F(XsecApart, DrawingThatComesIsAnsweredAsEver) {
   const int status = AwaitProgram();
   ASSERT_TRUE(WIFEXITED(status));
   EXPECT_EQ(WEXITSTATUS(status), 0) << fStderr;
-  EXPECT_EQ(nlohmann::json::parse(ReadFile(Out("a.json")))["regions"].size(), 1U);
+  EXPECT_EQ(xsec::ParsedJson(ReadFile(Out("a.json")))["regions"].size(), 1U);
 }
 
 TEST_F(Xsec, IsolatedAnswersWhatItAnswersInOneProcess) {

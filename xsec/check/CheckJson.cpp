@@ -9,13 +9,7 @@ namespace {
 constexpr int kFormatVersion = 1;
 
 Json OfEntity(std::size_t entity, const Drawing& drawing) {
-  if (entity == kNone) return nullptr;
-  const DrawingEntity& source = drawing.entities[entity];
-  return {{"type", source.type},
-          {"layer", source.layer},
-          {"block", source.block},
-          {"handle", source.handle},
-          {"line", source.line}};
+  return entity == kNone ? Json(nullptr) : OfSource(drawing.entities[entity]);
 }
 
 template <typename Items, typename Of>

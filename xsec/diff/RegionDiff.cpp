@@ -6,17 +6,15 @@
 #include <cmath>
 #include <limits>
 #include <map>
-#include <nlohmann/json.hpp>
 
 #include "xsec/DxfText.h"
 #include "xsec/Errors.h"
+#include "xsec/Json.h"
 #include "xsec/Report.h"
 
 namespace xsec {
 
 namespace {
-
-using Json = nlohmann::json;
 
 constexpr int kFormatVersion = 1;
 constexpr double kRounding = 1e-9;  // of an area
@@ -38,7 +36,7 @@ bool HasSameAreas(const FoundRegion& a, const FoundRegion& b, double tolerance) 
   return IsSameArea(a.baseArea, b.baseArea, tolerance) && IsSameArea(a.netArea, b.netArea, tolerance);
 }
 
-FoundRegion RegionOf(const Json& json) {
+FoundRegion RegionOf(const nlohmann::json& json) {
   FoundRegion region;
   region.id = json.at("id").get<std::size_t>();
   region.name = json.at("name").get<std::string>();
@@ -149,16 +147,16 @@ std::string Described(const FoundRegion& region) {
 FoundRegions ParseRegions(std::string_view aText, const std::string& aPath) {
   FoundRegions found;
   try {
-    const Json json = Json::parse(aText);
+    const nlohmann::json json = ParsedJson(aText);
     if (json.at("xsec").at("format").get<int>() != kFormatVersion) {
       throw InputError(
           aPath, 0,
-          fmt::format("its format is {}, this program reads {}", json["xsec"]["format"].dump(), kFormatVersion),
+          fmt::format("its format is {}, this program reads {}", LineOfJson(json["xsec"]["format"]), kFormatVersion),
           "write it anew with xsec regions -o FILE.json");
     }
     found.tolerance = json.at("settings").at("tolerance").get<double>();
-    for (const Json& region : json.at("regions")) found.regions.push_back(RegionOf(region));
-  } catch (const Json::exception&) {
+    for (const nlohmann::json& region : json.at("regions")) found.regions.push_back(RegionOf(region));
+  } catch (const nlohmann::json::exception&) {
     throw InputError(aPath, 0, "this is no JSON of regions", "write it with xsec regions -o FILE.json");
   }
   return found;

@@ -4,17 +4,16 @@
 
 #include <algorithm>
 #include <cmath>
-#include <nlohmann/json.hpp>
 
 #include "xsec/DxfText.h"
 #include "xsec/Errors.h"
+#include "xsec/Json.h"
 
 namespace xsec {
 
 namespace {
 
 using GeometryEngine::TGeometryRegionType;
-using Json = nlohmann::json;
 
 constexpr std::int32_t kLastColour = 255;
 
@@ -24,7 +23,7 @@ char Lower(char c) {
 
 /// One value of the file with the way to it, for messages: "rules[2].when.radius".
 struct Place {
-  const Json& value;
+  const nlohmann::json& value;
   std::string way;
   const std::string& file;
 
@@ -63,7 +62,7 @@ std::int32_t ColourIndex(const Place& place) {
 }
 
 RadiusBand Band(const Place& place) {
-  const Json& value = place.value;
+  const nlohmann::json& value = place.value;
   const bool isPair = value.is_array() && value.size() == 2 && value[0].is_number() && value[1].is_number();
   if (!isPair || !(0 <= value[0].get<double>() && value[0].get<double>() <= value[1].get<double>())) {
     place.Fail("expected two radii", "write [INNER, OUTER] in millimetres from the origin, the smaller one first");
@@ -93,7 +92,7 @@ TGeometryRegionType RegionType(const Place& place) {
     if (isNumber || (place.value.is_string() && IsSameName(place.value.get<std::string>(), name))) return type;
     names += fmt::format("{}{}", i == 0 ? "" : ", ", name);
   }
-  place.Fail(fmt::format("{} is no type of region", place.value.dump()), "known are 0 to 60, or by name " + names);
+  place.Fail(fmt::format("{} is no type of region", LineOfJson(place.value)), "known are 0 to 60, or by name " + names);
 }
 
 RuleCondition Condition(const Place& place) {
@@ -124,10 +123,10 @@ Rule RuleOf(const Place& place) {
   return {place.Has("when") ? Condition(place.At("when")) : RuleCondition{}, Result(place.At("set"))};
 }
 
-Json Parsed(std::string_view text, const std::string& path) {
+nlohmann::json Parsed(std::string_view text, const std::string& path) {
   try {
-    return Json::parse(text);
-  } catch (const Json::parse_error& error) {
+    return ParsedJson(text);
+  } catch (const nlohmann::json::parse_error& error) {
     const std::size_t before = std::min(error.byte, text.size());
     const auto line = std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(before), '\n') + 1;
     throw InputError(path, static_cast<std::size_t>(line), "this is no JSON",
@@ -138,7 +137,7 @@ Json Parsed(std::string_view text, const std::string& path) {
 }  // namespace
 
 std::vector<Rule> ParseRules(std::string_view aText, const std::string& aPath) {
-  const Json json = Parsed(aText, aPath);
+  const nlohmann::json json = Parsed(aText, aPath);
   const Place root{json, "", aPath};
   root.ExpectObject({"rules"});
   if (!root.Has("rules") || !json["rules"].is_array()) {

@@ -117,14 +117,6 @@ Json OfSettings(const Settings& settings) {
   return json;
 }
 
-Json OfSource(const DrawingEntity& source) {
-  return {{"type", source.type},
-          {"layer", source.layer},
-          {"block", source.block},
-          {"handle", source.handle},
-          {"line", source.line}};
-}
-
 Json OfOpenPiece(const OpenPiece& open, const Drawing& drawing) {
   Json json = OfPiece(open.piece, drawing);
   json["startLoose"] = open.fromDangles;
