@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 #include "xsec/prepare/Curves.h"
 #include "xsec/prepare/EntityGrid.h"
@@ -108,14 +109,27 @@ PreparedDrawing AsDrawn(const Drawing& aDrawing) {
 
 namespace {
 
-PreparedDrawing PrepareTurned(const Drawing& aDrawing, double aTolerance, double aTurn) {
-  Preparation work = WorkOn(aDrawing, aTolerance, Turn(aTurn));
+/// A drawing, turned, on its way through the preparation.
+struct Attempt {
+  double turn = 0;
+  Preparation work;
+};
+
+/// The steps up to the one that tells which lines run too steeply: what follows is for the best attempt alone.
+Attempt Begin(const Drawing& drawing, double tolerance, double turn) {
+  Attempt attempt{turn, WorkOn(drawing, tolerance, Turn(turn))};
+  Preparation& work = attempt.work;
   SetDoublesApart(work);
   UnifyCircles(work);
-  work.pairs = NearPairs(work.parts, kReachInTolerances * aTolerance);
+  work.pairs = NearPairs(work.parts, kReachInTolerances * tolerance);
   TurnSeams(work);
   FindMeetings(work);
   CutSteepLines(work);
+  return attempt;
+}
+
+PreparedDrawing Finish(Attempt attempt) {
+  Preparation& work = attempt.work;
   SettleTurnOrder(work);
   PieceCollector collector(work);
   collector.TakeAll();
@@ -123,31 +137,35 @@ PreparedDrawing PrepareTurned(const Drawing& aDrawing, double aTolerance, double
   prepared.pieces = std::move(collector).Result();
   for (const MeetingPlace& place : FindPlaces(work)) prepared.places.push_back(place.point);
   prepared.cures = std::move(work.cures);
-  prepared.turn = aTurn;
+  prepared.turn = attempt.turn;
   return prepared;
 }
 
-std::size_t CountSteepLines(const PreparedDrawing& prepared) {
-  return static_cast<std::size_t>(std::count_if(prepared.cures.begin(), prepared.cures.end(),
-                                                [](const Cure& cure) { return cure.kind == CureKind::SteepLine; }));
+std::vector<Cure> SteepLinesOf(const Attempt& attempt) {
+  std::vector<Cure> steep;
+  std::copy_if(attempt.work.cures.begin(), attempt.work.cures.end(), std::back_inserter(steep),
+               [](const Cure& cure) { return cure.kind == CureKind::SteepLine; });
+  return steep;
 }
 
 }  // namespace
 
 PreparedDrawing Prepare(const Drawing& aDrawing, double aTolerance) {
-  PreparedDrawing best = PrepareTurned(aDrawing, aTolerance, kTurns.front());
-  std::vector<Cure> steep;
-  for (const Cure& cure : best.cures) {
-    if (cure.kind == CureKind::SteepLine) steep.push_back(cure);
+  Attempt best = Begin(aDrawing, aTolerance, kTurns.front());
+  const std::vector<Cure> steepAsDrawn = SteepLinesOf(best);
+  std::size_t steepLines = steepAsDrawn.size();
+  for (std::size_t i = 1; i < kTurns.size() && steepLines > 0; ++i) {
+    Attempt turned = Begin(aDrawing, aTolerance, kTurns[i]);
+    const std::size_t count = SteepLinesOf(turned).size();
+    if (count >= steepLines) continue;
+    best = std::move(turned);
+    steepLines = count;
   }
-  for (std::size_t i = 1; i < kTurns.size() && CountSteepLines(best) > 0; ++i) {
-    PreparedDrawing turned = PrepareTurned(aDrawing, aTolerance, kTurns[i]);
-    if (CountSteepLines(turned) < CountSteepLines(best)) best = std::move(turned);
-  }
-  const Turn back = Turn(best.turn).Back();
-  for (Cure& cure : best.cures) cure.place = back(cure.place);
-  if (CountSteepLines(best) == 0) best.cures.insert(best.cures.end(), steep.begin(), steep.end());
-  return best;
+  PreparedDrawing prepared = Finish(std::move(best));
+  const Turn back = Turn(prepared.turn).Back();
+  for (Cure& cure : prepared.cures) cure.place = back(cure.place);
+  if (steepLines == 0) prepared.cures.insert(prepared.cures.end(), steepAsDrawn.begin(), steepAsDrawn.end());
+  return prepared;
 }
 
 }  // namespace xsec
