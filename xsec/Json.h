@@ -12,7 +12,7 @@ namespace xsec {
 /// What is written: its keys stay as they are put in. What has been read is nlohmann::json, its keys sorted.
 using Json = nlohmann::ordered_json;
 
-/// Throws nlohmann::json::parse_error.
+/// Throws nlohmann::json::parse_error, and out_of_range for a number that no double holds.
 nlohmann::json ParsedJson(std::string_view aText);
 
 /// In one line.

@@ -43,6 +43,8 @@ TEST(ParseRules, ReadsConditionsAndWhatIsSet) {
 
 TEST(ParseRules, SaysWhereTheFaultIs) {
   EXPECT_THAT(RefusalOfRules("{\"rules\": [\n  {\"set\": }\n]}"), StartsWith("r.json:2: this is no JSON"));
+  EXPECT_THAT(RefusalOfRules("{\"rules\": [\n{\"when\":\n{\"radius\": [1, 1e999]}}]}"),
+              StartsWith("r.json:3: 1e999 is too large a number"));
   EXPECT_THAT(RefusalOfRules("[]"), StartsWith("r.json: expected an object"));
   EXPECT_THAT(RefusalOfRules("{}"), StartsWith("r.json: there are no rules"));
   EXPECT_THAT(RefusalOfRules(R"({"rules": [{"set": {}}]})"), StartsWith("r.json: rules[0].set: nothing is set"));

@@ -161,9 +161,9 @@ TEST_F(Xsec, EmptyDrawingHasNoClosedRegion) {
 TEST_F(Xsec, WrongUsageIsToldBeforeAnythingIsRead) {
   for (const std::string arguments :
        {"", "nonsense", "regions", "regions missing.dxf -o a.pdf", "regions missing.dxf -o a",
-        "regions missing.dxf -o a.svg -o ./a.svg", "regions missing.dxf --tol 0", "regions missing.dxf --tol -1",
-        "regions missing.dxf --tol nan", "regions missing.dxf --tol inf", "regions missing.dxf --tol x",
-        "regions missing.dxf --units furlongs-ish", "regions missing.dxf --setting 6525",
+        "regions missing.dxf -o a.svg -o ./a.svg", "regions missing.dxf -o \"\"", "regions missing.dxf --tol 0",
+        "regions missing.dxf --tol -1", "regions missing.dxf --tol nan", "regions missing.dxf --tol inf",
+        "regions missing.dxf --tol x", "regions missing.dxf --units furlongs-ish", "regions missing.dxf --setting 6525",
         "regions missing.dxf --setting a=1", "regions missing.dxf --machine-type 256",
         "regions missing.dxf --machine-type -1", "regions missing.dxf --unknown", "regions missing.dxf extra.dxf"}) {
     EXPECT_EQ(RunXsec(arguments), 2) << arguments;

@@ -123,14 +123,27 @@ Rule RuleOf(const Place& place) {
   return {place.Has("when") ? Condition(place.At("when")) : RuleCondition{}, Result(place.At("set"))};
 }
 
+std::size_t LineAt(std::string_view text, std::size_t byte) {
+  const std::string_view before = text.substr(0, byte);
+  return static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n')) + 1;
+}
+
+/// The number that a message of the JSON library has between quotes.
+std::string_view QuotedIn(std::string_view message) {
+  const std::size_t first = message.find('\'') + 1;
+  return message.substr(first, message.rfind('\'') - first);
+}
+
 nlohmann::json Parsed(std::string_view text, const std::string& path) {
   try {
     return ParsedJson(text);
   } catch (const nlohmann::json::parse_error& error) {
-    const std::size_t before = std::min(error.byte, text.size());
-    const auto line = std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(before), '\n') + 1;
-    throw InputError(path, static_cast<std::size_t>(line), "this is no JSON",
+    throw InputError(path, LineAt(text, error.byte), "this is no JSON",
                      "see whether a comma, a quote or a bracket is missing here or before");
+  } catch (const nlohmann::json::out_of_range& error) {
+    const std::string_view number = QuotedIn(error.what());
+    throw InputError(path, LineAt(text, text.find(number)), fmt::format("{} is too large a number", number),
+                     "numbers go up to 1.7e308");
   }
 }
 

@@ -121,12 +121,13 @@ std::vector<Output> FindOutputs(const std::vector<std::string>& aPaths) {
   std::vector<Output> outputs;
   std::vector<fs::path> known;
   for (const std::string& path : aPaths) {
+    const Format& format = FindFormat(path);
     const fs::path normal = fs::absolute(path).lexically_normal();
     if (std::find(known.begin(), known.end(), normal) != known.end()) {
       throw UsageError(fmt::format("-o {}: given twice", path));
     }
     known.push_back(normal);
-    outputs.push_back({path, FindFormat(path).render});
+    outputs.push_back({path, format.render});
   }
   return outputs;
 }
