@@ -137,6 +137,39 @@ TEST(NearPairs, OfCirclesWithinEachOtherAreTheHalvesOfEach) {
   EXPECT_THAT(NearPairs(parts, 0.01), SizeIs(500));
 }
 
+/// Slots along a bore, each of four parts one above the other, as a file writes their points.
+Drawing SlotsAlongABore(int slots) {
+  const double step = 360.0 / slots;
+  const auto written = [](double value) { return std::round(value * 1e9) / 1e9; };
+  const auto on = [&](double radius, double degrees) {
+    const double radians = degrees * std::numbers::pi / 180;
+    return Point{written(radius * std::cos(radians)), written(radius * std::sin(radians))};
+  };
+  Drawing drawing = DrawingOf(Circle(0, 0, 140));
+  const auto add = [&](const GeometryEngine::TDXFEntity& entity) {
+    drawing.entities.push_back({entity, {}, {}, {}, {}});
+  };
+  const auto addArc = [&](double radius, double from, double to) {
+    add(GeometryEngine::TDXFEntity::Arc(on(radius, from), on(radius, to), {0, 0}, radius, from, to));
+  };
+  for (int slot = 0; slot < slots; ++slot) {
+    const double left = (slot + 0.25) * step;
+    const double right = (slot + 0.75) * step;
+    for (const double side : {left, right}) add(GeometryEngine::TDXFEntity::Line(on(100, side), on(120, side)));
+    for (const double radius : {100.0, 105.0, 110.0, 115.0, 120.0}) addArc(radius, left, right);
+    addArc(100, slot == 0 ? 360 - 0.25 * step : left - 0.5 * step, left);
+  }
+  return drawing;
+}
+
+TEST(Prepare, EveryPartOfEverySlotIsFoundThoughSomeOfTheirSidesAreSteepInEveryOrientation) {
+  for (const int slots : {106, 108, 119, 133, 160, 168}) {
+    const Detection detection = DetectAt(SlotsAlongABore(slots), true, 0.15);
+    EXPECT_GT(Count(detection.diagnostics.cures, CureKind::SteepLine), 0U) << slots;
+    EXPECT_THAT(detection.regions, SizeIs(4 * slots + 2)) << slots;
+  }
+}
+
 TEST(Prepare, CircleThatTouchesAnotherFromInsideIsARegionInEveryDirection) {
   for (int k = 0; k < 120; ++k) {
     const double angle = 3 * k * std::numbers::pi / 180;

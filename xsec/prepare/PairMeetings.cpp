@@ -63,10 +63,20 @@ Frame FrameOfArcs(const TDXFEntity& a, const TDXFEntity& b) {
   return {a.CentreCoords, {up.y, -up.x}};
 }
 
+/// The line lies level, or stands upright when it runs towards the centre: where it meets the circle is far away then
+/// from the direction at which angles begin anew. An arc that ends there may begin just past it in one rounding and
+/// just before it in another.
+Frame FrameOfLineAndArc(const TDXFEntity& line, const TDXFEntity& arc) {
+  const Point along = DirectionOfLine(line);
+  const Point arm = line.StartCoords - arc.CentreCoords;
+  const bool isTowardsCentre = std::abs(along.x * arm.y - along.y * arm.x) < arc.radius / 2;
+  return {arc.CentreCoords, isTowardsCentre ? Point{along.y, -along.x} : along};
+}
+
 Frame FrameOf(const TDXFEntity& a, const TDXFEntity& b) {
   if (IsArc(a) && IsArc(b)) return FrameOfArcs(a, b);
-  if (IsArc(a)) return {a.CentreCoords, DirectionOfLine(b)};
-  if (IsArc(b)) return {b.CentreCoords, DirectionOfLine(a)};
+  if (IsArc(a)) return FrameOfLineAndArc(b, a);
+  if (IsArc(b)) return FrameOfLineAndArc(a, b);
   return FrameOfLines(a, b);
 }
 
