@@ -51,6 +51,14 @@ std::string Coordinates(const Point& point) {
   return fmt::format("({:.6g}, {:.6g})", point.x, point.y);
 }
 
+/// The library sums up chords about the origin: the farther from there, the farther its centroid is off. A label that
+/// is the centroid goes with it.
+void SettleCentroid(Region& region) {
+  const bool isLabelled = region.label.x == region.centroid.x && region.label.y == region.centroid.y;
+  region.centroid = Centroid(region.outline);
+  if (isLabelled) region.label = region.centroid;
+}
+
 void SettleLabel(std::size_t index, Detection& detection, double tolerance) {
   Region& region = detection.regions[index];
   const RegionSpace space = SpaceOf(region, detection.regions);
@@ -128,6 +136,7 @@ void CompareNesting(const TEntityTree& aRegionTree, std::span<const TracedLoop> 
 void CheckRegions(Detection& aDetection, const Settings& aSettings) {
   for (std::size_t i = 0; i < aDetection.regions.size(); ++i) {
     aDetection.regions[i].sliver = IsSliver(aDetection.regions[i], aSettings.sliverArea, aSettings.tolerance);
+    SettleCentroid(aDetection.regions[i]);
     SettleLabel(i, aDetection, aSettings.tolerance);
     CompareAreas(i, aDetection, aSettings.tolerance);
   }

@@ -19,8 +19,8 @@ namespace xsec {
 void CompareNesting(const GeometryEngine::TEntityTree& aRegionTree, std::span<const TracedLoop> aFaces,
                     Detection& aDetection);
 
-/// Sees to it that every label lies well inside its region and outside its children, moves it when it does not, marks
-/// slivers, and compares the library's areas with those of the loops.
+/// Measures centroids along the true arcs, sees to it that every label lies well inside its region and outside its
+/// children, moves it when it does not, marks slivers, and compares the library's areas with those of the loops.
 void CheckRegions(Detection& aDetection, const Settings& aSettings);
 
 /// Lists the pieces that bound no region, and counts the sides of the others that no loop was traced along.

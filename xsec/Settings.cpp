@@ -21,10 +21,6 @@ using enum Maindataenum::TInputFields;
 constexpr double kTolerancePerDiagonal = 1e-6;
 constexpr double kToleranceWithoutSize = 1e-4;  // millimetres
 
-/// Chords for each 10 degrees of an arc. The centroid of a region takes its arcs as chords, and what they leave out
-/// draws it towards the origin: a hundredth of what the library's own starting value lets through.
-constexpr double kArcResolution = 50;
-
 constexpr TInputFields kFieldsOfTheLibrary[] = {
     ifSlotDuplications, ifPoleDuplications, ifBarDuplications, ifLinearTolerance,   ifSnappingMode,
     ifAngleTolerance,   ifMinimumLabelArea, ifArcResolution,   ifUniqueRegionNames,
@@ -82,7 +78,6 @@ void CheckSettings(const SettingsRequest& aRequest) {
 Settings ApplySettings(const SettingsRequest& aRequest, const Extents& aExtents) {
   auto& store = Kelvaralinks::dataStore;
   store.Reset();
-  store.SetValue(ifArcResolution, kArcResolution);
   store.SetValue(ifLinearTolerance, aRequest.tolerance.value_or(DefaultTolerance(aExtents)));
   bool given = aRequest.tolerance.has_value();
   for (const FieldValue& asked : aRequest.fields) {

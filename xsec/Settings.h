@@ -54,8 +54,7 @@ FieldValue ParseFieldValue(std::string_view aText);
 /// Throws UsageError when the tolerance is given twice: neither may silently win.
 void CheckSettings(const SettingsRequest& aRequest);
 
-/// Puts the host's store and input-data record to their starting values, the arc resolution finer than that, then sets
-/// what the request says.
+/// Puts the host's store and input-data record to their starting values, then sets what the request says.
 Settings ApplySettings(const SettingsRequest& aRequest, const Extents& aExtents);
 
 }  // namespace xsec

@@ -88,10 +88,27 @@ void AddArcCrossings(const TravelledPiece& piece, double y, std::vector<double>&
   }
 }
 
+/// An angle less its sine, the digits kept where they are nearly the same.
+double LessItsSine(double angle) {
+  constexpr double kSmall = 0.01;  // radians; the next term would be below a double's last place
+  const double square = angle * angle;
+  if (std::abs(angle) > kSmall) return angle - std::sin(angle);
+  return angle * square / 6 * (1 - square / 20 * (1 - square / 42));
+}
+
 /// The area between an arc and its chord, positive when the arc bulges to the right of its travel.
 double SegmentArea(const TravelledPiece& piece) {
-  const double sweep = piece.sweep * kRadiansPerDegree;
-  return piece.radius * piece.radius / 2 * (sweep - std::sin(sweep));
+  return piece.radius * piece.radius / 2 * LessItsSine(piece.sweep * kRadiansPerDegree);
+}
+
+/// That area times where its centroid lies, seen from a point. About the arc's own centre, where it is the cube of the
+/// chord over 12 along the middle of the arc, and from there moved.
+Point SegmentMoment(const TravelledPiece& piece, const Point& origin) {
+  const double halfSweep = piece.sweep / 2 * kRadiansPerDegree;
+  const double middle = piece.startAngle * kRadiansPerDegree + halfSweep;
+  const double chord = 2 * piece.radius * std::sin(halfSweep);
+  const double aboutCentre = chord * chord * chord / 12;
+  return SegmentArea(piece) * (piece.centre - origin) + aboutCentre * Point{std::cos(middle), std::sin(middle)};
 }
 
 void Widen(Extents& box, const Point& point) {
@@ -182,6 +199,20 @@ double SignedArea(const Loop& aLoop) {
     if (piece.isArc) area += SegmentArea(piece);
   }
   return area;
+}
+
+Point Centroid(const Loop& aLoop) {
+  const double area = SignedArea(aLoop);
+  if (aLoop.empty() || area == 0) return {};
+  const Point origin = aLoop.front().from;
+  Point moment;
+  for (const TravelledPiece& piece : aLoop) {
+    const Point a = piece.from - origin;
+    const Point b = piece.to - origin;
+    moment = moment + (a.x * b.y - b.x * a.y) / 6 * (a + b);
+    if (piece.isArc) moment = moment + SegmentMoment(piece, origin);
+  }
+  return origin + 1 / area * moment;
 }
 
 double Length(const Loop& aLoop) {

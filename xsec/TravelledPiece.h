@@ -51,6 +51,8 @@ void AddCrossings(const TravelledPiece& aPiece, double aY, std::vector<double>& 
 
 /// Positive when the loop is travelled anticlockwise.
 double SignedArea(const Loop& aLoop);
+/// Of the area within the loop. DEGENERATE: the origin when that is 0.
+Point Centroid(const Loop& aLoop);
 double Length(const Loop& aLoop);
 double Distance(const Loop& aLoop, const Point& aPoint);
 Extents Bounds(const Loop& aLoop);

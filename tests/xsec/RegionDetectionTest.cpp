@@ -56,10 +56,12 @@ TEST(DetectRegions, SquareIsOneRegionWithItsMeasures) {
   EXPECT_EQ(detection.diagnostics.lostSides, 0U);
 }
 
-TEST(DetectRegions, SmallDiscFarFromTheOriginHasItsCentroidAtItsCentre) {
-  const Detection detection = Detect(Circle(117, 0, 1));
+TEST(DetectRegions, SmallDiscFarFromTheOriginHasItsCentroidAndLabelAtItsCentre) {
+  const Detection detection = Detect(Circle(117000, -42000, 1));
   ASSERT_THAT(detection.regions, SizeIs(1));
-  EXPECT_THAT(detection.regions[0].centroid, IsNear(117, 0, 1e-3));
+  EXPECT_THAT(detection.regions[0].centroid, IsNear(117000, -42000, 1e-9));
+  EXPECT_THAT(detection.regions[0].label, IsNear(117000, -42000, 1e-9));
+  EXPECT_THAT(detection.diagnostics.corrections, IsEmpty());
 }
 
 TEST(DetectRegions, EveryPieceKnowsTheEntityItWasCutFrom) {

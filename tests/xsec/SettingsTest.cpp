@@ -61,7 +61,7 @@ TEST(ApplySettings, ForgetsWhatAFormerCallSet) {
   const GeometryEngine::support::TSettingsGuard guard;
   ApplySettings({{}, {{6529, 9}}, 6}, {0, 0, 1, 1});
   ApplySettings({}, {0, 0, 1, 1});
-  EXPECT_EQ(dataStore.GetValue(ifArcResolution), 50);
+  EXPECT_EQ(dataStore.GetValue(ifArcResolution), 5);
   EXPECT_EQ(Kelvaralinks::InputData.MachineType, 0);
 }
 

@@ -78,6 +78,37 @@ TEST(SignedArea, OfNothingIsZero) {
   EXPECT_EQ(SignedArea(Loop{}), 0);
 }
 
+TEST(SignedArea, OfAFlatArcKeepsItsDigits) {
+  const double sweep = 1e-4;  // radians; the segment is two thirds of chord times height, all but a part of 1e-9
+  const double radius = 1e6;
+  const Point end{radius * std::cos(sweep), radius * std::sin(sweep)};
+  const auto arc = GeometryEngine::TDXFEntity::Arc({radius, 0}, end, {0, 0}, radius, 0, sweep * 180 / kPi);
+  const Loop segment = {Travel(arc, true), Travel(GeometryEngine::TDXFEntity::Line(end, {radius, 0}), true)};
+  EXPECT_NEAR(SignedArea(segment) / (radius * radius * sweep * sweep * sweep / 12), 1, 1e-9);
+}
+
+TEST(Centroid, IsExactForArcsFarFromTheOrigin) {
+  EXPECT_THAT(Centroid(LoopOf(Circle(1e5, -3e5, 2))), IsNear(1e5, -3e5, 1e-9));
+  // Of a half disc 4 r / (3 pi) from its middle.
+  const Loop half = LoopOf("L 99998,7 100002,7; A c 100000,7 r 2 0..180");
+  EXPECT_THAT(Centroid(half), IsNear(1e5, 7 + 8 / (3 * kPi), 1e-9));
+  EXPECT_THAT(Centroid(Reversed(half)), IsNear(1e5, 7 + 8 / (3 * kPi), 1e-9));
+}
+
+TEST(Centroid, OfAPlateWithABiteIsWhereTheBiteLeavesIt) {
+  Loop bitten = LoopOf("L 0,0 4,0; L 4,0 4,1");
+  bitten.push_back(Travel(ParseEntity("A c 4,2 r 1 90..270"), false));
+  for (const auto& piece : LoopOf("L 4,3 4,4; L 4,4 0,4; L 0,4 0,0")) bitten.push_back(piece);
+  const double bite = kPi / 2;
+  const double x = (16 * 2 - bite * (4 - 4 / (3 * kPi))) / (16 - bite);
+  EXPECT_THAT(Centroid(bitten), IsNear(x, 2, 1e-12));
+}
+
+TEST(Centroid, WithoutAreaIsTheOrigin) {
+  EXPECT_THAT(Centroid(Loop{}), IsNear(0, 0, 0));
+  EXPECT_THAT(Centroid(LoopOf("L 1,2 3,4; L 3,4 1,2")), IsNear(0, 0, 0));
+}
+
 TEST(Length, OfArcAndLine) {
   EXPECT_DOUBLE_EQ(Length(Travel(ParseEntity("L 1,1 4,5"), true)), 5);
   EXPECT_NEAR(Length(Travel(ParseEntity("A c 0,0 r 2 90..180"), false)), kPi, 1e-12);
