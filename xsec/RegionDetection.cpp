@@ -10,9 +10,9 @@
 #include "xsec/RegionTree.h"
 #include "xsec/SourceLookup.h"
 #include "xsec/prepare/MergedLoops.h"
+#include "xsec/prepare/Motion.h"
 #include "xsec/prepare/Prepare.h"
 #include "xsec/prepare/Slivers.h"
-#include "xsec/prepare/Turn.h"
 #include "xsec/prepare/VertexPlaces.h"
 
 namespace xsec {
@@ -135,7 +135,7 @@ std::vector<std::size_t> FindSources(const TEntityStorage& pieces, const std::ve
 class Run {
  public:
   Run(const Drawing& drawing, const Settings& settings, const PreparedDrawing& prepared)
-      : fDrawing(drawing), fSettings(settings), fBack(Turn(prepared.turn).Back()) {
+      : fDrawing(drawing), fSettings(settings), fBack(prepared.motion.Back()) {
     FillStorage(fStorage, prepared.pieces, settings.tolerance);
     fCures = RunDriver(fDriver, fStorage, prepared.places, settings.tolerance);
     fSources = FindSources(Pieces(), prepared.pieces, settings.tolerance);
@@ -177,7 +177,7 @@ class Run {
 
   const Drawing& fDrawing;
   const Settings& fSettings;
-  Turn fBack;  ///< from how the library has the drawing to how it was drawn
+  Motion fBack;  ///< from how the library has the drawing to how it was drawn
   TEntityStorage fStorage;
   TEntityBaseClass fDriver;
   std::vector<Cure> fCures;

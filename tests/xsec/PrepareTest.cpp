@@ -138,19 +138,19 @@ TEST(NearPairs, OfCirclesWithinEachOtherAreTheHalvesOfEach) {
 }
 
 /// Slots along a bore, each of four parts one above the other, as a file writes their points.
-Drawing SlotsAlongABore(int slots) {
+Drawing SlotsAlongABore(int slots, const Point& middle = {}) {
   const double step = 360.0 / slots;
   const auto written = [](double value) { return std::round(value * 1e9) / 1e9; };
   const auto on = [&](double radius, double degrees) {
     const double radians = degrees * std::numbers::pi / 180;
-    return Point{written(radius * std::cos(radians)), written(radius * std::sin(radians))};
+    return Point{written(middle.x + radius * std::cos(radians)), written(middle.y + radius * std::sin(radians))};
   };
-  Drawing drawing = DrawingOf(Circle(0, 0, 140));
+  Drawing drawing = DrawingOf(Circle(middle.x, middle.y, 140));
   const auto add = [&](const GeometryEngine::TDXFEntity& entity) {
     drawing.entities.push_back({entity, {}, {}, {}, {}});
   };
   const auto addArc = [&](double radius, double from, double to) {
-    add(GeometryEngine::TDXFEntity::Arc(on(radius, from), on(radius, to), {0, 0}, radius, from, to));
+    add(GeometryEngine::TDXFEntity::Arc(on(radius, from), on(radius, to), middle, radius, from, to));
   };
   for (int slot = 0; slot < slots; ++slot) {
     const double left = (slot + 0.25) * step;
@@ -167,6 +167,27 @@ TEST(Prepare, EveryPartOfEverySlotIsFoundThoughSomeOfTheirSidesAreSteepInEveryOr
     const Detection detection = DetectAt(SlotsAlongABore(slots), true, 0.15);
     EXPECT_GT(Count(detection.diagnostics.cures, CureKind::SteepLine), 0U) << slots;
     EXPECT_THAT(detection.regions, SizeIs(4 * slots + 2)) << slots;
+  }
+}
+
+TEST(Prepare, RegionsFarFromTheOriginAreThoseNearIt) {
+  constexpr int kSlots = 12;
+  for (const Point& middle : {Point{1e5, 0}, Point{-3e5, 2e5}, Point{1e3, -1e6}}) {
+    const Detection detection = DetectAt(SlotsAlongABore(kSlots, middle), true);
+    EXPECT_THAT(detection.regions, SizeIs(4 * kSlots + 2)) << middle.x << "," << middle.y;
+    EXPECT_EQ(detection.diagnostics.lostSides, 0U);
+    EXPECT_THAT(detection.diagnostics.cures, IsEmpty());
+  }
+}
+
+TEST(Prepare, DrawingThatIsMovedMeanwhileKeepsItsDigits) {
+  const Drawing drawing = DrawingOf("L 100000.1,7 100003.3,7; L 100003.3,7 100000.1,9; L 100000.1,9 100000.1,7");
+  const Detection detection = DetectAt(drawing, true);
+  ASSERT_THAT(detection.regions, SizeIs(1));
+  EXPECT_THAT(detection.regions[0].outline, SizeIs(3));
+  for (const TravelledPiece& piece : detection.regions[0].outline) {
+    EXPECT_TRUE(piece.from.x == 100000.1 || piece.from.x == 100003.3);
+    EXPECT_TRUE(piece.from.y == 7 || piece.from.y == 9);
   }
 }
 

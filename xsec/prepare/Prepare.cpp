@@ -2,13 +2,15 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <iterator>
 
+#include "xsec/DrawingExtents.h"
 #include "xsec/prepare/Curves.h"
 #include "xsec/prepare/EntityGrid.h"
+#include "xsec/prepare/Motion.h"
 #include "xsec/prepare/PointCells.h"
 #include "xsec/prepare/Preparation.h"
-#include "xsec/prepare/Turn.h"
 #include "xsec/prepare/VertexPlaces.h"
 
 namespace xsec {
@@ -17,14 +19,28 @@ namespace {
 
 using GeometryEngine::TDXFEntity;
 
-/// Tried one after the other; no two lie a round angle apart.
-constexpr std::array kTurns = {0.0, 7.31, 23.17, 41.73, 66.91, 103.57, 137.51, 158.83};
+/// Tried one after the other when the drawing as it lies won't do; no two lie a round angle apart.
+constexpr std::array kTurns = {7.31, 23.17, 41.73, 66.91, 103.57, 137.51, 158.83};
 
-Preparation WorkOn(const Drawing& drawing, double tolerance, const Turn& turn) {
+/// Where a drawing's middle is in one direction, in whole millimetres, when it lies farther from the origin than it is
+/// long; else the origin. So near by, what is taken off changes no digit of a coordinate.
+double PlaceOf(double min, double max) {
+  const double middle = min + (max - min) / 2;
+  return std::abs(middle) > max - min ? std::round(middle) : 0;
+}
+
+/// Squares of coordinates are what the library finds meetings by: far from the origin they have too few digits for
+/// that.
+Point PlaceOf(const Drawing& drawing) {
+  const Extents box = ExtentsOf(drawing.entities);
+  return {PlaceOf(box.minX, box.maxX), PlaceOf(box.minY, box.maxY)};
+}
+
+Preparation WorkOn(const Drawing& drawing, double tolerance, const Motion& motion) {
   Preparation work;
   work.tolerance = tolerance;
   for (std::size_t i = 0; i < drawing.entities.size(); ++i) {
-    const TDXFEntity entity = turn(drawing.entities[i].geometry);
+    const TDXFEntity entity = motion(drawing.entities[i].geometry);
     if (entity.StartCoords != entity.EndCoords) work.parts.push_back({entity, i, {}, {}});
   }
   return work;
@@ -109,15 +125,15 @@ PreparedDrawing AsDrawn(const Drawing& aDrawing) {
 
 namespace {
 
-/// A drawing, turned, on its way through the preparation.
+/// A drawing, moved and turned, on its way through the preparation.
 struct Attempt {
-  double turn = 0;
+  Motion motion;
   Preparation work;
 };
 
 /// The steps up to the one that tells which lines run too steeply: what follows is for the best attempt alone.
-Attempt Begin(const Drawing& drawing, double tolerance, double turn) {
-  Attempt attempt{turn, WorkOn(drawing, tolerance, Turn(turn))};
+Attempt Begin(const Drawing& drawing, double tolerance, const Motion& motion) {
+  Attempt attempt{motion, WorkOn(drawing, tolerance, motion)};
   Preparation& work = attempt.work;
   SetDoublesApart(work);
   UnifyCircles(work);
@@ -137,7 +153,7 @@ PreparedDrawing Finish(Attempt attempt) {
   prepared.pieces = std::move(collector).Result();
   for (const MeetingPlace& place : FindPlaces(work)) prepared.places.push_back(place.point);
   prepared.cures = std::move(work.cures);
-  prepared.turn = attempt.turn;
+  prepared.motion = attempt.motion;
   return prepared;
 }
 
@@ -148,22 +164,28 @@ std::vector<Cure> SteepLinesOf(const Attempt& attempt) {
   return steep;
 }
 
+void MoveBack(const Motion& motion, std::vector<Cure>& cures) {
+  const Motion back = motion.Back();
+  for (Cure& cure : cures) cure.place = back(cure.place);
+}
+
 }  // namespace
 
 PreparedDrawing Prepare(const Drawing& aDrawing, double aTolerance) {
-  Attempt best = Begin(aDrawing, aTolerance, kTurns.front());
-  const std::vector<Cure> steepAsDrawn = SteepLinesOf(best);
+  const Point place = PlaceOf(aDrawing);
+  Attempt best = Begin(aDrawing, aTolerance, Motion(place));
+  std::vector<Cure> steepAsDrawn = SteepLinesOf(best);
+  MoveBack(best.motion, steepAsDrawn);
   std::size_t steepLines = steepAsDrawn.size();
-  for (std::size_t i = 1; i < kTurns.size() && steepLines > 0; ++i) {
-    Attempt turned = Begin(aDrawing, aTolerance, kTurns[i]);
+  for (std::size_t i = 0; i < kTurns.size() && steepLines > 0; ++i) {
+    Attempt turned = Begin(aDrawing, aTolerance, Motion(place, kTurns[i]));
     const std::size_t count = SteepLinesOf(turned).size();
     if (count >= steepLines) continue;
     best = std::move(turned);
     steepLines = count;
   }
   PreparedDrawing prepared = Finish(std::move(best));
-  const Turn back = Turn(prepared.turn).Back();
-  for (Cure& cure : prepared.cures) cure.place = back(cure.place);
+  MoveBack(prepared.motion, prepared.cures);
   if (steepLines == 0) prepared.cures.insert(prepared.cures.end(), steepAsDrawn.begin(), steepAsDrawn.end());
   return prepared;
 }

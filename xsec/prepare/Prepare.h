@@ -10,6 +10,7 @@
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
 #include "xsec/Drawing.h"
 #include "xsec/prepare/Cures.h"
+#include "xsec/prepare/Motion.h"
 
 namespace xsec {
 
@@ -23,17 +24,17 @@ struct PreparedDrawing {
   std::vector<PreparedPiece> pieces;
   std::vector<Point> places;  ///< where they end and meet; none when nothing was prepared
   std::vector<Cure> cures;
-  double turn = 0;  ///< degrees by which all of it is turned about the origin
+  Motion motion;  ///< from the drawing to these
 };
 
 /// The drawing's entities as they are.
 PreparedDrawing AsDrawn(const Drawing& aDrawing);
 
-/// The drawing's entities put so that their regions do not depend on how the drawing lies. When it has lines so steep
-/// that their points would get into the wrong order, all of it is turned, by the first of some angles that has none.
-/// REQUIRES: the settings have been applied to the library.
-/// COST: near-linear in the entities and their meetings, once for each angle tried; entities that crowd into one place
-/// cost pairs there.
+/// The drawing's entities put so that their regions do not depend on how the drawing lies. A drawing far from the
+/// origin is moved there. When it has lines so steep that their points would get into the wrong order, all of it is
+/// turned, by the first of some angles that has none. REQUIRES: the settings have been applied to the library. COST:
+/// near-linear in the entities and their meetings, once for each angle tried; entities that crowd into one place cost
+/// pairs there.
 PreparedDrawing Prepare(const Drawing& aDrawing, double aTolerance);
 
 }  // namespace xsec

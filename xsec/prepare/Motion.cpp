@@ -1,0 +1,69 @@
+#include "xsec/prepare/Motion.h"
+
+#include <cmath>
+
+#include "GeometryEngine/host/Numerics.h"
+
+namespace xsec {
+
+namespace {
+
+double AngleTurned(double angle, double degrees) {
+  return degrees == 0 ? angle : GeometryEngine::GetAngleInRange(angle + degrees, 0, 360);
+}
+
+}  // namespace
+
+Motion::Motion(const Point& aOrigin, double aDegrees) : Motion(aOrigin, aDegrees, {}) {}
+
+Motion::Motion(const Point& aBefore, double aDegrees, const Point& aAfter)
+    : fBefore(aBefore),
+      fAfter(aAfter),
+      fDegrees(aDegrees),
+      fCosine(std::cos(aDegrees * GeometryEngine::kRadiansPerDegree)),
+      fSine(std::sin(aDegrees * GeometryEngine::kRadiansPerDegree)) {}
+
+Motion Motion::Back() const {
+  return Motion(fAfter, -fDegrees, fBefore);
+}
+
+// A coordinate that is not moved keeps its bits, the sign of its zero included.
+Point Motion::operator()(const Point& aPoint) const {
+  const auto sum = [](double a, double b) { return b == 0 ? a : a + b; };
+  const Point moved = {sum(aPoint.x, -fBefore.x), sum(aPoint.y, -fBefore.y)};
+  const Point turned =
+      fDegrees == 0 ? moved : Point{fCosine * moved.x - fSine * moved.y, fSine * moved.x + fCosine * moved.y};
+  return {sum(turned.x, fAfter.x), sum(turned.y, fAfter.y)};
+}
+
+GeometryEngine::TDXFEntity Motion::operator()(GeometryEngine::TDXFEntity aEntity) const {
+  aEntity.StartCoords = (*this)(aEntity.StartCoords);
+  aEntity.EndCoords = (*this)(aEntity.EndCoords);
+  aEntity.CentreCoords = (*this)(aEntity.CentreCoords);
+  aEntity.startAngle = AngleTurned(aEntity.startAngle, fDegrees);
+  aEntity.endAngle = AngleTurned(aEntity.endAngle, fDegrees);
+  return aEntity;
+}
+
+TravelledPiece Motion::operator()(TravelledPiece aPiece) const {
+  aPiece.from = (*this)(aPiece.from);
+  aPiece.to = (*this)(aPiece.to);
+  aPiece.centre = (*this)(aPiece.centre);
+  aPiece.startAngle = AngleTurned(aPiece.startAngle, fDegrees);
+  aPiece.endAngle = AngleTurned(aPiece.endAngle, fDegrees);
+  return aPiece;
+}
+
+void Motion::ApplyToLoops(Region& aRegion) const {
+  for (TravelledPiece& piece : aRegion.outline) piece = (*this)(piece);
+  for (Loop& hole : aRegion.holes) {
+    for (TravelledPiece& piece : hole) piece = (*this)(piece);
+  }
+}
+
+void Motion::ApplyToPoints(Region& aRegion) const {
+  aRegion.centroid = (*this)(aRegion.centroid);
+  aRegion.label = (*this)(aRegion.label);
+}
+
+}  // namespace xsec
