@@ -16,6 +16,7 @@ namespace {
 using GeometryEngine::TEntityTree;
 
 constexpr std::size_t kHeightsForLabel = 31;
+constexpr std::size_t kSides = 2;  // of a piece
 /// A label keeps this part of a region's area over its boundary, which is half the width of a long region.
 constexpr double kClearancePerHalfWidth = 0.1;
 constexpr double kAreaAgreement = 1e-6;  // of the larger of two areas
@@ -148,17 +149,22 @@ void CheckPieces(const TEntityTree& aCoordinateTree, const TEntityTree& aRegionT
   const std::vector<bool> isBridge = FindBridges(graph);
   const std::vector<std::size_t> travels = CountTravels(aRegionTree, graph.pieces.size());
   const auto dangles = [&](std::size_t vertex) { return graph.vertices[vertex].size() == 1; };
+  const auto travelled = [&](std::size_t i) {
+    TravelledPiece piece = Travel(aCoordinateTree.pEntityStorage()->EntityArray()[i], true);
+    piece.index = i;
+    piece.source = aSources[i];
+    return piece;
+  };
   for (std::size_t i = 0; i < graph.pieces.size(); ++i) {
     const auto& [from, to] = graph.pieces[i];
     if (!isBridge[i]) {
-      aDiagnostics.lostSides += from == to ? 0 : 2 - std::min<std::size_t>(travels[i], 2);
+      const std::size_t lost = from == to ? 0 : kSides - std::min(travels[i], kSides);
+      aDiagnostics.lostSides.insert(aDiagnostics.lostSides.end(), lost, travelled(i));
       continue;
     }
-    OpenPiece open{Travel(aCoordinateTree.pEntityStorage()->EntityArray()[i], true), dangles(from), dangles(to)};
+    OpenPiece open{travelled(i), dangles(from), dangles(to)};
     open.touches =
         (open.fromDangles && LeadsToOthers(graph, from, i)) || (open.toDangles && LeadsToOthers(graph, to, i));
-    open.piece.index = i;
-    open.piece.source = aSources[i];
     aDiagnostics.openPieces.push_back(open);
   }
 }

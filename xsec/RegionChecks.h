@@ -23,7 +23,7 @@ void CompareNesting(const GeometryEngine::TEntityTree& aRegionTree, std::span<co
 /// children, moves it when it does not, marks slivers, and compares the library's areas with those of the loops.
 void CheckRegions(Detection& aDetection, const Settings& aSettings);
 
-/// Lists the pieces that bound no region, and counts the sides of the others that no loop was traced along.
+/// Lists the pieces that bound no region, and the sides of the others that no loop was traced along.
 void CheckPieces(const GeometryEngine::TEntityTree& aCoordinateTree, const GeometryEngine::TEntityTree& aRegionTree,
                  std::span<const std::size_t> aSources, Diagnostics& aDiagnostics);
 

@@ -158,6 +158,7 @@ class Run {
     CheckRegions(detection, fSettings);
     CheckPieces(fDriver.CoordinateTree(), fDriver.RegionTree(), fSources, detection.diagnostics);
     for (OpenPiece& open : detection.diagnostics.openPieces) open.piece = fBack(open.piece);
+    for (TravelledPiece& lost : detection.diagnostics.lostSides) lost = fBack(lost);
     for (Cure& cure : detection.diagnostics.cures) cure.place = fBack(cure.place);
     CountCollapsed(fDrawing, detection.diagnostics);
     return detection;

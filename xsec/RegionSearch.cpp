@@ -52,6 +52,7 @@ class Turning {
       Apply(region.label);
     }
     for (OpenPiece& open : detection.diagnostics.openPieces) Apply(open.piece);
+    for (TravelledPiece& lost : detection.diagnostics.lostSides) Apply(lost);
     for (Cure& cure : detection.diagnostics.cures) Apply(cure.place);
   }
 

@@ -53,9 +53,9 @@ struct Diagnostics {
   std::vector<std::string> warnings;
   std::vector<Correction> corrections;
   std::vector<OpenPiece> openPieces;
-  std::vector<Cure> cures;    ///< what the preparation did
-  std::size_t collapsed = 0;  ///< entities whose ends are the same point under the tolerance
-  std::size_t lostSides = 0;  ///< sides of closed pieces that no loop was traced along
+  std::vector<Cure> cures;                ///< what the preparation did
+  std::vector<TravelledPiece> lostSides;  ///< closed pieces, once for each side that no loop was traced along
+  std::size_t collapsed = 0;              ///< entities whose ends are the same point under the tolerance
 };
 
 /// The number that stands for a region in every output and message; the first is 1.

@@ -175,7 +175,7 @@ TEST(Prepare, RegionsFarFromTheOriginAreThoseNearIt) {
   for (const Point& middle : {Point{1e5, 0}, Point{-3e5, 2e5}, Point{1e3, -1e6}}) {
     const Detection detection = DetectAt(SlotsAlongABore(kSlots, middle), true);
     EXPECT_THAT(detection.regions, SizeIs(4 * kSlots + 2)) << middle.x << "," << middle.y;
-    EXPECT_EQ(detection.diagnostics.lostSides, 0U);
+    EXPECT_THAT(detection.diagnostics.lostSides, IsEmpty());
     EXPECT_THAT(detection.diagnostics.cures, IsEmpty());
   }
 }

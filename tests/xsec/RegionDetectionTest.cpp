@@ -53,7 +53,7 @@ TEST(DetectRegions, SquareIsOneRegionWithItsMeasures) {
   EXPECT_THAT(detection.diagnostics.openPieces, IsEmpty());
   EXPECT_THAT(detection.diagnostics.warnings, IsEmpty());
   EXPECT_THAT(detection.diagnostics.corrections, IsEmpty());
-  EXPECT_EQ(detection.diagnostics.lostSides, 0U);
+  EXPECT_THAT(detection.diagnostics.lostSides, IsEmpty());
 }
 
 TEST(DetectRegions, SmallDiscFarFromTheOriginHasItsCentroidAndLabelAtItsCentre) {

@@ -5,6 +5,7 @@
 #include <numbers>
 #include <sstream>
 
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 
 #include "tests/support/Geometry.h"
@@ -18,6 +19,7 @@ namespace {
 
 using nlohmann::json;
 using ::testing::AllOf;
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
@@ -252,6 +254,17 @@ TEST(DiagnosticLines, TellUnitToleranceAndEverythingLeftOut) {
   EXPECT_THAT(all, HasSubstr("2 SPLINE turned into lines and arcs"));
   EXPECT_THAT(all, HasSubstr("warning: odd size"));
   EXPECT_THAT(all, HasSubstr("(12, 8) loose"));
+}
+
+TEST(DiagnosticLines, TellWhereALoopIsMissing) {
+  Carried carried{PlateWithDisc()};
+  const TravelledPiece& below = carried.detection.regions[0].outline[0];
+  carried.detection.diagnostics.lostSides = {below, below};
+  const auto lines = DiagnosticLines(carried.report());
+  const Point middle = MidPoint(below);
+  const std::string place = fmt::format("found: 2, first at ({:.6g}, {:.6g}), LINE on", middle.x, middle.y);
+  EXPECT_THAT(lines, Contains(HasSubstr(place)));
+  EXPECT_EQ(carried.AsJson()["diagnostics"]["lostSides"], 2);
 }
 
 TEST(DiagnosticLines, CutLongListsShort) {

@@ -47,14 +47,16 @@ void AddReading(const Drawing& drawing, Lines& lines) {
   }
 }
 
+std::string Source(const TravelledPiece& piece, const Drawing& drawing) {
+  return piece.source == kNone ? "" : ", " + SourceText(drawing.entities[piece.source]);
+}
+
 std::string Place(const OpenPiece& open, const Drawing& drawing) {
   const auto end = [](const Point& point, bool dangles) {
     return fmt::format("({:.6g}, {:.6g}){}", point.x, point.y, dangles ? " loose" : "");
   };
-  std::string place =
-      fmt::format("{} to {}", end(open.piece.from, open.fromDangles), end(open.piece.to, open.toDangles));
-  if (open.piece.source == kNone) return place;
-  return place + ", " + SourceText(drawing.entities[open.piece.source]);
+  return fmt::format("{} to {}{}", end(open.piece.from, open.fromDangles), end(open.piece.to, open.toDangles),
+                     Source(open.piece, drawing));
 }
 
 void AddOpenPieces(const Report& report, Lines& lines) {
@@ -80,15 +82,20 @@ void AddCorrections(const Diagnostics& diagnostics, Lines& lines) {
   lines.AddFirst(corrections.size(), [&](std::size_t i) { return corrections[i].text; });
 }
 
-void AddDegenerate(const Detection& detection, Lines& lines) {
+void AddDegenerate(const Report& report, Lines& lines) {
+  const Detection& detection = report.detection;
   const auto slivers = std::count_if(detection.regions.begin(), detection.regions.end(),
                                      [](const Region& region) { return region.sliver; });
   if (slivers > 0) lines.Add("warning: slivers, smaller than a square of the tolerance: {} regions", slivers);
   const Diagnostics& diagnostics = detection.diagnostics;
   if (diagnostics.collapsed > 0) lines.Add("entities shorter than the tolerance, left out: {}", diagnostics.collapsed);
-  if (diagnostics.lostSides > 0) {
-    lines.Add("warning: sides of closed pieces along which no loop was found: {}; regions may be missing",
-              diagnostics.lostSides);
+  if (!diagnostics.lostSides.empty()) {
+    const TravelledPiece& first = diagnostics.lostSides.front();
+    const Point middle = MidPoint(first);
+    lines.Add(
+        "warning: sides of closed pieces along which no loop was found: {}, first at ({:.6g}, {:.6g}){}; regions may "
+        "be missing",
+        diagnostics.lostSides.size(), middle.x, middle.y, Source(first, report.drawing));
   }
 }
 
@@ -102,7 +109,7 @@ std::vector<std::string> DiagnosticLines(const Report& aReport) {
   for (const std::string& warning : aReport.detection.diagnostics.warnings) lines.Add("warning: {}", warning);
   AddCures(aReport, lines);
   AddCorrections(aReport.detection.diagnostics, lines);
-  AddDegenerate(aReport.detection, lines);
+  AddDegenerate(aReport, lines);
   AddOpenPieces(aReport, lines);
   return lines.Take();
 }

@@ -168,7 +168,7 @@ Json OfDiagnostics(const Report& report) {
   json["openPieces"] = Json::array();
   for (const OpenPiece& open : diagnostics.openPieces) json["openPieces"].push_back(OfOpenPiece(open, report.drawing));
   json["collapsedEntities"] = diagnostics.collapsed;
-  json["lostSides"] = diagnostics.lostSides;
+  json["lostSides"] = diagnostics.lostSides.size();
   return json;
 }
 
