@@ -165,10 +165,11 @@ class Run {
   }
 
   std::vector<PreparedPiece> PiecesWithout(const std::vector<std::size_t>& dropped) const {
+    std::vector<bool> isDropped(fSources.size());
+    for (const std::size_t piece : dropped) isDropped[piece] = true;
     std::vector<PreparedPiece> rest;
     for (std::size_t i = 0; i < fSources.size(); ++i) {
-      const bool isDropped = std::find(dropped.begin(), dropped.end(), i) != dropped.end();
-      if (!isDropped && fSources[i] != kNone) rest.push_back({Pieces().EntityArray()[i], fSources[i]});
+      if (!isDropped[i] && fSources[i] != kNone) rest.push_back({Pieces().EntityArray()[i], fSources[i]});
     }
     return rest;
   }

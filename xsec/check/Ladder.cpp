@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "xsec/BoxIndex.h"
 #include "xsec/RegionDetection.h"
 #include "xsec/Report.h"
 #include "xsec/check/Findings.h"
@@ -15,18 +16,32 @@ constexpr double kJustAbove = 1.001;    // of the tolerance that has to be excee
 constexpr double kSameArea = 1e-3;      // of the larger area, or a few tolerances along the outline
 constexpr double kSteps[] = {0.1, 10, 100};
 
+/// How far the centroid of the same region may be.
+double Reach(const Region& region, double tolerance) {
+  return kSameArea * Diagonal(Bounds(region.outline)) + 2 * tolerance;
+}
+
 bool IsSameRegion(const Region& a, const Region& b, double tolerance) {
   const double slack = kSameArea * a.netArea + 2 * tolerance * Length(a.outline);
-  return std::abs(a.netArea - b.netArea) <= slack &&
-         DistanceOf(a.centroid, b.centroid) <= kSameArea * Diagonal(Bounds(a.outline)) + 2 * tolerance;
+  return std::abs(a.netArea - b.netArea) <= slack && DistanceOf(a.centroid, b.centroid) <= Reach(a, tolerance);
 }
 
 std::vector<double> NewAreas(const Detection& found, const Detection& before, double tolerance) {
-  std::vector<double> areas;
+  std::vector<Extents> boxes;
   for (const Region& region : found.regions) {
-    const bool isOld = std::any_of(before.regions.begin(), before.regions.end(),
-                                   [&](const Region& old) { return IsSameRegion(region, old, tolerance); });
-    if (!isOld) areas.push_back(region.netArea);
+    const auto& [x, y] = region.centroid;
+    boxes.push_back(Widened({x, y, x, y}, Reach(region, tolerance)));
+  }
+  const BoxIndex index(boxes);
+  std::vector<bool> isOld(found.regions.size());
+  for (const Region& old : before.regions) {
+    for (const std::size_t i : index.Find(old.centroid)) {
+      isOld[i] = isOld[i] || IsSameRegion(found.regions[i], old, tolerance);
+    }
+  }
+  std::vector<double> areas;
+  for (std::size_t i = 0; i < isOld.size(); ++i) {
+    if (!isOld[i]) areas.push_back(found.regions[i].netArea);
   }
   return areas;
 }

@@ -7,6 +7,7 @@
 #include <map>
 #include <optional>
 
+#include "xsec/BoxIndex.h"
 #include "xsec/InnerPoint.h"
 
 namespace xsec {
@@ -56,10 +57,11 @@ std::vector<std::vector<std::string>> FindTexts(const std::vector<Region>& regio
   if (drawing.texts.empty()) return texts;
   std::vector<Extents> boxes;
   for (const Region& region : regions) boxes.push_back(Bounds(region.outline));
+  const BoxIndex index(boxes);
   for (const DrawingText& text : drawing.texts) {
     const Point place{text.x, text.y};
-    for (std::size_t i = 0; i < regions.size(); ++i) {
-      if (Contains(boxes[i], place) && IsInside(SpaceOf(regions[i]), place)) texts[i].push_back(text.text);
+    for (const std::size_t i : index.Find(place)) {
+      if (IsInside(SpaceOf(regions[i]), place)) texts[i].push_back(text.text);
     }
   }
   return texts;
