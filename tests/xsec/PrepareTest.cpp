@@ -180,6 +180,23 @@ TEST(Prepare, RegionsFarFromTheOriginAreThoseNearIt) {
   }
 }
 
+/// Two arcs of an air gap and the steep edge of a tooth begin at one point, where the library finds a second one: so
+/// far from the origin an end has too few digits to be recognised. A square at the other side keeps the drawing there.
+TEST(Prepare, EndsThatWouldMeetOtherwiseAreSeenToByATurn) {
+  const Drawing drawing = DrawingOf(
+      "A c 3531.250200155,6099.436662289 r 83.892861195 89.3255563411..90.7235563412; "
+      "A c 3531.247834665,6099.453454521 r 83.876040458 90.7220854563..91.7916854563; "
+      "L 3530.190792310,6183.322834061 3530.191230952,6182.299379097; "
+      "L 3532.237702238,6183.323711344 3532.225390356,6182.298488658; "
+      "L 3532.225390356,6182.298488658 3530.191230952,6182.299379097; "
+      "L 3530.191230952,6182.299379097 3528.725390356,6182.298488658; "
+      "L 3528.725390356,6182.298488658 3528.625390356,6183.288488658; " +
+      Rectangle(-3528, -6183, -3519, -6174));
+  const Detection detection = DetectAt(drawing, true, 1e-4);
+  EXPECT_THAT(detection.regions, SizeIs(3));
+  EXPECT_THAT(detection.diagnostics.cures, IsEmpty());
+}
+
 TEST(Prepare, DrawingThatIsMovedMeanwhileKeepsItsDigits) {
   const Drawing drawing = DrawingOf("L 100000.1,7 100003.3,7; L 100003.3,7 100000.1,9; L 100000.1,9 100000.1,7");
   const Detection detection = DetectAt(drawing, true);

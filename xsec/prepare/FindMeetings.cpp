@@ -24,6 +24,12 @@ bool IsEndOf(const Point& point, const TDXFEntity& entity) {
   return point == entity.StartCoords || point == entity.EndCoords;
 }
 
+/// Then no cut makes any difference.
+bool AreEndsOfBoth(const std::vector<Point>& points, const TDXFEntity& a, const TDXFEntity& b) {
+  return std::all_of(points.begin(), points.end(),
+                     [&](const Point& point) { return IsEndOf(point, a) && IsEndOf(point, b); });
+}
+
 bool Holds(const std::vector<Point>& points, const Point& point) {
   return std::any_of(points.begin(), points.end(), [&](const Point& p) { return p == point; });
 }
@@ -119,6 +125,7 @@ class MeetingFinder {
     if (points.empty()) return;
     for (const Point& point : points) Meet(point);
     if (AreSame(points, MeetingsAsDrawn(a, b)) && AreOnBoth(points, a, b)) return;
+    if (AreEndsOfBoth(points, a, b)) ++fWork.uncured;
     for (const Point& point : points) Cut(point);
     fWork.Report(KindOf(a, b), points.front(), fPair.first, fPair.second, 0);
   }

@@ -164,6 +164,11 @@ std::vector<Cure> SteepLinesOf(const Attempt& attempt) {
   return steep;
 }
 
+/// What the library may see otherwise than it was drawn.
+std::size_t CountDoubtful(const Attempt& attempt) {
+  return SteepLinesOf(attempt).size() + attempt.work.uncured;
+}
+
 void MoveBack(const Motion& motion, std::vector<Cure>& cures) {
   const Motion back = motion.Back();
   for (Cure& cure : cures) cure.place = back(cure.place);
@@ -176,17 +181,14 @@ PreparedDrawing Prepare(const Drawing& aDrawing, double aTolerance) {
   Attempt best = Begin(aDrawing, aTolerance, Motion(place));
   std::vector<Cure> steepAsDrawn = SteepLinesOf(best);
   MoveBack(best.motion, steepAsDrawn);
-  std::size_t steepLines = steepAsDrawn.size();
-  for (std::size_t i = 0; i < kTurns.size() && steepLines > 0; ++i) {
+  for (std::size_t i = 0; i < kTurns.size() && CountDoubtful(best) > 0; ++i) {
     Attempt turned = Begin(aDrawing, aTolerance, Motion(place, kTurns[i]));
-    const std::size_t count = SteepLinesOf(turned).size();
-    if (count >= steepLines) continue;
-    best = std::move(turned);
-    steepLines = count;
+    if (CountDoubtful(turned) < CountDoubtful(best)) best = std::move(turned);
   }
+  const bool isAnySteep = !SteepLinesOf(best).empty();
   PreparedDrawing prepared = Finish(std::move(best));
   MoveBack(prepared.motion, prepared.cures);
-  if (steepLines == 0) prepared.cures.insert(prepared.cures.end(), steepAsDrawn.begin(), steepAsDrawn.end());
+  if (!isAnySteep) prepared.cures.insert(prepared.cures.end(), steepAsDrawn.begin(), steepAsDrawn.end());
   return prepared;
 }
 

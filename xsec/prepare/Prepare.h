@@ -31,10 +31,12 @@ struct PreparedDrawing {
 PreparedDrawing AsDrawn(const Drawing& aDrawing);
 
 /// The drawing's entities put so that their regions do not depend on how the drawing lies. A drawing far from the
-/// origin is moved there. When it has lines so steep that their points would get into the wrong order, all of it is
-/// turned, by the first of some angles that has none. REQUIRES: the settings have been applied to the library. COST:
-/// near-linear in the entities and their meetings, once for each angle tried; entities that crowd into one place cost
-/// pairs there.
+/// origin is moved there. When it has lines so steep that their points would get into the wrong order, or ends that the
+/// library would take for meetings of another kind, all of it is turned, by the first of some angles that has none.
+/// REQUIRES: the settings have been applied to the library.
+///
+/// COST: near-linear in the entities and their meetings, once for each angle tried; entities that crowd into one place
+/// cost pairs there.
 PreparedDrawing Prepare(const Drawing& aDrawing, double aTolerance);
 
 }  // namespace xsec
