@@ -5,10 +5,12 @@ usage: orientations.py XSEC SAMPLES-FOLDER FOLDER COUNT [AWKWARD-COUNT]
 
 The samples and the figures of limits.py are turned COUNT times about the origin, by equal steps from 0 on, those of
 awkward.py, which take longer, AWKWARD-COUNT times. Prepared, each must give every region in every orientation. The
-figures at the limits must not without preparation: otherwise they would show nothing.
+figures at the limits must not without preparation: otherwise they would show nothing. At last COUNT copies of each
+sample, 49 at most, stand in one drawing, each turned by another angle, so that no orientation suits all of them.
 """
 
 import json
+import math
 import pathlib
 import sys
 
@@ -17,19 +19,23 @@ import limits
 from expect_regions import check_figures, run_xsec, sample_faults
 
 SAMPLES = ["stator_sector", "rotor_pole", "full_machine"]
+SPACING = 400  # millimetres from copy to copy, more than any sample is wide
+MOST_COPIES = 49  # beyond 3 m from the origin the library's areas differ from the expected ones in the ninth digit
+TOLERANCE = 1e-4  # of the copies: a millionth of a sample's diagonal, not of that of all of them
 
 
-def turned(text, turn):
-    """A drawing turned about the origin: all it holds becomes a block, which is placed once and turned."""
+def placed(text, places):
+    """A drawing at some places, each with x, y and a turn: all it holds becomes a block, which is placed there."""
     lines = text.splitlines()
     pairs = list(zip(lines[0::2], lines[1::2]))
     begin = section(pairs, "ENTITIES")
     end = pairs.index(("0", "ENDSEC"), begin)
     block = [("0", "BLOCK"), ("8", "0"), ("2", "TURNED"), ("70", "0"), ("10", "0"), ("20", "0"),
              *pairs[begin + 2:end], ("0", "ENDBLK"), ("8", "0")]
-    insert = [("0", "INSERT"), ("8", "0"), ("2", "TURNED"), ("10", "0"), ("20", "0"), ("50", str(turn))]
+    inserts = [pair for x, y, turn in places for pair in
+               [("0", "INSERT"), ("8", "0"), ("2", "TURNED"), ("10", str(x)), ("20", str(y)), ("50", str(turn))]]
     blocks = pairs.index(("0", "ENDSEC"), section(pairs, "BLOCKS"))
-    pairs = pairs[:blocks] + block + pairs[blocks:begin + 2] + insert + pairs[end:]
+    pairs = pairs[:blocks] + block + pairs[blocks:begin + 2] + inserts + pairs[end:]
     return "".join(f"{code}\n{value}\n" for code, value in pairs)
 
 
@@ -37,18 +43,38 @@ def section(pairs, name):
     return next(i for i in range(len(pairs)) if pairs[i:i + 2] == [("0", "SECTION"), ("2", name)])
 
 
+def read_sample(name, samples):
+    expected = json.loads((samples / "expected.json").read_text(encoding="ascii"))
+    return (samples / f"{name}.dxf").read_text(encoding="ascii"), expected[f"{name}.dxf"]
+
+
 def sample_check(name, samples):
-    text = (samples / f"{name}.dxf").read_text(encoding="ascii")
-    expected = json.loads((samples / "expected.json").read_text(encoding="ascii"))[f"{name}.dxf"]
+    text, expected = read_sample(name, samples)
 
     def check(xsec, turn, folder, *options):
         drawing = folder / f"{name}_{turn:g}.dxf"
-        drawing.write_text(turned(text, turn), encoding="ascii", newline="\n")
+        drawing.write_text(placed(text, [(0, 0, turn)]), encoding="ascii", newline="\n")
         found = run_xsec(xsec, drawing, folder, *options)
         drawing.unlink()
         return sample_faults(found["regions"], expected, quiet=True)
 
     return check
+
+
+def copies_faults(name, samples, xsec, folder, count):
+    """What is wrong with so many copies of a sample in one drawing, in rows."""
+    text, expected = read_sample(name, samples)
+    side = math.ceil(math.sqrt(count))
+    golden = 180 * (3 - math.sqrt(5))  # degrees: however many, no two turns are much closer than need be
+    places = [(SPACING * (i % side), SPACING * (i // side), i * golden % 360) for i in range(count)]
+    drawing = folder / f"{name}_copies.dxf"
+    drawing.write_text(placed(text, places), encoding="ascii", newline="\n")
+    found = run_xsec(xsec, drawing, folder, "--tol", str(TOLERANCE))
+    drawing.unlink()
+    kinds = [dict(kind, count=count * kind["count"]) for kind in expected["kinds"]]
+    faults = sample_faults(found["regions"], {"regions": count * expected["regions"], "kinds": kinds}, quiet=True)
+    lost = found["diagnostics"]["lostSides"]
+    return faults + ([f"{lost} sides without a loop"] if lost else [])
 
 
 def figures_check(module):
@@ -85,6 +111,11 @@ def main():
         for turn, fault in list(with_it.items())[:5]:
             print(f"  turned by {turn:g}: {fault}")
         failed = failed or bool(with_it) or (name == "limits" and not without)
+    for name in SAMPLES:
+        copies = min(count, MOST_COPIES)
+        faults = copies_faults(name, samples, xsec, folder, copies)
+        print(f"{name}: {len(faults)} faults in {copies} copies{''.join(f', {fault}' for fault in faults[:5])}")
+        failed = failed or bool(faults)
     return 1 if failed else 0
 
 
