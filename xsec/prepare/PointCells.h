@@ -12,11 +12,11 @@
 
 namespace xsec {
 
-/// Numbers of things that stand at points. Cells of twice the reach, so that a point's neighbours within the reach,
-/// along either axis, lie in at most four of them.
+/// Numbers of things that stand at points. Cells of eight times the reach, so that a point's neighbours within the
+/// reach, along either axis, lie in at most four of them, and mostly in one.
 class PointCells {
  public:
-  explicit PointCells(double aReach) : fReach(aReach), fSide(2 * aReach) {}
+  explicit PointCells(double aReach) : fReach(aReach), fSide(8 * aReach) {}
 
   void Add(const Point& aPoint, std::size_t aNumber) { fCells[Key(Cell(aPoint.x), Cell(aPoint.y))].push_back(aNumber); }
 
