@@ -157,9 +157,7 @@ class Run {
     CompareNesting(fDriver.RegionTree(), loops.faces, detection);
     CheckRegions(detection, fSettings);
     CheckPieces(fDriver.CoordinateTree(), fDriver.RegionTree(), fSources, detection.diagnostics);
-    for (OpenPiece& open : detection.diagnostics.openPieces) open.piece = fBack(open.piece);
-    for (TravelledPiece& lost : detection.diagnostics.lostSides) lost = fBack(lost);
-    for (Cure& cure : detection.diagnostics.cures) cure.place = fBack(cure.place);
+    fBack.ApplyToDiagnostics(detection.diagnostics);
     CountCollapsed(fDrawing, detection.diagnostics);
     return detection;
   }

@@ -3,72 +3,16 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <cmath>
-#include <numeric>
 #include <utility>
 
-#include "GeometryEngine/host/Numerics.h"
 #include "xsec/DrawingExtents.h"
 #include "xsec/RegionDetection.h"
 #include "xsec/Sector.h"
+#include "xsec/prepare/Motion.h"
 
 namespace xsec {
 
 namespace {
-
-constexpr double kFullTurn = 360;
-constexpr double kNoPart = 1e-15;  // of a radius, by rounding
-
-/// A turn about the origin.
-class Turning {
- public:
-  explicit Turning(double degrees)
-      : fDegrees(degrees), fCosine(Exact(std::cos(Radians(degrees)))), fSine(Exact(std::sin(Radians(degrees)))) {}
-
-  void Apply(Point& point) const { point = {fCosine * point.x - fSine * point.y, fSine * point.x + fCosine * point.y}; }
-
-  void Apply(GeometryEngine::TDXFEntity& entity) const {
-    for (Point* point : {&entity.StartCoords, &entity.EndCoords, &entity.CentreCoords}) Apply(*point);
-    if (entity.EntityType != GeometryEngine::DXFArc) return;
-    entity.startAngle = GeometryEngine::GetAngleInRange(entity.startAngle + fDegrees, 0, kFullTurn);
-    entity.endAngle = GeometryEngine::GetAngleInRange(entity.endAngle + fDegrees, 0, kFullTurn);
-  }
-
-  void Apply(TravelledPiece& piece) const {
-    for (Point* point : {&piece.from, &piece.to, &piece.centre}) Apply(*point);
-    piece.startAngle = GeometryEngine::GetAngleInRange(piece.startAngle + fDegrees, 0, kFullTurn);
-    piece.endAngle = GeometryEngine::GetAngleInRange(piece.endAngle + fDegrees, 0, kFullTurn);
-  }
-
-  void Apply(Loop& loop) const {
-    for (TravelledPiece& piece : loop) Apply(piece);
-  }
-
-  void Apply(Detection& detection) const {
-    for (Region& region : detection.regions) {
-      Apply(region.outline);
-      for (Loop& hole : region.holes) Apply(hole);
-      Apply(region.centroid);
-      Apply(region.label);
-    }
-    for (OpenPiece& open : detection.diagnostics.openPieces) Apply(open.piece);
-    for (TravelledPiece& lost : detection.diagnostics.lostSides) Apply(lost);
-    for (Cure& cure : detection.diagnostics.cures) Apply(cure.place);
-  }
-
- private:
-  static double Radians(double degrees) {
-    return GeometryEngine::GetAngleInRange(degrees, 0, kFullTurn) * GeometryEngine::kRadiansPerDegree;
-  }
-  /// Quarter turns change coordinates for each other and nothing else.
-  static double Exact(double value) {
-    return std::abs(value) < kNoPart ? 0 : 1 - std::abs(value) < kNoPart ? std::round(value) : value;
-  }
-
-  double fDegrees;
-  double fCosine;
-  double fSine;
-};
 
 /// The nearest region round this one that stays.
 std::size_t KeptParent(const std::vector<Region>& regions, const std::vector<std::size_t>& places, std::size_t index) {
@@ -86,11 +30,10 @@ void LeaveOutCorrections(const std::vector<std::size_t>& places, Diagnostics& di
 
 Drawing Turned(const Drawing& aDrawing, double aDegrees) {
   Drawing turned = aDrawing;
-  const Turning turning(aDegrees);
-  for (DrawingEntity& entity : turned.entities) turning.Apply(entity.geometry);
+  const Motion turn({}, aDegrees);
+  for (DrawingEntity& entity : turned.entities) entity.geometry = turn(entity.geometry);
   for (DrawingText& text : turned.texts) {
-    Point place{text.x, text.y};
-    turning.Apply(place);
+    const Point place = turn(Point{text.x, text.y});
     text.x = place.x;
     text.y = place.y;
   }
@@ -136,7 +79,12 @@ Detection FindRegions(const Drawing& aDrawing, const Settings& aSettings, const 
     detection = DetectRegions(aDrawing, aSettings, aRequest.naming);
   } else {
     detection = DetectRegions(Turned(aDrawing, aRequest.turn), aSettings, aRequest.naming);
-    Turning(-aRequest.turn).Apply(detection);
+    const Motion back({}, -aRequest.turn);
+    for (Region& region : detection.regions) {
+      back.ApplyToLoops(region);
+      back.ApplyToPoints(region);
+    }
+    back.ApplyToDiagnostics(detection.diagnostics);
   }
   if (std::string text = WarnOfCopies(aDrawing, aRequest.copies); !text.empty()) {
     detection.diagnostics.warnings.push_back(std::move(text));

@@ -28,6 +28,12 @@ TEST(Motion, BringsAPointToTheOriginAndTurnsAboutIt) {
   EXPECT_DOUBLE_EQ(arc.endAngle, 30);
 }
 
+TEST(Motion, ByAQuarterTurnChangesCoordinatesForEachOther) {
+  EXPECT_THAT(Motion({}, 90)(Point{3, 7}), IsBits(-7, 3));
+  EXPECT_THAT(Motion({}, -90)(Point{3, 7}), IsBits(7, -3));
+  EXPECT_THAT(Motion({}, 180)(Point{3, 7}), IsBits(-3, -7));
+}
+
 TEST(Motion, BackUndoesIt) {
   const Motion motion({-7, 1000}, 23.17);
   EXPECT_THAT(motion.Back()(motion(Point{3, 1004})), IsNear(3, 1004, 1e-12));

@@ -8,8 +8,15 @@ namespace xsec {
 
 namespace {
 
+constexpr double kNoPart = 1e-15;  // of a radius, by rounding
+
 double AngleTurned(double angle, double degrees) {
   return degrees == 0 ? angle : GeometryEngine::GetAngleInRange(angle + degrees, 0, 360);
+}
+
+/// A sine or cosine, of a quarter turn without what rounding leaves.
+double Exact(double value) {
+  return std::abs(value) < kNoPart ? 0 : 1 - std::abs(value) < kNoPart ? std::round(value) : value;
 }
 
 }  // namespace
@@ -20,8 +27,8 @@ Motion::Motion(const Point& aBefore, double aDegrees, const Point& aAfter)
     : fBefore(aBefore),
       fAfter(aAfter),
       fDegrees(aDegrees),
-      fCosine(std::cos(aDegrees * GeometryEngine::kRadiansPerDegree)),
-      fSine(std::sin(aDegrees * GeometryEngine::kRadiansPerDegree)) {}
+      fCosine(Exact(std::cos(aDegrees * GeometryEngine::kRadiansPerDegree))),
+      fSine(Exact(std::sin(aDegrees * GeometryEngine::kRadiansPerDegree))) {}
 
 Motion Motion::Back() const {
   return Motion(fAfter, -fDegrees, fBefore);
@@ -64,6 +71,12 @@ void Motion::ApplyToLoops(Region& aRegion) const {
 void Motion::ApplyToPoints(Region& aRegion) const {
   aRegion.centroid = (*this)(aRegion.centroid);
   aRegion.label = (*this)(aRegion.label);
+}
+
+void Motion::ApplyToDiagnostics(Diagnostics& aDiagnostics) const {
+  for (OpenPiece& open : aDiagnostics.openPieces) open.piece = (*this)(open.piece);
+  for (TravelledPiece& lost : aDiagnostics.lostSides) lost = (*this)(lost);
+  for (Cure& cure : aDiagnostics.cures) cure.place = (*this)(cure.place);
 }
 
 }  // namespace xsec

@@ -11,7 +11,7 @@ namespace xsec {
 class Motion {
  public:
   Motion() = default;
-  /// Anticlockwise. UNITS: degrees
+  /// Anticlockwise; quarter turns change coordinates for each other and nothing else. UNITS: degrees
   explicit Motion(const Point& aOrigin, double aDegrees = 0);
 
   /// The one that undoes it.
@@ -24,6 +24,8 @@ class Motion {
   void ApplyToLoops(Region& aRegion) const;
   /// The centroid and the label point.
   void ApplyToPoints(Region& aRegion) const;
+  /// Open pieces, lost sides and cures.
+  void ApplyToDiagnostics(Diagnostics& aDiagnostics) const;
 
  private:
   Motion(const Point& aBefore, double aDegrees, const Point& aAfter);
