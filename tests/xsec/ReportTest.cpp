@@ -21,6 +21,7 @@ using nlohmann::json;
 using ::testing::AllOf;
 using ::testing::Contains;
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
@@ -263,7 +264,8 @@ TEST(DiagnosticLines, TellWhereALoopIsMissing) {
   const auto lines = DiagnosticLines(carried.report());
   const Point middle = MidPoint(below);
   const std::string place = fmt::format("found: 2, first at ({:.6g}, {:.6g}), LINE on", middle.x, middle.y);
-  EXPECT_THAT(lines, Contains(HasSubstr(place)));
+  EXPECT_THAT(lines, Contains(AllOf(HasSubstr(place), HasSubstr("regions may be missing: try"))));
+  EXPECT_THAT(lines, Contains(EndsWith("--tol 1.4e-06")));
   EXPECT_EQ(carried.AsJson()["diagnostics"]["lostSides"], 2);
 }
 

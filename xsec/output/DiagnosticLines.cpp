@@ -13,6 +13,9 @@ namespace {
 /// Of a long list this many are told on the terminal; the JSON output has them all.
 constexpr std::size_t kToldOfEach = 8;
 
+/// What is advised where loops are missing, as a part of the tolerance in use: lines are too steep in proportion to it.
+constexpr double kSmallerTolerance = 0.1;
+
 class Lines {
  public:
   template <typename... Values>
@@ -94,8 +97,9 @@ void AddDegenerate(const Report& report, Lines& lines) {
     const Point middle = MidPoint(first);
     lines.Add(
         "warning: sides of closed pieces along which no loop was found: {}, first at ({:.6g}, {:.6g}){}; regions may "
-        "be missing",
-        diagnostics.lostSides.size(), middle.x, middle.y, Source(first, report.drawing));
+        "be missing: try a smaller tolerance, --tol {:.2g}",
+        diagnostics.lostSides.size(), middle.x, middle.y, Source(first, report.drawing),
+        kSmallerTolerance * report.settings.tolerance);
   }
 }
 
