@@ -201,9 +201,12 @@ double SignedArea(const Loop& aLoop) {
   return area;
 }
 
+// That of a sliver, whose area may be rounding alone, is brought back into the box.
 Point Centroid(const Loop& aLoop) {
+  if (aLoop.empty()) return {};
+  const Extents box = Bounds(aLoop);
   const double area = SignedArea(aLoop);
-  if (aLoop.empty() || area == 0) return {};
+  if (area == 0) return {(box.minX + box.maxX) / 2, (box.minY + box.maxY) / 2};
   const Point origin = aLoop.front().from;
   Point moment;
   for (const TravelledPiece& piece : aLoop) {
@@ -212,7 +215,8 @@ Point Centroid(const Loop& aLoop) {
     moment = moment + (a.x * b.y - b.x * a.y) / 6 * (a + b);
     if (piece.isArc) moment = moment + SegmentMoment(piece, origin);
   }
-  return origin + 1 / area * moment;
+  return {std::clamp(origin.x + moment.x / area, box.minX, box.maxX),
+          std::clamp(origin.y + moment.y / area, box.minY, box.maxY)};
 }
 
 double Length(const Loop& aLoop) {

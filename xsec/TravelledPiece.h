@@ -51,7 +51,8 @@ void AddCrossings(const TravelledPiece& aPiece, double aY, std::vector<double>& 
 
 /// Positive when the loop is travelled anticlockwise.
 double SignedArea(const Loop& aLoop);
-/// Of the area within the loop. DEGENERATE: the origin when that is 0.
+/// Of the area within the loop; never outside the loop's box. DEGENERATE: the box's middle when the area is 0, the
+/// origin of an empty loop.
 Point Centroid(const Loop& aLoop);
 double Length(const Loop& aLoop);
 double Distance(const Loop& aLoop, const Point& aPoint);

@@ -28,6 +28,13 @@ TEST(Motion, BringsAPointToTheOriginAndTurnsAboutIt) {
   EXPECT_DOUBLE_EQ(arc.endAngle, 30);
 }
 
+TEST(Motion, LeavesWhatALineHasForAnArcAlone) {
+  const auto line = Motion({3, 4}, 30)(GeometryEngine::TDXFEntity::Line({1, 2}, {5, 6}));
+  EXPECT_THAT(line.CentreCoords, IsBits(0, 0));
+  EXPECT_EQ(line.startAngle, 0);
+  EXPECT_EQ(line.endAngle, 0);
+}
+
 TEST(Motion, ByAQuarterTurnChangesCoordinatesForEachOther) {
   EXPECT_THAT(Motion({}, 90)(Point{3, 7}), IsBits(-7, 3));
   EXPECT_THAT(Motion({}, -90)(Point{3, 7}), IsBits(7, -3));

@@ -104,9 +104,16 @@ TEST(Centroid, OfAPlateWithABiteIsWhereTheBiteLeavesIt) {
   EXPECT_THAT(Centroid(bitten), IsNear(x, 2, 1e-12));
 }
 
-TEST(Centroid, WithoutAreaIsTheOrigin) {
+TEST(Centroid, WithoutAreaIsTheMiddleOfTheBox) {
   EXPECT_THAT(Centroid(Loop{}), IsNear(0, 0, 0));
-  EXPECT_THAT(Centroid(LoopOf("L 1,2 3,4; L 3,4 1,2")), IsNear(0, 0, 0));
+  EXPECT_THAT(Centroid(LoopOf("L 1,2 3,4; L 3,4 1,2")), IsNear(2, 3, 0));
+}
+
+TEST(Centroid, OfASliverThatIsRoundingAloneStaysInItsBox) {
+  const Loop sliver = LoopOf("L 0.1,0.3 0.7,0.9; L 0.7,0.9 0.4,0.6; L 0.4,0.6 0.1,0.3");
+  EXPECT_NEAR(SignedArea(sliver), 0, 1e-15);
+  const Point centroid = Centroid(sliver);
+  EXPECT_TRUE(Contains(Bounds(sliver), centroid)) << centroid.x << "," << centroid.y;
 }
 
 TEST(Length, OfArcAndLine) {

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "GeometryEngine/host/Numerics.h"
+#include "xsec/prepare/Curves.h"
 
 namespace xsec {
 
@@ -46,19 +47,22 @@ Point Motion::operator()(const Point& aPoint) const {
 GeometryEngine::TDXFEntity Motion::operator()(GeometryEngine::TDXFEntity aEntity) const {
   aEntity.StartCoords = (*this)(aEntity.StartCoords);
   aEntity.EndCoords = (*this)(aEntity.EndCoords);
-  aEntity.CentreCoords = (*this)(aEntity.CentreCoords);
-  aEntity.startAngle = AngleTurned(aEntity.startAngle, fDegrees);
-  aEntity.endAngle = AngleTurned(aEntity.endAngle, fDegrees);
+  if (IsArc(aEntity)) MoveArc(aEntity.CentreCoords, aEntity.startAngle, aEntity.endAngle);
   return aEntity;
 }
 
 TravelledPiece Motion::operator()(TravelledPiece aPiece) const {
   aPiece.from = (*this)(aPiece.from);
   aPiece.to = (*this)(aPiece.to);
-  aPiece.centre = (*this)(aPiece.centre);
-  aPiece.startAngle = AngleTurned(aPiece.startAngle, fDegrees);
-  aPiece.endAngle = AngleTurned(aPiece.endAngle, fDegrees);
+  if (aPiece.isArc) MoveArc(aPiece.centre, aPiece.startAngle, aPiece.endAngle);
   return aPiece;
+}
+
+// What a line has in the place of these stays: two lines with the same ends are the same to the last bit.
+void Motion::MoveArc(Point& aCentre, double& aStartAngle, double& aEndAngle) const {
+  aCentre = (*this)(aCentre);
+  aStartAngle = AngleTurned(aStartAngle, fDegrees);
+  aEndAngle = AngleTurned(aEndAngle, fDegrees);
 }
 
 void Motion::ApplyToLoops(Region& aRegion) const {

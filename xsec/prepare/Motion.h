@@ -29,6 +29,7 @@ class Motion {
 
  private:
   Motion(const Point& aBefore, double aDegrees, const Point& aAfter);
+  void MoveArc(Point& aCentre, double& aStartAngle, double& aEndAngle) const;
 
   Point fBefore;  ///< taken off before the turn
   Point fAfter;   ///< added after it
