@@ -21,10 +21,6 @@ constexpr std::size_t kSides = 2;  // of a piece
 constexpr double kClearancePerHalfWidth = 0.1;
 constexpr double kAreaAgreement = 1e-6;  // of the larger of two areas
 
-std::string NameOfPlace(std::size_t region) {
-  return region == kNone ? "no other region" : fmt::format("region {}", RegionId(region));
-}
-
 /// For each loop of the region tree the face whose list of sub-regions it stands in.
 std::vector<std::size_t> ClaimedParents(const TEntityTree& regionTree, std::span<const TracedLoop> faces) {
   std::vector<std::size_t> claimed(regionTree.RootNode()->Children().size(), kNone);
@@ -48,10 +44,6 @@ double Perimeter(const Region& region) {
   return perimeter;
 }
 
-std::string Coordinates(const Point& point) {
-  return fmt::format("({:.6g}, {:.6g})", point.x, point.y);
-}
-
 /// The library sums up chords about the origin: the farther from there, the farther its centroid is off. A label that
 /// is the centroid goes with it.
 void SettleCentroid(Region& region) {
@@ -69,14 +61,10 @@ void SettleLabel(std::size_t index, Detection& detection, double tolerance) {
   if (region.clearance >= wanted) return;
   const auto better = FindInnerPoint(space, kHeightsForLabel);
   if (!better || better->clearance <= region.clearance) {
-    if (!inside)
-      detection.diagnostics.warnings.push_back(fmt::format("region {} has no point inside", RegionId(index)));
+    if (!inside) detection.diagnostics.doubts.push_back({index, "no point inside was found"});
     return;
   }
-  detection.diagnostics.corrections.push_back(
-      {Correction::Kind::Label, index,
-       fmt::format("label of region {} moved from {}, {}, to {}", RegionId(index), Coordinates(region.label),
-                   inside ? "close to its boundary" : "outside it", Coordinates(better->point))});
+  detection.diagnostics.corrections.push_back({Correction::Kind::Label, index, kNone, region.label, inside});
   region.label = better->point;
   region.clearance = better->clearance;
 }
@@ -85,17 +73,17 @@ void SettleLabel(std::size_t index, Detection& detection, double tolerance) {
 /// are the same. The outline's area is compared as well, but known no better than a tolerance along its length.
 void CompareAreas(std::size_t index, Detection& detection, double tolerance) {
   const Region& region = detection.regions[index];
-  auto& warnings = detection.diagnostics.warnings;
+  auto& doubts = detection.diagnostics.doubts;
   const double known = kAreaAgreement * std::abs(region.baseArea);
   const double withoutHoles = region.baseArea - region.holeArea;
   if (std::abs(withoutHoles - region.netArea) > known) {
-    warnings.push_back(fmt::format("region {} is {:.9g} mm2 without its children, but {:.9g} mm2 without its holes",
-                                   RegionId(index), region.netArea, withoutHoles));
+    doubts.push_back({index, fmt::format("{:.9g} mm2 without its children, but {:.9g} mm2 without its holes",
+                                         region.netArea, withoutHoles)});
   }
   const double ofOutline = SignedArea(region.outline);
   if (std::abs(ofOutline - region.baseArea) > std::max(known, tolerance * Length(region.outline))) {
-    warnings.push_back(fmt::format("the outline of region {} holds {:.9g} mm2, but {:.9g} mm2 were measured",
-                                   RegionId(index), ofOutline, region.baseArea));
+    doubts.push_back(
+        {index, fmt::format("its outline holds {:.9g} mm2, but {:.9g} mm2 were measured", ofOutline, region.baseArea)});
   }
 }
 
@@ -127,10 +115,7 @@ void CompareNesting(const TEntityTree& aRegionTree, std::span<const TracedLoop> 
     const std::size_t parent = aDetection.regions[i].parent;
     const std::size_t claim = claimed[aFaces[i].index];
     if (claim == parent) continue;
-    aDetection.diagnostics.corrections.push_back(
-        {Correction::Kind::Nesting, i,
-         fmt::format("region {} was listed inside {}; a point of it lies inside {}", RegionId(i), NameOfPlace(claim),
-                     NameOfPlace(parent))});
+    aDetection.diagnostics.corrections.push_back({Correction::Kind::Nesting, i, claim, {}, false});
   }
 }
 

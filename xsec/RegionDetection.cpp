@@ -155,9 +155,9 @@ class Run {
     FillFromGeometryTree(fDriver, loops.faces, detection.regions);
     for (Region& region : detection.regions) fBack.ApplyToPoints(region);
     CompareNesting(fDriver.RegionTree(), loops.faces, detection);
-    CheckRegions(detection, fSettings);
     CheckPieces(fDriver.CoordinateTree(), fDriver.RegionTree(), fSources, detection.diagnostics);
     fBack.ApplyToDiagnostics(detection.diagnostics);
+    CheckRegions(detection, fSettings);
     CountCollapsed(fDrawing, detection.diagnostics);
     return detection;
   }

@@ -21,9 +21,19 @@ std::size_t KeptParent(const std::vector<Region>& regions, const std::vector<std
   return parent == kNone ? kNone : places[parent];
 }
 
-void LeaveOutCorrections(const std::vector<std::size_t>& places, Diagnostics& diagnostics) {
-  std::erase_if(diagnostics.corrections, [&](const Correction& c) { return places[c.region] == kNone; });
-  for (Correction& correction : diagnostics.corrections) correction.region = places[correction.region];
+/// Those about regions that stay, with the regions' new indexes.
+template <typename Note>
+void KeepNotes(const std::vector<std::size_t>& places, std::vector<Note>& notes) {
+  std::erase_if(notes, [&](const Note& note) { return places[note.region] == kNone; });
+  for (Note& note : notes) note.region = places[note.region];
+}
+
+void KeepNotes(const std::vector<std::size_t>& places, Diagnostics& diagnostics) {
+  KeepNotes(places, diagnostics.doubts);
+  KeepNotes(places, diagnostics.corrections);
+  for (Correction& correction : diagnostics.corrections) {
+    if (correction.listedIn != kNone) correction.listedIn = places[correction.listedIn];
+  }
 }
 
 }  // namespace
@@ -69,7 +79,7 @@ void LeaveOutSmall(Detection& aDetection, double aMinimumArea) {
     region.depth = 0;
     for (std::size_t p = region.parent; p != kNone; p = kept[p].parent) ++region.depth;
   }
-  LeaveOutCorrections(places, aDetection.diagnostics);
+  KeepNotes(places, aDetection.diagnostics);
   regions = std::move(kept);
 }
 

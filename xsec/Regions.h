@@ -44,13 +44,22 @@ struct OpenPiece {
 /// A point where an answer of the library was put right.
 struct Correction {
   enum class Kind { Nesting, Label };
-  Kind kind;
-  std::size_t region;  ///< index of the region that it is about
-  std::string text;
+  Kind kind = Kind::Nesting;
+  std::size_t region = 0;        ///< index of the region that it is about
+  std::size_t listedIn = kNone;  ///< of nesting: the region that the library had it in
+  Point labelledAt;              ///< of a label: where the library had it
+  bool wasInside = false;        ///< of a label: it stood in its region, but close to the boundary
+};
+
+/// Something about a region that looks wrong.
+struct Doubt {
+  std::size_t region = 0;  ///< its index
+  std::string text;        ///< without the region's number, which may change yet
 };
 
 struct Diagnostics {
   std::vector<std::string> warnings;
+  std::vector<Doubt> doubts;
   std::vector<Correction> corrections;
   std::vector<OpenPiece> openPieces;
   std::vector<Cure> cures;                ///< what the preparation did

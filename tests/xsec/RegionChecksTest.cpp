@@ -8,6 +8,7 @@
 #include "tests/xsec/Drawings.h"
 #include "xsec/InnerPoint.h"
 #include "xsec/RegionDetection.h"
+#include "xsec/RegionNotes.h"
 
 namespace xsec {
 namespace {
@@ -41,7 +42,8 @@ TEST(CheckRegions, MovesALabelThatLiesOutsideItsRegionAndSaysSo) {
   ASSERT_THAT(detection.diagnostics.corrections, SizeIs(1));
   EXPECT_EQ(detection.diagnostics.corrections[0].kind, Correction::Kind::Label);
   EXPECT_EQ(detection.diagnostics.corrections[0].region, 0U);
-  EXPECT_THAT(detection.diagnostics.corrections[0].text, HasSubstr("from (50, 50), outside it, to ("));
+  EXPECT_THAT(CorrectionText(detection.diagnostics.corrections[0], detection),
+              HasSubstr("label of region 1 moved from (50, 50), outside it, to ("));
   const RegionSpace space{&detection.regions[0].outline, {&detection.regions[1].outline}};
   EXPECT_TRUE(IsInside(space, detection.regions[0].label));
   EXPECT_NEAR(detection.regions[0].clearance, Clearance(space, detection.regions[0].label), 1e-12);
@@ -61,7 +63,7 @@ TEST(CheckRegions, MovesALabelThatHugsTheBoundary) {
   detection.regions[0].label = {1e-5, 5};
   CheckRegions(detection, SettingsAt(kTolerance));
   ASSERT_THAT(detection.diagnostics.corrections, SizeIs(1));
-  EXPECT_THAT(detection.diagnostics.corrections[0].text, HasSubstr("close to its boundary"));
+  EXPECT_THAT(CorrectionText(detection.diagnostics.corrections[0], detection), HasSubstr("close to its boundary"));
   EXPECT_GT(detection.regions[0].clearance, 1);
 }
 
@@ -78,14 +80,15 @@ TEST(CheckRegions, WarnsOfANetAreaThatTheHolesContradict) {
   Detection detection = PlateAndSquare();
   detection.regions[0].netArea += 1e-3;
   CheckRegions(detection, SettingsAt(kTolerance));
-  EXPECT_THAT(detection.diagnostics.warnings, ElementsAre(HasSubstr("region 1 is 96.001 mm2 without its children")));
+  EXPECT_THAT(WarningTexts(detection.diagnostics),
+              ElementsAre(HasSubstr("region 1: 96.001 mm2 without its children, but 96 mm2")));
 }
 
 TEST(CheckRegions, WarnsOfAnOutlineThatHoldsAnotherAreaThanWasMeasured) {
   Detection detection = PlateAndSquare();
   detection.regions[1].baseArea = detection.regions[1].netArea = 4.01;
   CheckRegions(detection, SettingsAt(kTolerance));
-  EXPECT_THAT(detection.diagnostics.warnings, ElementsAre(HasSubstr("the outline of region 2 holds 4 mm2")));
+  EXPECT_THAT(WarningTexts(detection.diagnostics), ElementsAre(HasSubstr("region 2: its outline holds 4 mm2")));
 }
 
 TEST(CheckRegions, MarksSlivers) {
@@ -152,7 +155,7 @@ TEST(CompareNesting, ReportsWhereTheListsOfTheLibraryDisagree) {
   CompareNesting(squares.driver.RegionTree(), faces, detection);
   ASSERT_THAT(detection.diagnostics.corrections, SizeIs(1));
   EXPECT_EQ(detection.diagnostics.corrections[0].kind, Correction::Kind::Nesting);
-  EXPECT_EQ(detection.diagnostics.corrections[0].text,
+  EXPECT_EQ(CorrectionText(detection.diagnostics.corrections[0], detection),
             "region 2 was listed inside region 1; a point of it lies inside no other region");
 }
 

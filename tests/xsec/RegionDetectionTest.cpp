@@ -8,6 +8,7 @@
 #include "tests/support/Geometry.h"
 #include "tests/xsec/Drawings.h"
 #include "xsec/InnerPoint.h"
+#include "xsec/RegionNotes.h"
 
 namespace xsec {
 namespace {
@@ -51,7 +52,7 @@ TEST(DetectRegions, SquareIsOneRegionWithItsMeasures) {
   EXPECT_NEAR(square.clearance, 1, 1e-12);
   EXPECT_FALSE(square.sliver);
   EXPECT_THAT(detection.diagnostics.openPieces, IsEmpty());
-  EXPECT_THAT(detection.diagnostics.warnings, IsEmpty());
+  EXPECT_THAT(WarningTexts(detection.diagnostics), IsEmpty());
   EXPECT_THAT(detection.diagnostics.corrections, IsEmpty());
   EXPECT_THAT(detection.diagnostics.lostSides, IsEmpty());
 }
@@ -129,7 +130,7 @@ TEST(DetectRegions, NestsThroughSeveralLevels) {
     EXPECT_NEAR(disc.netArea, kPi * (i * i - (i - 1) * (i - 1)), 1e-9);
   }
   ExpectLabelsInside(detection);
-  EXPECT_THAT(detection.diagnostics.warnings, IsEmpty());
+  EXPECT_THAT(WarningTexts(detection.diagnostics), IsEmpty());
 }
 
 TEST(DetectRegions, FacesThatOnlyShareEdgesAreNotNested) {
@@ -151,7 +152,7 @@ TEST(DetectRegions, SquareThatTouchesItsSurroundingAtOneCornerIsTakenOffOnce) {
   EXPECT_NEAR(rest.netArea, 92, 1e-9);
   EXPECT_TRUE(diamond.parent == kNone || rest.holes.size() == 1);
   ExpectLabelsInside(detection);
-  EXPECT_THAT(detection.diagnostics.warnings, IsEmpty());
+  EXPECT_THAT(WarningTexts(detection.diagnostics), IsEmpty());
 }
 
 TEST(DetectRegions, BridgeBetweenLoopsIsOpenAndDoesNotHideThatOneLiesInTheOther) {

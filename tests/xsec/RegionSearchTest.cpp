@@ -6,6 +6,7 @@
 
 #include "tests/support/Settings.h"
 #include "tests/xsec/Drawings.h"
+#include "xsec/RegionNotes.h"
 #include "xsec/Sector.h"
 
 namespace xsec {
@@ -69,6 +70,34 @@ TEST(FindRegions, LeavesOutSmallRegionsAndHangsTheirChildrenHigher) {
   EXPECT_THAT(outer.children, SizeIs(1));
   EXPECT_THAT(found.leftOut, SizeIs(1));
   EXPECT_THAT(found.diagnostics.warnings, ::testing::Contains(HasSubstr("below 1 mm2 left out: 1, together 0.3996")));
+}
+
+TEST(FindRegions, NotesGoWithTheirRegionsWhenSmallOnesAreLeftOut) {
+  Detection detection;
+  detection.regions.resize(4);
+  for (std::size_t i = 0; i < 4; ++i) detection.regions[i].netArea = i == 1 ? 0.1 : 5;
+  Diagnostics& notes = detection.diagnostics;
+  notes.doubts = {{1, "of none"}, {2, "of one that moves up"}};
+  notes.corrections = {{Correction::Kind::Nesting, 1, 3, {}, false},
+                       {Correction::Kind::Nesting, 2, 1, {}, false},
+                       {Correction::Kind::Nesting, 0, 3, {}, false}};
+  LeaveOutSmall(detection, 1);
+  EXPECT_THAT(WarningTexts(notes), ElementsAre(HasSubstr("left out: 1"), "region 2: of one that moves up"));
+  ASSERT_THAT(notes.corrections, SizeIs(2));
+  EXPECT_THAT(CorrectionText(notes.corrections[0], detection), HasSubstr("region 2 was listed inside no other"));
+  EXPECT_THAT(CorrectionText(notes.corrections[1], detection), HasSubstr("region 1 was listed inside region 3;"));
+}
+
+TEST(FindRegions, WhereALabelWasIsToldAsTheDrawingLiesWhenItIsTurnedMeanwhile) {
+  const GeometryEngine::support::TSettingsGuard guard;
+  const Drawing drawing = DrawingOf(Rectangle(5, 5, 15, 17));
+  const Settings noLabels = ApplySettings({{}, {{6528, 1e6}}, 0}, drawing.extents);
+  const Detection found = FindRegions(drawing, noLabels, TurnBy(30));
+  const Detection plain = FindRegions(drawing, noLabels, {});
+  ASSERT_THAT(found.diagnostics.corrections, SizeIs(1));
+  ASSERT_THAT(plain.diagnostics.corrections, SizeIs(1));
+  EXPECT_NEAR(found.diagnostics.corrections[0].labelledAt.x, plain.diagnostics.corrections[0].labelledAt.x, 1e-9);
+  EXPECT_NEAR(found.diagnostics.corrections[0].labelledAt.y, plain.diagnostics.corrections[0].labelledAt.y, 1e-9);
 }
 
 TEST(FindRegions, WarnsOfCopiesThatWouldOverlap) {

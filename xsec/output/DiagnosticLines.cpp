@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 
+#include "xsec/RegionNotes.h"
 #include "xsec/Report.h"
 #include "xsec/SourceText.h"
 
@@ -78,11 +79,11 @@ void AddCures(const Report& report, Lines& lines) {
   }
 }
 
-void AddCorrections(const Diagnostics& diagnostics, Lines& lines) {
-  const auto& corrections = diagnostics.corrections;
+void AddCorrections(const Detection& detection, Lines& lines) {
+  const auto& corrections = detection.diagnostics.corrections;
   if (corrections.empty()) return;
   lines.Add("answers of the detection that were put right: {}", corrections.size());
-  lines.AddFirst(corrections.size(), [&](std::size_t i) { return corrections[i].text; });
+  lines.AddFirst(corrections.size(), [&](std::size_t i) { return CorrectionText(corrections[i], detection); });
 }
 
 void AddDegenerate(const Report& report, Lines& lines) {
@@ -110,9 +111,9 @@ std::vector<std::string> DiagnosticLines(const Report& aReport) {
   AddBasis(aReport, lines);
   AddReading(aReport.drawing, lines);
   for (const std::string& warning : aReport.drawing.warnings) lines.Add("warning: {}", warning);
-  for (const std::string& warning : aReport.detection.diagnostics.warnings) lines.Add("warning: {}", warning);
+  for (const std::string& warning : WarningTexts(aReport.detection.diagnostics)) lines.Add("warning: {}", warning);
   AddCures(aReport, lines);
-  AddCorrections(aReport.detection.diagnostics, lines);
+  AddCorrections(aReport.detection, lines);
   AddDegenerate(aReport, lines);
   AddOpenPieces(aReport, lines);
   return lines.Take();

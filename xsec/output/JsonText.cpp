@@ -1,5 +1,6 @@
 #include <fmt/format.h>
 
+#include "xsec/RegionNotes.h"
 #include "xsec/Report.h"
 #include "xsec/Utf8.h"
 #include "xsec/output/JsonParts.h"
@@ -154,7 +155,7 @@ Json OfDiagnostics(const Report& report) {
   const Diagnostics& diagnostics = report.detection.diagnostics;
   Json json;
   json["warnings"] = report.drawing.warnings;
-  for (const std::string& warning : diagnostics.warnings) json["warnings"].push_back(warning);
+  for (const std::string& warning : WarningTexts(diagnostics)) json["warnings"].push_back(warning);
   json["skipped"] = OfSkipped(report.drawing);
   json["flattened"] = report.drawing.flattened;
   json["cures"] = Json::array();
@@ -163,7 +164,7 @@ Json OfDiagnostics(const Report& report) {
   for (const Correction& correction : diagnostics.corrections) {
     json["corrections"].push_back({{"kind", correction.kind == Correction::Kind::Label ? "label" : "nesting"},
                                    {"region", RegionId(correction.region)},
-                                   {"text", correction.text}});
+                                   {"text", CorrectionText(correction, report.detection)}});
   }
   json["openPieces"] = Json::array();
   for (const OpenPiece& open : diagnostics.openPieces) json["openPieces"].push_back(OfOpenPiece(open, report.drawing));

@@ -81,6 +81,7 @@ void Motion::ApplyToDiagnostics(Diagnostics& aDiagnostics) const {
   for (OpenPiece& open : aDiagnostics.openPieces) open.piece = (*this)(open.piece);
   for (TravelledPiece& lost : aDiagnostics.lostSides) lost = (*this)(lost);
   for (Cure& cure : aDiagnostics.cures) cure.place = (*this)(cure.place);
+  for (Correction& correction : aDiagnostics.corrections) correction.labelledAt = (*this)(correction.labelledAt);
 }
 
 }  // namespace xsec

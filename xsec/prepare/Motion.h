@@ -24,7 +24,7 @@ class Motion {
   void ApplyToLoops(Region& aRegion) const;
   /// The centroid and the label point.
   void ApplyToPoints(Region& aRegion) const;
-  /// Open pieces, lost sides and cures.
+  /// Open pieces, lost sides, cures, and where labels were.
   void ApplyToDiagnostics(Diagnostics& aDiagnostics) const;
 
  private:
