@@ -109,13 +109,14 @@ std::vector<std::size_t> CountTravels(const TEntityTree& regionTree, std::size_t
 
 }  // namespace
 
-void CompareNesting(const TEntityTree& aRegionTree, std::span<const TracedLoop> aFaces, Detection& aDetection) {
+void CompareNesting(const TEntityTree& aRegionTree, std::span<const TracedLoop> aFaces,
+                    std::span<const Region> aRegions, Diagnostics& aDiagnostics) {
   const std::vector<std::size_t> claimed = ClaimedParents(aRegionTree, aFaces);
   for (std::size_t i = 0; i < aFaces.size(); ++i) {
-    const std::size_t parent = aDetection.regions[i].parent;
+    const std::size_t parent = aRegions[i].parent;
     const std::size_t claim = claimed[aFaces[i].index];
     if (claim == parent) continue;
-    aDetection.diagnostics.corrections.push_back({Correction::Kind::Nesting, i, claim, {}, false});
+    aDiagnostics.corrections.push_back({Correction::Kind::Nesting, i, claim, {}, false});
   }
 }
 

@@ -17,7 +17,7 @@ namespace xsec {
 /// Reports where the library's sub-region lists put a face elsewhere than its inner point does. The regions keep the
 /// place of their points.
 void CompareNesting(const GeometryEngine::TEntityTree& aRegionTree, std::span<const TracedLoop> aFaces,
-                    Detection& aDetection);
+                    std::span<const Region> aRegions, Diagnostics& aDiagnostics);
 
 /// Measures centroids along the true arcs, sees to it that every label lies well inside its region and outside its
 /// children, moves it when it does not, marks slivers, and compares the library's areas with those of the loops.

@@ -4,26 +4,39 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <map>
 #include <numbers>
+#include <set>
+#include <utility>
 
 #include <gmock/gmock.h>
 
+#include "tests/support/Geometry.h"
 #include "tests/support/Settings.h"
 #include "tests/xsec/Drawings.h"
+#include "xsec/InnerPoint.h"
 #include "xsec/RegionDetection.h"
+#include "xsec/RegionNotes.h"
 #include "xsec/prepare/EntityGrid.h"
 
 namespace xsec {
 namespace {
 
+using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-PreparedDrawing Prepared(const Drawing& drawing, double tolerance = 1e-3) {
+std::vector<PreparedGroup> PreparedGroups(const Drawing& drawing, double tolerance = 1e-3) {
   const GeometryEngine::support::TSettingsGuard guard;
   SettingsRequest request;
   request.tolerance = tolerance;
   return Prepare(drawing, ApplySettings(request, drawing.extents).tolerance);
+}
+
+PreparedGroup Prepared(const Drawing& drawing, double tolerance = 1e-3) {
+  std::vector<PreparedGroup> groups = PreparedGroups(drawing, tolerance);
+  EXPECT_THAT(groups, SizeIs(1));
+  return std::move(groups.front());
 }
 
 Detection DetectAt(const Drawing& drawing, bool prepares, double tolerance = 1e-3) {
@@ -49,7 +62,7 @@ bool AreSameBits(const GeometryEngine::TDXFEntity& a, const GeometryEngine::TDXF
 
 TEST(Prepare, LeavesADrawingWithoutDifficultiesAlone) {
   const Drawing drawing = DrawingOf(Rectangle(0, 0, 9, 9) + "L 3,0 3,9; " + Circle(6, 4, 1));
-  const PreparedDrawing prepared = Prepared(drawing);
+  const PreparedGroup prepared = Prepared(drawing);
   EXPECT_THAT(prepared.cures, IsEmpty());
   EXPECT_THAT(prepared.pieces, SizeIs(drawing.entities.size()));
 }
@@ -75,7 +88,7 @@ TEST(Prepare, ArcsOfOneCircleGetOneCentreAndRadius) {
 }
 
 TEST(Prepare, LinesThatLieOnEachOtherAreCutAtEachOthersEndsAndKeptOnce) {
-  const PreparedDrawing prepared = Prepared(DrawingOf("L 0,0 10,0.0003; L 4,0 6,0.0002"));
+  const PreparedGroup prepared = Prepared(DrawingOf("L 0,0 10,0.0003; L 4,0 6,0.0002"));
   EXPECT_EQ(Count(prepared.cures, CureKind::Overlap), 1U);
   EXPECT_EQ(Count(prepared.cures, CureKind::Duplicate), 1U);
   EXPECT_THAT(prepared.pieces, SizeIs(3));
@@ -85,8 +98,8 @@ TEST(Prepare, DrawnTwoThousandTimesGivesThePiecesOfDrawnOnce) {
   const std::string once = Rectangle(0, 0, 9, 9) + "L 3,0 3,9; " + Circle(6, 4, 1) + Circle(7, 4, 1);
   std::string often;
   for (int i = 0; i < 2000; ++i) often += once;
-  const PreparedDrawing expected = Prepared(DrawingOf(once));
-  const PreparedDrawing prepared = Prepared(DrawingOf(often));
+  const PreparedGroup expected = Prepared(DrawingOf(once));
+  const PreparedGroup prepared = Prepared(DrawingOf(often));
   ASSERT_THAT(prepared.pieces, SizeIs(expected.pieces.size()));
   for (std::size_t i = 0; i < expected.pieces.size(); ++i) {
     EXPECT_TRUE(AreSameBits(prepared.pieces[i].geometry, expected.pieces[i].geometry)) << i;
@@ -97,14 +110,14 @@ TEST(Prepare, DrawnTwoThousandTimesGivesThePiecesOfDrawnOnce) {
 }
 
 TEST(Prepare, LineDrawnTheOtherWayIsADouble) {
-  const PreparedDrawing prepared = Prepared(DrawingOf("L 0,0 9,1; L 4,-3 5,3; L 9,1 0,0"));
+  const PreparedGroup prepared = Prepared(DrawingOf("L 0,0 9,1; L 4,-3 5,3; L 9,1 0,0"));
   EXPECT_THAT(prepared.pieces, SizeIs(2));
   EXPECT_EQ(Count(prepared.cures, CureKind::Overlap), 1U);
   EXPECT_EQ(Count(prepared.cures, CureKind::Duplicate), 1U);
 }
 
 TEST(Prepare, HalfOfACircleThatIsDrawnAloneAsWellDoesNotTakeItsPlace) {
-  const PreparedDrawing prepared = Prepared(DrawingOf("A c 6,4 r 1 0..180; L 0,0 9,0; " + Circle(6, 4, 1)));
+  const PreparedGroup prepared = Prepared(DrawingOf("A c 6,4 r 1 0..180; L 0,0 9,0; " + Circle(6, 4, 1)));
   EXPECT_THAT(prepared.pieces, SizeIs(3));
   EXPECT_EQ(Count(prepared.cures, CureKind::Duplicate), 1U);
 }
@@ -114,7 +127,7 @@ TEST(Prepare, ThousandLinesFromOnePointInOneDirectionAreCutAtEachOthersEnds) {
   std::string drawing;
   for (std::size_t i = 1; i <= kLines; ++i)
     drawing += "L 0,0 " + std::to_string(2 * i) + "," + std::to_string(i) + "; ";
-  const PreparedDrawing prepared = Prepared(DrawingOf(drawing));
+  const PreparedGroup prepared = Prepared(DrawingOf(drawing));
   EXPECT_THAT(prepared.pieces, SizeIs(kLines));
   EXPECT_EQ(Count(prepared.cures, CureKind::Overlap), kLines * (kLines - 1) / 2);
   EXPECT_EQ(Count(prepared.cures, CureKind::Duplicate), kLines * (kLines - 1) / 2);
@@ -124,7 +137,7 @@ TEST(Prepare, HundredsOfArcsOfOneCircleAreCutAtEachOthersEnds) {
   constexpr std::size_t kArcs = 340;
   std::string drawing;
   for (std::size_t i = 1; i <= kArcs; ++i) drawing += "A c 1,2 r 50 3.." + std::to_string(3 + i) + "; ";
-  const PreparedDrawing prepared = Prepared(DrawingOf(drawing));
+  const PreparedGroup prepared = Prepared(DrawingOf(drawing));
   EXPECT_THAT(prepared.pieces, SizeIs(kArcs));
   EXPECT_EQ(Count(prepared.cures, CureKind::Overlap), kArcs * (kArcs - 1) / 2);
 }
@@ -181,7 +194,7 @@ TEST(Prepare, RegionsFarFromTheOriginAreThoseNearIt) {
 }
 
 /// Two arcs of an air gap and the steep edge of a tooth begin at one point, where the library finds a second one: so
-/// far from the origin an end has too few digits to be recognised. A square at the other side keeps the drawing there.
+/// far from the origin an end has too few digits to be recognised. A frame round all of it keeps the drawing there.
 TEST(Prepare, EndsThatWouldMeetOtherwiseAreSeenToByATurn) {
   const Drawing drawing = DrawingOf(
       "A c 3531.250200155,6099.436662289 r 83.892861195 89.3255563411..90.7235563412; "
@@ -191,7 +204,7 @@ TEST(Prepare, EndsThatWouldMeetOtherwiseAreSeenToByATurn) {
       "L 3532.225390356,6182.298488658 3530.191230952,6182.299379097; "
       "L 3530.191230952,6182.299379097 3528.725390356,6182.298488658; "
       "L 3528.725390356,6182.298488658 3528.625390356,6183.288488658; " +
-      Rectangle(-3528, -6183, -3519, -6174));
+      Rectangle(-3600, -6200, 3600, 6200));
   const Detection detection = DetectAt(drawing, true, 1e-4);
   EXPECT_THAT(detection.regions, SizeIs(3));
   EXPECT_THAT(detection.diagnostics.cures, IsEmpty());
@@ -206,6 +219,87 @@ TEST(Prepare, DrawingThatIsMovedMeanwhileKeepsItsDigits) {
     EXPECT_TRUE(piece.from.x == 100000.1 || piece.from.x == 100003.3);
     EXPECT_TRUE(piece.from.y == 7 || piece.from.y == 9);
   }
+}
+
+/// A plate with a steep line through it, so that it must be turned, and a square in its left half.
+std::string SteeplyPartedPlate(double x, double y) {
+  const auto at = [](double value) { return std::to_string(value); };
+  return "L " + at(x + 5) + "," + at(y) + " " + at(x + 5.0005) + "," + at(y + 9) + "; " +
+         Rectangle(x, y, x + 9, y + 9) + Rectangle(x + 1, y + 1, x + 3, y + 3);
+}
+
+TEST(Prepare, PartsSideBySideAreTurnedEachAsItNeedsAndTheOthersNotAtAll) {
+  const Drawing drawing = DrawingOf(SteeplyPartedPlate(20, 0) + Rectangle(-4, 0, 5, 9) + SteeplyPartedPlate(40, 3) +
+                                    Rectangle(-4, 20, -2, 22));
+  const std::vector<PreparedGroup> groups = PreparedGroups(drawing);
+  ASSERT_THAT(groups, SizeIs(3));
+  EXPECT_THAT(groups[0].cures, IsEmpty());
+  ASSERT_THAT(groups[0].pieces, SizeIs(8));
+  for (const PreparedPiece& piece : groups[0].pieces) {
+    EXPECT_TRUE(AreSameBits(piece.geometry, drawing.entities[piece.source].geometry));
+  }
+  for (std::size_t i = 1; i < 3; ++i) {
+    EXPECT_EQ(Count(groups[i].cures, CureKind::SteepLine), 1U);
+    EXPECT_THAT(groups[i].pieces, SizeIs(9));
+    const GeometryEngine::TDXFEntity& steep = groups[i].pieces[0].geometry;
+    EXPECT_GT(std::abs(steep.StartCoords.x - steep.EndCoords.x), 0.1);
+  }
+  EXPECT_THAT(groups[1].cures[0].place, GeometryEngine::support::IsNear(25, 0, 1e-9));
+  EXPECT_THAT(groups[2].cures[0].place, GeometryEngine::support::IsNear(45, 3, 1e-9));
+}
+
+TEST(Prepare, WhatAFrameHoldsIsTurnedTogether) {
+  const Drawing drawing = DrawingOf(SteeplyPartedPlate(0, 0) + SteeplyPartedPlate(40, 3) + Rectangle(-5, -5, 60, 60));
+  EXPECT_THAT(PreparedGroups(drawing), SizeIs(1));
+  EXPECT_THAT(DetectAt(drawing, true).regions, SizeIs(7));
+}
+
+TEST(DetectRegions, RegionsOfPartsThatWereTurnedApartAreOneDetection) {
+  const Drawing drawing = DrawingOf(SteeplyPartedPlate(0, 0) + Rectangle(20, 0, 29, 9) + Rectangle(22, 2, 25, 5) +
+                                    SteeplyPartedPlate(40, 3) + "L 70,70 75,70");
+  const Detection detection = DetectAt(drawing, true);
+  ASSERT_THAT(detection.regions, SizeIs(8));
+  std::set<std::string> names;
+  std::map<std::size_t, std::size_t> sourceOfPiece;
+  double area = 0;
+  for (std::size_t i = 0; i < detection.regions.size(); ++i) {
+    const Region& region = detection.regions[i];
+    names.insert(region.uniqueName);
+    area += region.netArea;
+    EXPECT_TRUE(IsInside(region.outline, region.label)) << i;
+    EXPECT_GT(region.clearance, 0.1) << i;
+    EXPECT_EQ(region.depth, region.parent == kNone ? 0U : 1U);
+    for (const std::size_t child : region.children) EXPECT_EQ(detection.regions[child].parent, i);
+    if (region.parent != kNone) {
+      EXPECT_THAT(detection.regions[region.parent].children, ElementsAre(i));
+    }
+    for (const TravelledPiece& piece : region.outline) {
+      EXPECT_EQ(sourceOfPiece.emplace(piece.index, piece.source).first->second, piece.source);
+    }
+  }
+  EXPECT_THAT(names, SizeIs(8));
+  EXPECT_NEAR(area, 3 * 81, 1e-6);
+  EXPECT_THAT(WarningTexts(detection.diagnostics), IsEmpty());
+  EXPECT_THAT(detection.diagnostics.lostSides, IsEmpty());
+  ASSERT_THAT(detection.diagnostics.openPieces, SizeIs(1));
+  EXPECT_THAT(MidPoint(detection.diagnostics.openPieces[0].piece), GeometryEngine::support::IsNear(72.5, 70, 1e-9));
+}
+
+TEST(DetectRegions, SliversOfPartsThatWereTurnedApartAreDropped) {
+  const auto sliver = [](double y) {
+    return "L 0," + std::to_string(y) + " 9," + std::to_string(y) + "; L 0," + std::to_string(y + 0.002) + " 9," +
+           std::to_string(y + 0.002) + "; ";
+  };
+  const Drawing drawing = DrawingOf(SteeplyPartedPlate(0, 0) + sliver(6) + SteeplyPartedPlate(0, 40) + sliver(47));
+  const GeometryEngine::support::TSettingsGuard guard;
+  SettingsRequest request;
+  request.tolerance = 1e-3;
+  request.sliverArea = 0.1;
+  EXPECT_THAT(DetectRegions(drawing, ApplySettings(request, drawing.extents)).regions, SizeIs(14));
+  request.dropsSlivers = true;
+  const Detection detection = DetectRegions(drawing, ApplySettings(request, drawing.extents));
+  EXPECT_THAT(detection.regions, SizeIs(10));
+  EXPECT_EQ(Count(detection.diagnostics.cures, CureKind::Sliver), 4U);
 }
 
 TEST(Prepare, CircleThatTouchesAnotherFromInsideIsARegionInEveryDirection) {

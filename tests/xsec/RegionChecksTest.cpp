@@ -147,12 +147,12 @@ TEST(CompareNesting, ReportsWhereTheListsOfTheLibraryDisagree) {
   ASSERT_THAT(faces, SizeIs(2));
   Detection detection;
   detection.regions.resize(2);
-  CompareNesting(squares.driver.RegionTree(), faces, detection);
+  CompareNesting(squares.driver.RegionTree(), faces, detection.regions, detection.diagnostics);
   EXPECT_THAT(detection.diagnostics.corrections, IsEmpty());
 
   auto* first = squares.driver.RegionTree().RootNode()->GetNode(static_cast<GeometryEngine::TIndex>(faces[0].index));
   first->AddSubRegion(static_cast<std::int32_t>(faces[1].index));
-  CompareNesting(squares.driver.RegionTree(), faces, detection);
+  CompareNesting(squares.driver.RegionTree(), faces, detection.regions, detection.diagnostics);
   ASSERT_THAT(detection.diagnostics.corrections, SizeIs(1));
   EXPECT_EQ(detection.diagnostics.corrections[0].kind, Correction::Kind::Nesting);
   EXPECT_EQ(CorrectionText(detection.diagnostics.corrections[0], detection),

@@ -39,6 +39,7 @@ void CutSteepLines(Preparation& aWork) {
     if (IsArc(part.geometry) || IsUpright(part.geometry, aWork.tolerance)) continue;
     if (!HasNeighboursOfOneX(PointsInOrder(part), aWork.tolerance)) continue;
     part.cuts = part.meetings;
+    aWork.doubtful.push_back(i);
     aWork.Report(CureKind::SteepLine, part.geometry.StartCoords, i, kNone,
                  std::abs(part.geometry.EndCoords.x - part.geometry.StartCoords.x));
   }

@@ -125,7 +125,7 @@ class MeetingFinder {
     if (points.empty()) return;
     for (const Point& point : points) Meet(point);
     if (AreSame(points, MeetingsAsDrawn(a, b)) && AreOnBoth(points, a, b)) return;
-    if (AreEndsOfBoth(points, a, b)) ++fWork.uncured;
+    if (AreEndsOfBoth(points, a, b)) fWork.doubtful.push_back(fPair.first);
     for (const Point& point : points) Cut(point);
     fWork.Report(KindOf(a, b), points.front(), fPair.first, fPair.second, 0);
   }

@@ -44,7 +44,7 @@ struct Preparation {
   std::vector<Double> doubles;  ///< in the order of the drawing
   std::vector<PartPair> pairs;
   std::vector<Cure> cures;
-  std::size_t uncured = 0;  ///< pairs that would meet otherwise if they were turned, though they end where they meet
+  std::vector<std::size_t> doubtful;  ///< parts that the library may see otherwise than they were drawn, as they lie
 
   void Report(CureKind aKind, const Point& aPlace, std::size_t aPart, std::size_t aOther, double aAmount);
 };
