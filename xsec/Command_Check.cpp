@@ -35,7 +35,7 @@ ExitCode RunCheck(const CheckOptions& options) {
   const Progress progress;
   progress.Show("reading " + options.drawing.path);
   const Drawing drawing = LoadDrawing(options.drawing);
-  const Settings settings = ApplySettings(options.drawing.settings, drawing.extents);
+  const Settings settings = ApplySettings(options.drawing.settings, drawing);
   progress.Show("finding regions");
   const Detection detection = DetectRegions(drawing, settings);
   Findings findings = FindFaults(drawing, settings, detection);

@@ -51,8 +51,7 @@ std::string InfoText(const Drawing& drawing, const Settings& settings) {
       fmt::format("extents: x {} to {}, y {} to {}; {} x {} mm\n", Plain(box.minX, 9), Plain(box.maxX, 9),
                   Plain(box.minY, 9), Plain(box.maxY, 9), Plain(box.maxX - box.minX, 9), Plain(box.maxY - box.minY, 9));
   text += SectorText(drawing);
-  text += fmt::format("tolerance: {} mm{}\n", Plain(settings.tolerance, 6),
-                      settings.toleranceGiven ? "" : ", a millionth of the diagonal");
+  text += fmt::format("tolerance: {} mm{}\n", Plain(settings.tolerance, 6), ToleranceOrigin(settings, drawing));
   text += fmt::format("lines and arcs, blocks placed: {}\n", drawing.entities.size());
   AddCounts(
       drawing, "by type in the file:", [](const DrawingEntity& e) { return e.type; }, text);
@@ -72,7 +71,7 @@ std::string InfoText(const Drawing& drawing, const Settings& settings) {
 
 ExitCode RunInfo(const DrawingOptions& options) {
   const Drawing drawing = LoadDrawing(options);
-  PrintToStandardOutput(InfoText(drawing, ApplySettings(options.settings, drawing.extents)));
+  PrintToStandardOutput(InfoText(drawing, ApplySettings(options.settings, drawing)));
   return ExitCode::Fine;
 }
 

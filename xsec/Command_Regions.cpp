@@ -40,7 +40,7 @@ ExitCode RunRegions(const RegionsOptions& options) {
   const Progress progress;
   progress.Show("reading " + options.drawing.path);
   const Drawing drawing = LoadDrawing(options.drawing);
-  const Settings settings = ApplySettings(options.drawing.settings, drawing.extents);
+  const Settings settings = ApplySettings(options.drawing.settings, drawing);
   progress.Show(fmt::format("finding regions among {} entities", drawing.entities.size()));
   const Detection detection = FindRegions(drawing, settings, request);
   const Report report{drawing, settings, detection, request.copies};

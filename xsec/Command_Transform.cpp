@@ -75,7 +75,7 @@ Drawing Transformed(const TransformOptions& options, const SearchRequest& reques
   if (options.mirror) return Mirrored(drawing, options.mirror->first, options.mirror->second);
   if (options.rotate) return Turned(drawing, *options.rotate);
   if (options.copies > 0) return CopiedRound(drawing, options.copies);
-  const Settings settings = ApplySettings(options.drawing.settings, drawing.extents);
+  const Settings settings = ApplySettings(options.drawing.settings, drawing);
   const double distance = CheckedOffset(*options.offset, settings);
   return Offset(drawing, FindRegions(drawing, settings, request).regions, distance, settings);
 }
@@ -88,7 +88,7 @@ ExitCode RunTransform(const TransformOptions& options) {
   const Drawing source = LoadDrawing(options.drawing);
   progress.Show("transforming");
   const Drawing drawing = Transformed(options, request, source);
-  const Settings settings = ApplySettings(options.drawing.settings, drawing.extents);
+  const Settings settings = ApplySettings(options.drawing.settings, drawing);
   progress.Show("finding the regions of the result");
   const Detection detection = FindRegions(drawing, settings, request);
   const Report report{drawing, settings, detection};

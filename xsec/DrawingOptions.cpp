@@ -44,7 +44,8 @@ std::uint8_t CheckedMachineType(int type) {
 
 void AddSettingsOptions(const Command& command, SettingsRequest& settings) {
   command.Add<double>("--tol", "MM",
-                      "Linear tolerance: ends closer than this meet. Without it a millionth of the drawing's diagonal",
+                      "Linear tolerance: ends closer than this meet. Without it a millionth of the diagonal of the "
+                      "drawing's largest part",
                       [&](double value) { settings.tolerance = CheckedLength("--tol", value); });
   const auto keepFields = [&settings](const std::vector<std::string>& texts) {
     for (const std::string& text : texts) settings.fields.push_back(ParseFieldValue(text));

@@ -10,6 +10,8 @@
 #include "GeometryEngine/host/TDataStore.h"
 #include "GeometryEngine/host/TInputData.h"
 #include "xsec/Errors.h"
+#include "xsec/SplitAtGaps.h"
+#include "xsec/TravelledPiece.h"
 
 namespace xsec {
 
@@ -20,6 +22,7 @@ using enum Maindataenum::TInputFields;
 
 constexpr double kTolerancePerDiagonal = 1e-6;
 constexpr double kToleranceWithoutSize = 1e-4;  // millimetres
+constexpr double kTolerancesBetweenParts = 2;   // of the drawing as a whole
 
 constexpr TInputFields kFieldsOfTheLibrary[] = {
     ifSlotDuplications, ifPoleDuplications, ifBarDuplications, ifLinearTolerance,   ifSnappingMode,
@@ -47,10 +50,27 @@ std::vector<FieldValue> FieldsInUse(const std::vector<FieldValue>& requested) {
   return fields;
 }
 
+/// Of the drawing itself when it is one part.
+double DiagonalOfLargestPart(const Drawing& drawing) {
+  std::vector<Extents> boxes;
+  for (const DrawingEntity& entity : drawing.entities) boxes.push_back(Bounds(Travel(entity.geometry, true)));
+  const double whole = Diagonal(drawing.extents);
+  const double gap = kTolerancesBetweenParts * kTolerancePerDiagonal * whole;
+  const std::vector<BoxGroup> parts = SplitAtGaps(boxes, gap);
+  if (parts.size() <= 1) return whole;
+  double largest = 0;
+  for (const BoxGroup& part : parts) {
+    Extents box = EmptyExtents();
+    for (const std::size_t entity : part) Widen(box, boxes[entity]);
+    largest = std::max(largest, Diagonal(box));
+  }
+  return largest;
+}
+
 }  // namespace
 
-double DefaultTolerance(const Extents& aExtents) {
-  const double diagonal = std::hypot(aExtents.maxX - aExtents.minX, aExtents.maxY - aExtents.minY);
+double DefaultTolerance(const Drawing& aDrawing) {
+  const double diagonal = DiagonalOfLargestPart(aDrawing);
   if (std::isfinite(diagonal) && diagonal > 0) return kTolerancePerDiagonal * diagonal;
   return kToleranceWithoutSize;
 }
@@ -75,10 +95,10 @@ void CheckSettings(const SettingsRequest& aRequest) {
   }
 }
 
-Settings ApplySettings(const SettingsRequest& aRequest, const Extents& aExtents) {
+Settings ApplySettings(const SettingsRequest& aRequest, const Drawing& aDrawing) {
   auto& store = Kelvaralinks::dataStore;
   store.Reset();
-  store.SetValue(ifLinearTolerance, aRequest.tolerance.value_or(DefaultTolerance(aExtents)));
+  store.SetValue(ifLinearTolerance, aRequest.tolerance ? *aRequest.tolerance : DefaultTolerance(aDrawing));
   bool given = aRequest.tolerance.has_value();
   for (const FieldValue& asked : aRequest.fields) {
     store.SetValue(static_cast<TInputFields>(asked.field), asked.value);
@@ -94,6 +114,12 @@ Settings ApplySettings(const SettingsRequest& aRequest, const Extents& aExtents)
           aRequest.sliverArea.value_or(tolerance * tolerance),
           aRequest.dropsSlivers,
           aRequest.minimumLabelArea};
+}
+
+std::string ToleranceOrigin(const Settings& aSettings, const Drawing& aDrawing) {
+  if (aSettings.toleranceGiven) return "";
+  const bool isOfPart = aSettings.tolerance < kTolerancePerDiagonal * Diagonal(aDrawing.extents);
+  return fmt::format(", a millionth of the {}", isOfPart ? "diagonal of its largest part" : "drawing's diagonal");
 }
 
 }  // namespace xsec

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -44,9 +45,12 @@ struct Settings {
   double minimumLabelArea = 0;  ///< UNITS: mm2, of the picture; where labels are does not depend on it
 };
 
-/// The linear tolerance for a drawing of this size: a millionth of its diagonal.
+/// The linear tolerance for a drawing: a millionth of the diagonal of its largest part, so that parts side by side on a
+/// sheet are read as each of them alone would be. A straight gap lies between a part and the others.
 /// DEGENERATE: 1e-4 mm for a drawing without size.
-double DefaultTolerance(const Extents& aExtents);
+///
+/// COST: n log n
+double DefaultTolerance(const Drawing& aDrawing);
 
 /// FIELD=VALUE as the command line spells it. Throws UsageError for anything else.
 FieldValue ParseFieldValue(std::string_view aText);
@@ -55,6 +59,9 @@ FieldValue ParseFieldValue(std::string_view aText);
 void CheckSettings(const SettingsRequest& aRequest);
 
 /// Puts the host's store and input-data record to their starting values, then sets what the request says.
-Settings ApplySettings(const SettingsRequest& aRequest, const Extents& aExtents);
+Settings ApplySettings(const SettingsRequest& aRequest, const Drawing& aDrawing);
+
+/// What to say behind a tolerance: nothing when it was given, else what it was taken from, after a comma.
+std::string ToleranceOrigin(const Settings& aSettings, const Drawing& aDrawing);
 
 }  // namespace xsec

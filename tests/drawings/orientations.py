@@ -21,7 +21,6 @@ from expect_regions import check_figures, run_xsec, sample_faults
 SAMPLES = ["stator_sector", "rotor_pole", "full_machine"]
 SPACING = 400  # millimetres from copy to copy, more than any sample is wide
 MOST_COPIES = 49  # beyond 3 m from the origin the library's areas differ from the expected ones in the ninth digit
-TOLERANCE = 1e-4  # of the copies: a millionth of a sample's diagonal, not of that of all of them
 
 
 def placed(text, places):
@@ -69,7 +68,7 @@ def copies_faults(name, samples, xsec, folder, count):
     places = [(SPACING * (i % side), SPACING * (i // side), i * golden % 360) for i in range(count)]
     drawing = folder / f"{name}_copies.dxf"
     drawing.write_text(placed(text, places), encoding="ascii", newline="\n")
-    found = run_xsec(xsec, drawing, folder, "--tol", str(TOLERANCE))
+    found = run_xsec(xsec, drawing, folder)
     drawing.unlink()
     kinds = [dict(kind, count=count * kind["count"]) for kind in expected["kinds"]]
     faults = sample_faults(found["regions"], {"regions": count * expected["regions"], "kinds": kinds}, quiet=True)

@@ -36,7 +36,7 @@ void WriteFem(const xsec::Report& aReport) {
 }
 
 void Detect(const xsec::Drawing& aDrawing) {
-  const xsec::Settings settings = xsec::ApplySettings({}, aDrawing.extents);
+  const xsec::Settings settings = xsec::ApplySettings({}, aDrawing);
   const xsec::Detection detection = xsec::DetectRegions(aDrawing, settings);
   for (const xsec::Region& region : detection.regions) {
     Require(region.parent == xsec::kNone || region.parent < detection.regions.size(), "a parent is a region");

@@ -48,7 +48,7 @@ std::string Circle(double aX, double aY, double aRadius) {
 
 Detection Detect(const Drawing& aDrawing) {
   const GeometryEngine::support::TSettingsGuard guard;
-  return DetectRegions(aDrawing, ApplySettings({}, aDrawing.extents));
+  return DetectRegions(aDrawing, ApplySettings({}, aDrawing));
 }
 
 Detection Detect(std::string_view aEntities) {

@@ -149,7 +149,7 @@ class FemParser {
 
 std::string FemOf(const Drawing& drawing, const Detection& detection) {
   const GeometryEngine::support::TSettingsGuard guard;
-  const Settings settings = ApplySettings({}, drawing.extents);
+  const Settings settings = ApplySettings({}, drawing);
   return FemText({drawing, settings, detection});
 }
 

@@ -19,7 +19,7 @@ using GeometryEngine::TDXFEntity;
 
 Findings FindingsOf(Drawing drawing) {
   drawing.extents = ExtentsOf(drawing.entities);
-  const Settings settings = ApplySettings({}, drawing.extents);
+  const Settings settings = ApplySettings({}, drawing);
   const Detection detection = DetectRegions(drawing, settings);
   Findings findings = FindFaults(drawing, settings, detection);
   ClimbLadder(drawing, {}, detection, findings);

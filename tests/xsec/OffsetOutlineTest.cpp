@@ -25,7 +25,7 @@ constexpr double kPi = std::numbers::pi;
 Detection OffsetBy(double distance, std::string_view entities) {
   const GeometryEngine::support::TSettingsGuard guard;
   const Drawing drawing = DrawingOf(entities);
-  const Settings settings = ApplySettings({}, drawing.extents);
+  const Settings settings = ApplySettings({}, drawing);
   const Drawing moved = Offset(drawing, DetectRegions(drawing, settings).regions, distance, settings);
   return DetectRegions(moved, settings);
 }
@@ -139,7 +139,7 @@ TEST(Mirrored, ReflectsLinesArcsAndWords) {
 TEST(CopiedRound, QuarterBecomesAWhole) {
   const GeometryEngine::support::TSettingsGuard guard;
   const Drawing whole = CopiedRound(DrawingOf("A c 0,0 r 4 0..90; A c 0,0 r 2 0..90; L 2,0 4,0; L 0,2 0,4"), 4);
-  const Detection found = DetectRegions(whole, ApplySettings({}, whole.extents));
+  const Detection found = DetectRegions(whole, ApplySettings({}, whole));
   ASSERT_THAT(found.regions, SizeIs(5));  // four quarters, and the space that they leave in the middle
   EXPECT_NEAR(AreaOf(found), 16 * kPi, 1e-9);
 }

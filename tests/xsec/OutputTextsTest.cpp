@@ -25,7 +25,7 @@ using ::testing::StartsWith;
 
 std::string TextOf(const Drawing& drawing, std::string (*render)(const Report&), std::size_t copies = 1) {
   const GeometryEngine::support::TSettingsGuard guard;
-  const Settings settings = ApplySettings({}, drawing.extents);
+  const Settings settings = ApplySettings({}, drawing);
   const Detection detection = Detect(drawing);
   return render({drawing, settings, detection, copies});
 }

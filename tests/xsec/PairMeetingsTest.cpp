@@ -36,7 +36,7 @@ class PairMeetings : public testing::TestWithParam<double> {
   void SetUp() override {
     SettingsRequest request;
     request.tolerance = 1e-4;
-    ApplySettings(request, {-120, -120, 120, 120});
+    ApplySettings(request, {});
   }
 
  private:

@@ -30,7 +30,7 @@ std::vector<PreparedGroup> PreparedGroups(const Drawing& drawing, double toleran
   const GeometryEngine::support::TSettingsGuard guard;
   SettingsRequest request;
   request.tolerance = tolerance;
-  return Prepare(drawing, ApplySettings(request, drawing.extents).tolerance);
+  return Prepare(drawing, ApplySettings(request, drawing).tolerance);
 }
 
 PreparedGroup Prepared(const Drawing& drawing, double tolerance = 1e-3) {
@@ -44,7 +44,7 @@ Detection DetectAt(const Drawing& drawing, bool prepares, double tolerance = 1e-
   SettingsRequest request;
   request.tolerance = tolerance;
   request.prepares = prepares;
-  return DetectRegions(drawing, ApplySettings(request, drawing.extents));
+  return DetectRegions(drawing, ApplySettings(request, drawing));
 }
 
 std::size_t Count(const std::vector<Cure>& cures, CureKind kind) {
@@ -295,9 +295,9 @@ TEST(DetectRegions, SliversOfPartsThatWereTurnedApartAreDropped) {
   SettingsRequest request;
   request.tolerance = 1e-3;
   request.sliverArea = 0.1;
-  EXPECT_THAT(DetectRegions(drawing, ApplySettings(request, drawing.extents)).regions, SizeIs(14));
+  EXPECT_THAT(DetectRegions(drawing, ApplySettings(request, drawing)).regions, SizeIs(14));
   request.dropsSlivers = true;
-  const Detection detection = DetectRegions(drawing, ApplySettings(request, drawing.extents));
+  const Detection detection = DetectRegions(drawing, ApplySettings(request, drawing));
   EXPECT_THAT(detection.regions, SizeIs(10));
   EXPECT_EQ(Count(detection.diagnostics.cures, CureKind::Sliver), 4U);
 }

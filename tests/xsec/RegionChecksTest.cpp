@@ -101,7 +101,7 @@ TEST(CheckRegions, MarksSlivers) {
 TEST(DetectRegions, RegionsTooSmallForALabelOfTheLibraryGetOneAllTheSame) {
   const GeometryEngine::support::TSettingsGuard guard;
   const Drawing drawing = DrawingOf(Rectangle(5, 5, 15, 15));
-  const Detection detection = DetectRegions(drawing, ApplySettings({{}, {{6528, 1e6}}, 0}, drawing.extents));
+  const Detection detection = DetectRegions(drawing, ApplySettings({{}, {{6528, 1e6}}, 0}, drawing));
   ASSERT_THAT(detection.regions, SizeIs(1));
   EXPECT_TRUE(IsInside(detection.regions[0].outline, detection.regions[0].label));
   EXPECT_THAT(detection.diagnostics.corrections, SizeIs(1));

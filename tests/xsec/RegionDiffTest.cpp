@@ -20,7 +20,7 @@ using ::testing::StartsWith;
 FoundRegions Of(const std::vector<LayerText>& layers) {
   const GeometryEngine::support::TSettingsGuard guard;
   const Drawing drawing = DrawingOf(layers);
-  const Settings settings = ApplySettings({}, drawing.extents);
+  const Settings settings = ApplySettings({}, drawing);
   const Detection detection = Detect(drawing);
   return ParseRegions(JsonText({drawing, settings, detection}), "a.json");
 }

@@ -20,7 +20,7 @@ using ::testing::SizeIs;
 
 Detection Found(const Drawing& drawing, const SearchRequest& request) {
   const GeometryEngine::support::TSettingsGuard guard;
-  return FindRegions(drawing, ApplySettings({}, drawing.extents), request);
+  return FindRegions(drawing, ApplySettings({}, drawing), request);
 }
 
 SearchRequest TurnBy(double degrees) {
@@ -91,7 +91,7 @@ TEST(FindRegions, NotesGoWithTheirRegionsWhenSmallOnesAreLeftOut) {
 TEST(FindRegions, WhereALabelWasIsToldAsTheDrawingLiesWhenItIsTurnedMeanwhile) {
   const GeometryEngine::support::TSettingsGuard guard;
   const Drawing drawing = DrawingOf(Rectangle(5, 5, 15, 17));
-  const Settings noLabels = ApplySettings({{}, {{6528, 1e6}}, 0}, drawing.extents);
+  const Settings noLabels = ApplySettings({{}, {{6528, 1e6}}, 0}, drawing);
   const Detection found = FindRegions(drawing, noLabels, TurnBy(30));
   const Detection plain = FindRegions(drawing, noLabels, {});
   ASSERT_THAT(found.diagnostics.corrections, SizeIs(1));

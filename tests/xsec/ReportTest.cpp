@@ -31,7 +31,7 @@ using ::testing::SizeIs;
 struct Carried {
   explicit Carried(Drawing aDrawing, const SettingsRequest& aRequest = {}) : drawing(std::move(aDrawing)) {
     const GeometryEngine::support::TSettingsGuard guard;
-    settings = ApplySettings(aRequest, drawing.extents);
+    settings = ApplySettings(aRequest, drawing);
     detection = DetectRegions(drawing, settings);
   }
   Report report() const { return {drawing, settings, detection}; }

@@ -5,6 +5,7 @@
 #include "GeometryEngine/host/TDataStore.h"
 #include "GeometryEngine/host/TInputData.h"
 #include "tests/support/Settings.h"
+#include "tests/xsec/Drawings.h"
 #include "xsec/Errors.h"
 
 namespace xsec {
@@ -22,22 +23,41 @@ double ValueIn(const Settings& settings, std::uint16_t field) {
 }
 
 TEST(DefaultTolerance, IsAMillionthOfTheDiagonal) {
-  EXPECT_DOUBLE_EQ(DefaultTolerance({-1, -1, 2, 3}), 5e-6);
+  EXPECT_DOUBLE_EQ(DefaultTolerance(DrawingOf(Rectangle(-1, -1, 2, 3))), 5e-6);
+}
+
+TEST(DefaultTolerance, OfPartsSideBySideIsThatOfTheLargest) {
+  EXPECT_DOUBLE_EQ(DefaultTolerance(DrawingOf(Rectangle(0, 0, 3, 4) + Rectangle(9, 0, 10, 1) + Circle(50, 70, 1))),
+                   5e-6);
+  EXPECT_DOUBLE_EQ(DefaultTolerance(DrawingOf(Rectangle(0, 0, 30, 40) + Rectangle(9, 0, 10, 1))), 5e-5);
+}
+
+TEST(DefaultTolerance, EdgesThatNearlyMeetAreOnePart) {
+  EXPECT_DOUBLE_EQ(DefaultTolerance(DrawingOf("L 0,0 30,0; L 0,5e-5 30,40")), 5e-5);
 }
 
 TEST(DefaultTolerance, OfADrawingWithoutSizeIsThatOfTheHost) {
   EXPECT_EQ(DefaultTolerance({}), 1e-4);
-  EXPECT_EQ(DefaultTolerance({5, 5, 5, 5}), 1e-4);
+  EXPECT_EQ(DefaultTolerance(DrawingOf("L 5,5 5,5")), 1e-4);
+}
+
+TEST(ToleranceOrigin, SaysWhatTheToleranceIsTakenFrom) {
+  const GeometryEngine::support::TSettingsGuard guard;
+  const Drawing one = DrawingOf(Rectangle(0, 0, 30, 40));
+  const Drawing two = DrawingOf(Rectangle(0, 0, 30, 40) + Rectangle(50, 0, 51, 1));
+  EXPECT_EQ(ToleranceOrigin(ApplySettings({}, one), one), ", a millionth of the drawing's diagonal");
+  EXPECT_EQ(ToleranceOrigin(ApplySettings({}, two), two), ", a millionth of the diagonal of its largest part");
+  EXPECT_EQ(ToleranceOrigin(ApplySettings({0.25, {}, 0}, two), two), "");
 }
 
 TEST(ApplySettings, SetsTheToleranceFromTheDrawingUnlessItIsGiven) {
   const GeometryEngine::support::TSettingsGuard guard;
-  const Settings byDefault = ApplySettings({}, {0, 0, 30, 40});
+  const Settings byDefault = ApplySettings({}, DrawingOf(Rectangle(0, 0, 30, 40)));
   EXPECT_DOUBLE_EQ(dataStore.GetValue(ifLinearTolerance), 5e-5);
   EXPECT_DOUBLE_EQ(byDefault.tolerance, 5e-5);
   EXPECT_FALSE(byDefault.toleranceGiven);
 
-  const Settings given = ApplySettings({0.25, {}, 0}, {0, 0, 30, 40});
+  const Settings given = ApplySettings({0.25, {}, 0}, DrawingOf(Rectangle(0, 0, 30, 40)));
   EXPECT_EQ(dataStore.GetValue(ifLinearTolerance), 0.25);
   EXPECT_EQ(given.tolerance, 0.25);
   EXPECT_TRUE(given.toleranceGiven);
@@ -45,7 +65,7 @@ TEST(ApplySettings, SetsTheToleranceFromTheDrawingUnlessItIsGiven) {
 
 TEST(ApplySettings, SetsFieldsByNumberAndTheMachineType) {
   const GeometryEngine::support::TSettingsGuard guard;
-  const Settings settings = ApplySettings({{}, {{6529, 9}, {77, 1.5}, {6525, 0.5}, {6529, 11}}, 6}, {0, 0, 1, 1});
+  const Settings settings = ApplySettings({{}, {{6529, 9}, {77, 1.5}, {6525, 0.5}, {6529, 11}}, 6}, {});
   EXPECT_EQ(dataStore.GetValue(ifArcResolution), 11);
   EXPECT_EQ(dataStore.GetValue(static_cast<Maindataenum::TInputFields>(77)), 1.5);
   EXPECT_EQ(Kelvaralinks::InputData.MachineType, 6);
@@ -59,8 +79,8 @@ TEST(ApplySettings, SetsFieldsByNumberAndTheMachineType) {
 
 TEST(ApplySettings, ForgetsWhatAFormerCallSet) {
   const GeometryEngine::support::TSettingsGuard guard;
-  ApplySettings({{}, {{6529, 9}}, 6}, {0, 0, 1, 1});
-  ApplySettings({}, {0, 0, 1, 1});
+  ApplySettings({{}, {{6529, 9}}, 6}, {});
+  ApplySettings({}, {});
   EXPECT_EQ(dataStore.GetValue(ifArcResolution), 5);
   EXPECT_EQ(Kelvaralinks::InputData.MachineType, 0);
 }

@@ -1,6 +1,4 @@
-#include "xsec/prepare/SplitAtGaps.h"
-
-#include <numeric>
+#include "xsec/SplitAtGaps.h"
 
 #include <gmock/gmock.h>
 
@@ -12,24 +10,20 @@ using ::testing::IsEmpty;
 using ::testing::SizeIs;
 using ::testing::UnorderedElementsAre;
 
-std::vector<BoxGroup> Split(const std::vector<Extents>& boxes, double gap = 0.5) {
-  BoxGroup all(boxes.size());
-  std::iota(all.begin(), all.end(), std::size_t{0});
-  return SplitAtGaps(boxes, all, gap);
-}
+constexpr double kGap = 0.5;
 
 Extents Square(double x, double y) {
   return {x, y, x + 1, y + 1};
 }
 
 TEST(SplitAtGaps, NoBoxesAreNoGroup) {
-  EXPECT_THAT(Split({}), IsEmpty());
+  EXPECT_THAT(SplitAtGaps({}, kGap), IsEmpty());
 }
 
 TEST(SplitAtGaps, BoxesSideBySideOrAboveEachOtherArePartedAndTheirIndexesAscend) {
-  EXPECT_THAT(Split({Square(4, 0), Square(0, 0), Square(4.5, 0.5), Square(0.2, 0)}),
+  EXPECT_THAT(SplitAtGaps({Square(4, 0), Square(0, 0), Square(4.5, 0.5), Square(0.2, 0)}, kGap),
               UnorderedElementsAre(ElementsAre(1, 3), ElementsAre(0, 2)));
-  EXPECT_THAT(Split({Square(0, 4), Square(0, 0), Square(0, 4.5)}),
+  EXPECT_THAT(SplitAtGaps({Square(0, 4), Square(0, 0), Square(0, 4.5)}, kGap),
               UnorderedElementsAre(ElementsAre(1), ElementsAre(0, 2)));
 }
 
@@ -39,20 +33,20 @@ TEST(SplitAtGaps, OnlyTheMembersAreParted) {
 }
 
 TEST(SplitAtGaps, BoxesAsFarApartAsTheGapStayTogether) {
-  EXPECT_THAT(Split({Square(0, 0), Square(1.5, 0)}), SizeIs(1));
-  EXPECT_THAT(Split({Square(0, 0), Square(1.5001, 0)}), SizeIs(2));
+  EXPECT_THAT(SplitAtGaps({Square(0, 0), Square(1.5, 0)}, kGap), SizeIs(1));
+  EXPECT_THAT(SplitAtGaps({Square(0, 0), Square(1.5001, 0)}, kGap), SizeIs(2));
 }
 
 TEST(SplitAtGaps, CutsGoOnThroughTheParts) {
   // A tall box beside three: none of the gaps between these goes through all.
   const Extents tall{10, 0, 11, 9};
-  EXPECT_THAT(Split({tall, Square(0, 0), Square(0, 4), Square(3, 4)}), SizeIs(4));
+  EXPECT_THAT(SplitAtGaps({tall, Square(0, 0), Square(0, 4), Square(3, 4)}, kGap), SizeIs(4));
 }
 
 TEST(SplitAtGaps, WhatAFrameHoldsOrNoStraightCutPartsStaysTogether) {
-  EXPECT_THAT(Split({{-1, -1, 20, 20}, Square(0, 0), Square(9, 9)}), SizeIs(1));
+  EXPECT_THAT(SplitAtGaps({{-1, -1, 20, 20}, Square(0, 0), Square(9, 9)}, kGap), SizeIs(1));
   const std::vector<Extents> pinwheel = {{0, 0, 6, 2}, {8, 0, 10, 6}, {4, 8, 10, 10}, {0, 4, 2, 10}};
-  EXPECT_THAT(Split(pinwheel), SizeIs(1));
+  EXPECT_THAT(SplitAtGaps(pinwheel, kGap), SizeIs(1));
 }
 
 TEST(SplitAtGaps, EndsAfterSoManyCutsThroughCuts) {
@@ -63,7 +57,7 @@ TEST(SplitAtGaps, EndsAfterSoManyCutsThroughCuts) {
     boxes.push_back(i % 2 == 0 ? Extents{size, 0, size + 0.4 * size, size} : Extents{0, size, size, size + 0.4 * size});
   }
   std::size_t held = 0;
-  const std::vector<BoxGroup> groups = Split(boxes, 0.01);
+  const std::vector<BoxGroup> groups = SplitAtGaps(boxes, 0.01);
   for (const BoxGroup& group : groups) held += group.size();
   EXPECT_EQ(held, boxes.size());
   EXPECT_GT(groups.size(), 30U);

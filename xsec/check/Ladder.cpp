@@ -81,20 +81,20 @@ Rung RungOf(const Detection& detection, double tolerance) {
 
 void ClimbLadder(const Drawing& aDrawing, const SettingsRequest& aRequest, const Detection& aDetection,
                  Findings& aFindings) {
-  const Settings own = ApplySettings(aRequest, aDrawing.extents);
+  const Settings own = ApplySettings(aRequest, aDrawing);
   aFindings.ladder.push_back(RungOf(aDetection, own.tolerance));
   for (const double tolerance : TolerancesToTry(own.tolerance, aFindings.nearMisses)) {
     SettingsRequest request = aRequest;
     std::erase_if(request.fields, [](const FieldValue& field) { return field.field == kLinearToleranceField; });
     request.tolerance = tolerance;
-    const Detection detection = DetectRegions(aDrawing, ApplySettings(request, aDrawing.extents));
+    const Detection detection = DetectRegions(aDrawing, ApplySettings(request, aDrawing));
     aFindings.ladder.push_back(RungOf(detection, tolerance));
     aFindings.ladder.back().newAreas = NewAreas(detection, aDetection, tolerance);
     NoteWhatCloses(detection, tolerance, aFindings.nearMisses);
   }
   std::sort(aFindings.ladder.begin(), aFindings.ladder.end(),
             [](const Rung& a, const Rung& b) { return a.tolerance < b.tolerance; });
-  ApplySettings(aRequest, aDrawing.extents);
+  ApplySettings(aRequest, aDrawing);
 }
 
 }  // namespace xsec

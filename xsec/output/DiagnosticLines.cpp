@@ -41,7 +41,7 @@ void AddBasis(const Report& report, Lines& lines) {
   const DrawingUnits& units = report.drawing.units;
   lines.Add("drawing in {} ({}); all results in mm", units.name, units.source);
   lines.Add("linear tolerance {:.6g} mm{}", report.settings.tolerance,
-            report.settings.toleranceGiven ? "" : ", a millionth of the drawing's diagonal");
+            ToleranceOrigin(report.settings, report.drawing));
 }
 
 void AddReading(const Drawing& drawing, Lines& lines) {

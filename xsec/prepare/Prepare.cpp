@@ -11,7 +11,7 @@
 #include "xsec/prepare/EntityGrid.h"
 #include "xsec/prepare/Motion.h"
 #include "xsec/prepare/Preparation.h"
-#include "xsec/prepare/SplitAtGaps.h"
+#include "xsec/SplitAtGaps.h"
 #include "xsec/prepare/VertexPlaces.h"
 
 namespace xsec {

@@ -1,7 +1,8 @@
-#include "xsec/prepare/SplitAtGaps.h"
+#include "xsec/SplitAtGaps.h"
 
 #include <algorithm>
 #include <limits>
+#include <numeric>
 #include <utility>
 
 namespace xsec {
@@ -62,6 +63,12 @@ class Splitter {
 };
 
 }  // namespace
+
+std::vector<BoxGroup> SplitAtGaps(const std::vector<Extents>& aBoxes, double aGap) {
+  BoxGroup all(aBoxes.size());
+  std::iota(all.begin(), all.end(), std::size_t{0});
+  return SplitAtGaps(aBoxes, all, aGap);
+}
 
 std::vector<BoxGroup> SplitAtGaps(const std::vector<Extents>& aBoxes, const BoxGroup& aMembers, double aGap) {
   if (aMembers.empty()) return {};

@@ -17,6 +17,8 @@ using BoxGroup = std::vector<std::size_t>;
 /// DEGENERATE: none for no boxes.
 ///
 /// COST: n log n for each of at most 32 cuts through cuts
+std::vector<BoxGroup> SplitAtGaps(const std::vector<Extents>& aBoxes, double aGap);
+/// Only the members of the group are parted.
 std::vector<BoxGroup> SplitAtGaps(const std::vector<Extents>& aBoxes, const BoxGroup& aMembers, double aGap);
 
 }  // namespace xsec
