@@ -103,6 +103,7 @@ TEST(Offset, NeighboursThatWouldOverlapAreRefusedWithThePlace) {
   const std::string apart = Rectangle(0, 0, 4, 4) + "; " + Rectangle(6, 0, 10, 4);
   EXPECT_EQ(RefusalOf(0.9, apart), "");
   EXPECT_THAT(RefusalOf(1.5, apart), HasSubstr("region 1 (0) overlaps region 2 (0_1) at (5, 2)"));
+  EXPECT_THAT(RefusalOf(20, apart), HasSubstr("region 1 (0) overlaps region 2 (0_1) at (2, 2)"));
   EXPECT_THAT(RefusalOf(0.5, Rectangle(0, 0, 4, 4) + "; L 2,0 2,4"), HasSubstr(" at (2, "));
   EXPECT_EQ(RefusalOf(-0.5, Rectangle(0, 0, 4, 4) + "; L 2,0 2,4"), "");
 }

@@ -7,6 +7,7 @@
 #include "GeometryEngine/GeometryEngine_Entity_Operations/EntityTransforms.h"
 #include "xsec/BoxIndex.h"
 #include "xsec/DrawingExtents.h"
+#include "xsec/InnerPoint.h"
 #include "xsec/RegionDetection.h"
 #include "xsec/RegionSearch.h"
 #include "xsec/output/Topology.h"
@@ -17,6 +18,7 @@ namespace xsec {
 namespace {
 
 constexpr double kLongestArc = 90;  // degrees
+constexpr std::size_t kHeightsForInnerPoint = 5;
 
 /// What is not geometry stays; counts of what was skipped are those of the file.
 Drawing WithoutGeometry(const Drawing& drawing) {
@@ -87,9 +89,14 @@ class MovedOutlines {
   BoxIndex fIndex;
 };
 
+/// Outlines that overlap much meet so often that the faces between them take long to find: first a point within each.
 void RefuseOverlaps(const std::vector<Region>& regions, const std::vector<Loop>& moved, const Drawing& result,
                     const Settings& settings) {
   const MovedOutlines outlines(regions, moved);
+  for (const Loop& loop : moved) {
+    const auto inner = FindInnerPoint({&loop, {}}, kHeightsForInnerPoint);
+    if (inner && inner->clearance > settings.tolerance) outlines.Check(inner->point);
+  }
   for (const Region& face : DetectRegions(result, settings).regions) {
     if (!face.sliver) outlines.Check(face.label);
   }
