@@ -50,17 +50,22 @@ double Clearance(const RegionSpace& aSpace, const Point& aPoint) {
   return clearance;
 }
 
-std::optional<InnerPoint> FindInnerPoint(const RegionSpace& aSpace, std::size_t aHeights) {
+std::vector<Point> FindInnerPoints(const RegionSpace& aSpace, std::size_t aHeights) {
   const Extents box = Bounds(*aSpace.outline);
-  std::optional<InnerPoint> best;
+  std::vector<Point> points;
   for (std::size_t k = 0; k < aHeights; ++k) {
     const double part = (static_cast<double>(k) + 0.5) / static_cast<double>(aHeights);
     const double y = box.minY + part * (box.maxY - box.minY);
-    for (const Stretch& stretch : WidestStretches(aSpace, y)) {
-      const Point middle{(stretch.begin + stretch.end) / 2, y};
-      const double clearance = Clearance(aSpace, middle);
-      if (clearance > (best ? best->clearance : 0)) best = InnerPoint{middle, clearance};
-    }
+    for (const Stretch& stretch : WidestStretches(aSpace, y)) points.push_back({(stretch.begin + stretch.end) / 2, y});
+  }
+  return points;
+}
+
+std::optional<InnerPoint> FindInnerPoint(const RegionSpace& aSpace, std::size_t aHeights) {
+  std::optional<InnerPoint> best;
+  for (const Point& point : FindInnerPoints(aSpace, aHeights)) {
+    const double clearance = Clearance(aSpace, point);
+    if (clearance > (best ? best->clearance : 0)) best = InnerPoint{point, clearance};
   }
   return best;
 }

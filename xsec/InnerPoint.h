@@ -25,7 +25,10 @@ struct InnerPoint {
 bool IsInside(const RegionSpace& aSpace, const Point& aPoint);
 double Clearance(const RegionSpace& aSpace, const Point& aPoint);
 
-/// The middle of the widest stretches inside the space along so many horizontal lines, the one with the most clearance.
+/// The middles of the widest stretches inside the space along so many horizontal lines.
+std::vector<Point> FindInnerPoints(const RegionSpace& aSpace, std::size_t aHeights);
+
+/// The one of these with the most clearance.
 /// DEGENERATE: nothing when no line finds a stretch of some width, as in a sliver.
 std::optional<InnerPoint> FindInnerPoint(const RegionSpace& aSpace, std::size_t aHeights);
 

@@ -7,6 +7,7 @@
 
 #include "xsec/InnerPoint.h"
 #include "xsec/PieceGraph.h"
+#include "xsec/RegionSpaces.h"
 #include "xsec/prepare/Slivers.h"
 
 namespace xsec {
@@ -16,10 +17,9 @@ namespace {
 using GeometryEngine::TEntityTree;
 
 constexpr std::size_t kHeightsForLabel = 31;
-constexpr std::size_t kSides = 2;  // of a piece
-/// A label keeps this part of a region's area over its boundary, which is half the width of a long region.
-constexpr double kClearancePerHalfWidth = 0.1;
-constexpr double kAreaAgreement = 1e-6;  // of the larger of two areas
+constexpr std::size_t kSides = 2;               // of a piece
+constexpr double kClearancePerHalfWidth = 0.1;  // that a label keeps
+constexpr double kAreaAgreement = 1e-6;         // of the larger of two areas
 
 /// For each loop of the region tree the face whose list of sub-regions it stands in.
 std::vector<std::size_t> ClaimedParents(const TEntityTree& regionTree, std::span<const TracedLoop> faces) {
@@ -32,16 +32,9 @@ std::vector<std::size_t> ClaimedParents(const TEntityTree& regionTree, std::span
 }
 
 RegionSpace SpaceOf(const Region& region, const std::vector<Region>& regions) {
-  RegionSpace space{&region.outline, {}};
-  for (const Loop& hole : region.holes) space.holes.push_back(&hole);
+  RegionSpace space = SpaceOf(region);
   for (const std::size_t child : region.children) space.holes.push_back(&regions[child].outline);
   return space;
-}
-
-double Perimeter(const Region& region) {
-  double perimeter = Length(region.outline);
-  for (const Loop& hole : region.holes) perimeter += Length(hole);
-  return perimeter;
 }
 
 /// The library sums up chords about the origin: the farther from there, the farther its centroid is off. A label that
@@ -57,7 +50,7 @@ void SettleLabel(std::size_t index, Detection& detection, double tolerance) {
   const RegionSpace space = SpaceOf(region, detection.regions);
   const bool inside = IsInside(space, region.label);
   region.clearance = inside ? Clearance(space, region.label) : 0;
-  const double wanted = std::max(tolerance, kClearancePerHalfWidth * region.netArea / Perimeter(region));
+  const double wanted = std::max(tolerance, kClearancePerHalfWidth * HalfWidth(region));
   if (region.clearance >= wanted) return;
   const auto better = FindInnerPoint(space, kHeightsForLabel);
   if (!better || better->clearance <= region.clearance) {

@@ -9,6 +9,7 @@
 
 #include "xsec/BoxIndex.h"
 #include "xsec/InnerPoint.h"
+#include "xsec/RegionSpaces.h"
 
 namespace xsec {
 
@@ -43,12 +44,6 @@ std::int32_t ColourOf(const Region& region, const Drawing& drawing) {
     return entity.colour != kByLayer || layer == drawing.layerColours.end() ? entity.colour : layer->second;
   };
   return MostOf<std::int32_t>(region.outline, drawing, colour).value_or(kByLayer);
-}
-
-RegionSpace SpaceOf(const Region& region) {
-  RegionSpace space{&region.outline, {}};
-  for (const Loop& hole : region.holes) space.holes.push_back(&hole);
-  return space;
 }
 
 /// For each region the words in it and in no region inside it.

@@ -5,6 +5,7 @@
 
 #include "xsec/Errors.h"
 #include "xsec/InnerPoint.h"
+#include "xsec/RegionSpaces.h"
 #include "xsec/Report.h"
 #include "xsec/Utf8.h"
 #include "xsec/output/FormattedText.h"
@@ -100,9 +101,7 @@ class FemWriter : private FormattedText {
   /// A label outside its region would give the material to another one.
   Point LabelOf(std::size_t index) const {
     const Region& region = fReport.detection.regions[index];
-    RegionSpace space{&region.outline, {}};
-    for (const Loop& hole : region.holes) space.holes.push_back(&hole);
-    if (IsInside(space, region.label)) return region.label;
+    if (IsInside(SpaceOf(region), region.label)) return region.label;
     throw OutputError(
         "the .fem file",
         fmt::format("region {} ({}) has no point inside that could bear its label; leave slivers out with "

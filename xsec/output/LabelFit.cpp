@@ -4,6 +4,8 @@
 #include <cmath>
 #include <limits>
 
+#include "xsec/RegionSpaces.h"
+
 namespace xsec {
 
 namespace {
@@ -12,7 +14,9 @@ constexpr double kCharacterWidth = 0.6;  // of the font size
 constexpr double kTextHeight = 1.0;      // of the font size, with what reaches above and below
 constexpr double kRoom = 0.85;           // of what would touch the boundary
 constexpr double kUprightGain = 1.3;     // as much larger a text has to become to be turned
-constexpr double kChord = 6;             // degrees of an arc that are taken as straight here
+constexpr double kElsewhereGain = 1.3;   // as much larger to stand elsewhere than at the label point
+constexpr std::size_t kHeightsForName = 31;
+constexpr double kChord = 6;  // degrees of an arc that are taken as straight here
 
 /// The half sides of a text of font size 1.
 struct HalfSides {
@@ -67,8 +71,23 @@ LabelFit FitLabel(const RegionSpace& aSpace, const Point& aLabel, std::size_t aC
   const double width = TextWidth(std::max<std::size_t>(aCharacters, 1));
   const double level = std::min(aMost, LargestSize(aSpace, aLabel, {width / 2, kTextHeight / 2}));
   const double upright = std::min(aMost, LargestSize(aSpace, aLabel, {kTextHeight / 2, width / 2}));
-  if (upright > kUprightGain * level) return {upright, true};
-  return {level, false};
+  if (upright > kUprightGain * level) return {aLabel, upright, true};
+  return {aLabel, level, false};
+}
+
+LabelFit FitName(const Region& aRegion, std::size_t aCharacters, double aMost) {
+  const RegionSpace space = SpaceOf(aRegion);
+  const LabelFit atLabel = FitLabel(space, aRegion.label, aCharacters, aMost);
+  if (atLabel.size >= aMost || aRegion.clearance >= HalfWidth(aRegion)) return atLabel;
+  Point roomiest = aRegion.label;
+  double most = 0;
+  for (const Point& point : FindInnerPoints(space, kHeightsForName)) {
+    const double size = FitLabel(space, point, aCharacters, std::numeric_limits<double>::infinity()).size;
+    if (size > most) roomiest = point;
+    most = std::max(most, size);
+  }
+  const LabelFit elsewhere = FitLabel(space, roomiest, aCharacters, aMost);
+  return elsewhere.size > kElsewhereGain * atLabel.size ? elsewhere : atLabel;
 }
 
 double TextWidth(std::size_t aCharacters) {

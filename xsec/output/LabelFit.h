@@ -1,21 +1,27 @@
 #pragma once
 
-// How large a name can be written at a region's label point without touching the region's boundary.
+// Where and how large a name can be written into a region without touching the region's boundary.
 
 #include <cstddef>
 #include <string_view>
 
 #include "xsec/InnerPoint.h"
+#include "xsec/Regions.h"
 
 namespace xsec {
 
 struct LabelFit {
+  Point at;              ///< the text's middle
   double size = 0;       ///< font size
   bool upright = false;  ///< written from bottom to top, because that leaves more room
 };
 
 /// The largest font size, up to aMost, at which a text of aCharacters, centred at aLabel, stays clear of every loop.
 LabelFit FitLabel(const RegionSpace& aSpace, const Point& aLabel, std::size_t aCharacters, double aMost);
+
+/// At the region's label point, or, when that stands close to the boundary and a much larger text fits elsewhere,
+/// there.
+LabelFit FitName(const Region& aRegion, std::size_t aCharacters, double aMost);
 
 /// The width that a text takes in multiples of its font size, roughly, whatever the font.
 double TextWidth(std::size_t aCharacters);

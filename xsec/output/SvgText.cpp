@@ -189,12 +189,10 @@ class SvgPicture : private FormattedText {
 
   void AddLabel(const Region& region) {
     if (region.baseArea < fReport.settings.minimumLabelArea) return;
-    RegionSpace space{&region.outline, {}};
-    for (const Loop& hole : region.holes) space.holes.push_back(&hole);
-    const auto fit = FitLabel(space, region.label, CountCharacters(region.uniqueName), kLargestLabel * fUnit);
+    const LabelFit fit = FitName(region, CountCharacters(region.uniqueName), kLargestLabel * fUnit);
     if (!(fit.size >= kSmallestLabel * fUnit)) return;
     Add("<text transform=\"translate({:.10g} {:.10g}){} scale({:.6g})\" font-size=\"{}\" dy=\".36em\">{}</text>\n",
-        region.label.x, -region.label.y, fit.upright ? " rotate(-90)" : "", fit.size / kFontUnit, kFontUnit,
+        fit.at.x, -fit.at.y, fit.upright ? " rotate(-90)" : "", fit.size / kFontUnit, kFontUnit,
         Escaped(region.uniqueName));
   }
 
