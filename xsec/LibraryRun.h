@@ -3,6 +3,7 @@
 // One run of the library over prepared pieces, and what it found, as the drawing lies.
 
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 #include "GeometryEngine/DXF_EntityStorage/TEntityStorage.h"
@@ -24,6 +25,7 @@ class LibraryRun {
   /// The faces, nested, with loops of the library's pieces. Until a region tree has measured them, areas are those of
   /// the loops, and labels inside the outlines.
   const std::vector<Region>& Regions() const { return fRegions; }
+  std::vector<Region> TakeRegions() && { return std::move(fRegions); }
   /// Cures of vertices, corrections of nesting, open pieces and lost sides.
   const Diagnostics& Notes() const { return fNotes; }
   std::size_t CountPieces() const { return fSources.size(); }

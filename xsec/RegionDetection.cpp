@@ -37,11 +37,11 @@ std::unique_ptr<LibraryRun> RunAmong(PreparedGroup& prepared, const Settings& se
 class Findings {
  public:
   void Take(PreparedGroup prepared, const Settings& settings) {
-    const std::unique_ptr<LibraryRun> run = RunAmong(prepared, settings);
+    const auto run = RunAmong(prepared, settings);
     run->AddTo(fTree);
     AddNotes(run->Notes());
     Append(fAll.diagnostics.cures, prepared.cures);
-    AddRegions(run->Regions());
+    AddRegions(std::move(*run).TakeRegions());
     fPieces += run->CountPieces();
   }
 
@@ -60,9 +60,9 @@ class Findings {
     for (TravelledPiece& piece : loop) piece.index += fPieces;
   }
 
-  void AddRegions(const std::vector<Region>& regions) {
+  void AddRegions(std::vector<Region> regions) {
     const std::size_t before = fAll.regions.size();
-    for (Region region : regions) {
+    for (Region& region : regions) {
       Renumber(region.outline);
       for (Loop& hole : region.holes) Renumber(hole);
       if (region.parent != kNone) region.parent += before;

@@ -39,6 +39,8 @@ void RegionTree::Fill(std::vector<Region>& aRegions) {
     ReadBack(*fFaces[i].node, aRegions[i]);
     fFaces[i].back.ApplyToPoints(aRegions[i]);
   }
+  fTree.Clear();
+  fFaces.clear();
 }
 
 }  // namespace xsec

@@ -21,7 +21,7 @@ class RegionTree {
   void Add(GeometryEngine::TEntityBaseClass& aDriver, std::span<const TracedLoop> aFaces, const Motion& aBack);
 
   /// Nests the nodes as the regions' parents say, and fills in what they answer: unique name, type, areas, centroid and
-  /// label point. Name and parent must stand already.
+  /// label point. Name and parent must stand already. The tree is empty afterwards.
   /// REQUIRES: as many regions as faces were taken in, in the same order.
   void Fill(std::vector<Region>& aRegions);
 
