@@ -15,7 +15,7 @@ constexpr double kTextHeight = 1.0;      // of the font size, with what reaches 
 constexpr double kRoom = 0.85;           // of what would touch the boundary
 constexpr double kUprightGain = 1.3;     // as much larger a text has to become to be turned
 constexpr double kElsewhereGain = 1.3;   // as much larger to stand elsewhere than at the label point
-constexpr std::size_t kHeightsForName = 31;
+constexpr std::size_t kHeightsForName = 15;
 constexpr double kChord = 6;  // degrees of an arc that are taken as straight here
 
 /// The half sides of a text of font size 1.
@@ -75,19 +75,30 @@ LabelFit FitLabel(const RegionSpace& aSpace, const Point& aLabel, std::size_t aC
   return {aLabel, level, false};
 }
 
-LabelFit FitName(const Region& aRegion, std::size_t aCharacters, double aMost) {
-  const RegionSpace space = SpaceOf(aRegion);
-  const LabelFit atLabel = FitLabel(space, aRegion.label, aCharacters, aMost);
-  if (atLabel.size >= aMost || aRegion.clearance >= HalfWidth(aRegion)) return atLabel;
-  Point roomiest = aRegion.label;
-  double most = 0;
+namespace {
+
+LabelFit RoomiestFit(const Region& region, std::size_t characters, double most) {
+  const RegionSpace space = SpaceOf(region);
+  const LabelFit atLabel = FitLabel(space, region.label, characters, most);
+  if (atLabel.size >= most || region.clearance >= HalfWidth(region)) return atLabel;
+  Point roomiest = region.label;
+  double largest = 0;
   for (const Point& point : FindInnerPoints(space, kHeightsForName)) {
-    const double size = FitLabel(space, point, aCharacters, std::numeric_limits<double>::infinity()).size;
-    if (size > most) roomiest = point;
-    most = std::max(most, size);
+    const double size = FitLabel(space, point, characters, std::numeric_limits<double>::infinity()).size;
+    if (size > largest) roomiest = point;
+    largest = std::max(largest, size);
   }
-  const LabelFit elsewhere = FitLabel(space, roomiest, aCharacters, aMost);
+  const LabelFit elsewhere = FitLabel(space, roomiest, characters, most);
   return elsewhere.size > kElsewhereGain * atLabel.size ? elsewhere : atLabel;
+}
+
+}  // namespace
+
+std::optional<LabelFit> FitName(const Region& aRegion, std::size_t aCharacters, const FontSizes& aSizes) {
+  const double leastArea = aSizes.least * aSizes.least * TextWidth(aCharacters) * kTextHeight;
+  if (aRegion.netArea < leastArea) return std::nullopt;
+  const LabelFit fit = RoomiestFit(aRegion, aCharacters, aSizes.most);
+  return fit.size >= aSizes.least ? std::optional(fit) : std::nullopt;
 }
 
 double TextWidth(std::size_t aCharacters) {

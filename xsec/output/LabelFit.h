@@ -3,6 +3,7 @@
 // Where and how large a name can be written into a region without touching the region's boundary.
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
 
 #include "xsec/InnerPoint.h"
@@ -19,9 +20,15 @@ struct LabelFit {
 /// The largest font size, up to aMost, at which a text of aCharacters, centred at aLabel, stays clear of every loop.
 LabelFit FitLabel(const RegionSpace& aSpace, const Point& aLabel, std::size_t aCharacters, double aMost);
 
-/// At the region's label point, or, when that stands close to the boundary and a much larger text fits elsewhere,
-/// there.
-LabelFit FitName(const Region& aRegion, std::size_t aCharacters, double aMost);
+/// The font size that can still be read, and the one that is large enough.
+struct FontSizes {
+  double least = 0;
+  double most = 0;
+};
+
+/// At the region's label point, or elsewhere when that stands close to the boundary and a much larger text fits there.
+/// Nothing when the text can't be read.
+std::optional<LabelFit> FitName(const Region& aRegion, std::size_t aCharacters, const FontSizes& aSizes);
 
 /// The width that a text takes in multiples of its font size, roughly, whatever the font.
 double TextWidth(std::size_t aCharacters);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
+#include <optional>
 
 #include "xsec/Report.h"
 #include "xsec/Utf8.h"
@@ -189,10 +190,11 @@ class SvgPicture : private FormattedText {
 
   void AddLabel(const Region& region) {
     if (region.baseArea < fReport.settings.minimumLabelArea) return;
-    const LabelFit fit = FitName(region, CountCharacters(region.uniqueName), kLargestLabel * fUnit);
-    if (!(fit.size >= kSmallestLabel * fUnit)) return;
+    const FontSizes sizes{kSmallestLabel * fUnit, kLargestLabel * fUnit};
+    const std::optional<LabelFit> fit = FitName(region, CountCharacters(region.uniqueName), sizes);
+    if (!fit) return;
     Add("<text transform=\"translate({:.10g} {:.10g}){} scale({:.6g})\" font-size=\"{}\" dy=\".36em\">{}</text>\n",
-        fit.at.x, -fit.at.y, fit.upright ? " rotate(-90)" : "", fit.size / kFontUnit, kFontUnit,
+        fit->at.x, -fit->at.y, fit->upright ? " rotate(-90)" : "", fit->size / kFontUnit, kFontUnit,
         Escaped(region.uniqueName));
   }
 
