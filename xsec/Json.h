@@ -3,6 +3,8 @@
 // JSON between text and values. Only the source of this header reads and writes texts with the library whose values
 // these are, which takes long to compile.
 
+#include <cstddef>
+#include <functional>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
@@ -20,5 +22,11 @@ std::string LineOfJson(const nlohmann::json& aJson);
 
 /// As it goes into a file: indented, numbers to the last bit, bytes that are no UTF-8 replaced.
 std::string Dumped(const Json& aJson);
+
+/// The same of an object, one of whose arrays is given element by element: as values they take much more memory than as
+/// text, and there is but one of them at a time.
+/// REQUIRES: an empty array under the key.
+std::string Dumped(const Json& aJson, std::string_view aKey, std::size_t aCount,
+                   const std::function<Json(std::size_t)>& aElement);
 
 }  // namespace xsec

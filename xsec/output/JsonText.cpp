@@ -185,10 +185,9 @@ std::string JsonText(const Report& aReport) {
   json["totalAreaOfCopies"] = OfCopies(TotalArea(aReport.detection), aReport);
   json["areas"] = OfAreas(aReport);
   json["regions"] = Json::array();
-  const auto& regions = aReport.detection.regions;
-  for (std::size_t i = 0; i < regions.size(); ++i) json["regions"].push_back(OfRegion(regions[i], i, aReport));
   json["diagnostics"] = OfDiagnostics(aReport);
-  return Dumped(json);
+  const std::vector<Region>& regions = aReport.detection.regions;
+  return Dumped(json, "regions", regions.size(), [&](std::size_t i) { return OfRegion(regions[i], i, aReport); });
 }
 
 }  // namespace xsec
