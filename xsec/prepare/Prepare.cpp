@@ -1,17 +1,16 @@
 #include "xsec/prepare/Prepare.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <iterator>
 #include <numeric>
 #include <utility>
 
+#include "xsec/SplitAtGaps.h"
 #include "xsec/prepare/CollectPieces.h"
 #include "xsec/prepare/EntityGrid.h"
 #include "xsec/prepare/Motion.h"
 #include "xsec/prepare/Preparation.h"
-#include "xsec/SplitAtGaps.h"
 #include "xsec/prepare/VertexPlaces.h"
 
 namespace xsec {
@@ -20,8 +19,7 @@ namespace {
 
 using GeometryEngine::TDXFEntity;
 
-/// Tried one after the other when a group as it lies won't do; no two lie a round angle apart.
-constexpr std::array kTurns = {7.31, 23.17, 41.73, 66.91, 103.57, 137.51, 158.83};
+constexpr std::size_t kMostTurns = 7;  // that are tried one after the other when a group as it lies won't do
 
 /// Where a group's middle is in one direction, in whole millimetres, when it lies farther from the origin than it is
 /// long; else the origin. So near by, what is taken off changes no digit of a coordinate.
@@ -126,8 +124,9 @@ class GroupPreparer {
     std::vector<Cure> steepAsDrawn = SteepLinesOf(best);
     MoveBack(best.motion, steepAsDrawn);
     const Point place = PlaceOf(group);
-    for (std::size_t i = 0; i < kTurns.size() && !best.work.doubtful.empty(); ++i) {
-      Attempt turned = Begin(group, Motion(place, kTurns[i]));
+    for (const double turn : TurnsWithFewSteepLines(best.work, kMostTurns)) {
+      if (best.work.doubtful.empty()) break;
+      Attempt turned = Begin(group, Motion(place, turn));
       if (turned.work.doubtful.size() < best.work.doubtful.size()) best = std::move(turned);
     }
     const bool isAnySteep = !SteepLinesOf(best).empty();

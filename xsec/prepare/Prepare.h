@@ -16,9 +16,9 @@ PreparedGroup AsDrawn(const Drawing& aDrawing);
 
 /// The drawing's entities put so that their regions do not depend on how the drawing lies, in one group or more. What
 /// lies far from the origin is moved there. What has lines so steep that their points would get into the wrong order,
-/// or ends that the library would take for meetings of another kind, is turned, by the first of some angles that has
-/// none: where parts of the drawing lie side by side, each of these parts as it needs, in a group of its own. No group
-/// lies within another or meets it.
+/// or ends that the library would take for meetings of another kind, is turned, to where there are none or the fewest:
+/// where parts of the drawing lie side by side, each of these parts as it needs, in a group of its own. No group lies
+/// within another or meets it.
 /// REQUIRES: the settings have been applied to the library.
 ///
 /// COST: near-linear in the entities and their meetings, once for the drawing, once more for what need not be turned,
