@@ -70,9 +70,9 @@ void FindMeetings(Preparation& aWork);
 /// Lines that run so steeply that neighbouring meetings are closer in x than the tolerance are cut at all of them.
 void CutSteepLines(Preparation& aWork);
 
-/// Turns in which the fewest lines are too steep in that sense, the best of them first, none of them close to another or
-/// to no turn at all. UNITS: degrees, above 0 and below 180
-/// REQUIRES: meetings were found. COST: n log n in the meetings of each line
+/// Turns in which the fewest lines are too steep in that sense, the best of them first, none of them close to another
+/// or to no turn at all. UNITS: degrees, above 0 and below 180 REQUIRES: meetings were found. COST: n log n in the
+/// meetings of each line
 std::vector<double> TurnsWithFewSteepLines(const Preparation& aWork, std::size_t aMost);
 
 /// Where the first chords of arcs that leave a point show another order than the arcs themselves, the arcs get first
