@@ -91,7 +91,7 @@ class SteepCounts {
 
 std::vector<double> TurnsWithFewSteepLines(const Preparation& aWork, std::size_t aMost) {
   constexpr std::size_t kStride = 769;  // prime: takes turn after turn far from each other
-  constexpr std::size_t kApart = 50;
+  constexpr std::size_t kApart = 50;    // turns, 5 degrees
   const SteepCounts counts(aWork);
   std::vector<std::size_t> turns;
   for (std::size_t i = 0; i < SteepCounts::kTurns; ++i) turns.push_back(i * kStride % SteepCounts::kTurns);
