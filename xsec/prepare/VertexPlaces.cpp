@@ -55,22 +55,28 @@ class PlaceCollector {
   std::vector<std::size_t> fLastPart;  ///< for each place the part that was last found there
 };
 
-/// The closest of some points that is the same as one of others, for each of these; kNone where none is.
-std::vector<std::size_t> ClosestOf(const std::vector<Point>& points, const std::vector<Point>& others,
-                                   double tolerance) {
+/// What of some points is the same as another point.
+struct SamePoints {
+  std::size_t closest = kNone;
+  std::size_t count = 0;
+};
+
+std::vector<SamePoints> SamePointsOf(const std::vector<Point>& points, const std::vector<Point>& others,
+                                     double tolerance) {
   PointCells cells(tolerance);
   for (std::size_t i = 0; i < points.size(); ++i) cells.Add(points[i], i);
-  std::vector<std::size_t> closest;
+  std::vector<SamePoints> found;
   for (const Point& other : others) {
-    std::size_t best = kNone;
+    SamePoints& same = found.emplace_back();
     cells.Visit(other, [&](std::size_t i) {
-      const bool isSame = points[i] == other;
-      if (isSame && (best == kNone || DistanceOf(points[i], other) < DistanceOf(points[best], other))) best = i;
+      if (points[i] != other) return false;
+      const bool isCloser = same.count == 0 || DistanceOf(points[i], other) < DistanceOf(points[same.closest], other);
+      if (isCloser) same.closest = i;
+      ++same.count;
       return false;
     });
-    closest.push_back(best);
   }
-  return closest;
+  return found;
 }
 
 bool IsSameBits(const Point& a, const Point& b) {
@@ -108,12 +114,13 @@ std::vector<Cure> PutVerticesBack(GeometryEngine::TEntityTree& aGraph, const std
                                   double aTolerance) {
   std::vector<Point> vertices;
   for (const TTreeNode* vertex : aGraph.RootNode()->Children()) vertices.push_back(vertex->Coordinates());
-  const std::vector<std::size_t> placeOf = ClosestOf(aPlaces, vertices, aTolerance);
-  const std::vector<std::size_t> vertexAt = ClosestOf(vertices, aPlaces, aTolerance);
+  const std::vector<SamePoints> placesOf = SamePointsOf(aPlaces, vertices, aTolerance);
+  const std::vector<SamePoints> verticesAt = SamePointsOf(vertices, aPlaces, aTolerance);
   std::vector<Cure> cures;
   for (std::size_t i = 0; i < vertices.size(); ++i) {
-    if (placeOf[i] == kNone || vertexAt[placeOf[i]] != i) continue;
-    const Point& place = aPlaces[placeOf[i]];
+    const std::size_t closest = placesOf[i].closest;
+    if (closest == kNone || verticesAt[closest].count > 1) continue;
+    const Point& place = aPlaces[closest];
     if (IsSameBits(place, vertices[i])) continue;
     MoveVertex(*aGraph.RootNode()->GetNode(GeometryEngine::ToIndex(i)), *aGraph.pEntityStorage(), place);
     const double moved = DistanceOf(place, vertices[i]);
