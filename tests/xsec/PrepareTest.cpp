@@ -210,6 +210,25 @@ TEST(Prepare, EndsThatWouldMeetOtherwiseAreSeenToByATurn) {
   EXPECT_THAT(detection.diagnostics.cures, IsEmpty());
 }
 
+// The library reckons crossings of such a line with circles by squares of the line's height above the origin, and far
+// along the line from where they are: a cut in the right place would only be one more beside them.
+TEST(DetectRegions, LineThatIsAllButUprightPartsCirclesWhereItCrossesThem) {
+  const double segment = 25 * std::acos(0.4) - 2 * std::sqrt(21);  // mm2, left of the line in the inner circle
+  for (const double lean : {2e-4, -2e-4, 3e-4, -3e-4, 5e-4, -5e-4, 2e-3, -2e-3}) {
+    for (const double tolerance : {1e-4, 1e-5, 1e-6}) {
+      Drawing drawing =
+          DrawingOf(Rectangle(0, 0, 200, 100) + Circle(100, 50, 10) + Circle(100, 50, 5) + "L 98,38 98,62");
+      drawing.entities.back().geometry.EndCoords.x += lean;
+      const Detection detection = DetectAt(drawing, true, tolerance);
+      ASSERT_THAT(detection.regions, SizeIs(5)) << "lean " << lean << ", tolerance " << tolerance;
+      EXPECT_THAT(detection.diagnostics.lostSides, IsEmpty());
+      const auto smallest = std::min_element(detection.regions.begin(), detection.regions.end(),
+                                             [](const Region& a, const Region& b) { return a.baseArea < b.baseArea; });
+      EXPECT_NEAR(smallest->baseArea, segment, 10 * std::abs(lean));
+    }
+  }
+}
+
 TEST(Prepare, DrawingThatIsMovedMeanwhileKeepsItsDigits) {
   const Drawing drawing = DrawingOf("L 100000.1,7 100003.3,7; L 100003.3,7 100000.1,9; L 100000.1,9 100000.1,7");
   const Detection detection = DetectAt(drawing, true);

@@ -9,24 +9,6 @@ namespace {
 
 using GeometryEngine::TDXFEntity;
 
-/// The pieces of a part between its cuts.
-std::vector<TDXFEntity> PiecesOf(const Part& part) {
-  const TDXFEntity& whole = part.geometry;
-  if (part.cuts.empty()) return {whole};
-  std::vector<Point> cuts = part.cuts;
-  SortAlong(whole, cuts);
-  cuts.push_back(whole.EndCoords);
-  std::vector<TDXFEntity> pieces;
-  Point from = whole.StartCoords;
-  for (const Point& to : cuts) {
-    if (to == from) continue;
-    pieces.push_back(PieceBetween(whole, from, to));
-    from = to;
-  }
-  if (!pieces.empty() && from != whole.EndCoords) return {whole};
-  return pieces;
-}
-
 /// Pieces that lie on an earlier one all along are one too many, and so are all those of doubles.
 class PieceCollector {
  public:
@@ -36,7 +18,7 @@ class PieceCollector {
     auto twin = fWork.doubles.begin();
     for (const Part& part : fWork.parts) {
       for (; twin != fWork.doubles.end() && twin->source < part.source; ++twin) LeaveOut(*twin);
-      for (const TDXFEntity& piece : PiecesOf(part)) Add(piece, part.source);
+      for (const TDXFEntity& piece : PiecesAt(part.geometry, part.cuts)) Add(piece, part.source);
     }
     for (; twin != fWork.doubles.end(); ++twin) LeaveOut(*twin);
   }
@@ -53,7 +35,8 @@ class PieceCollector {
   }
 
   void LeaveOut(const Double& twin) {
-    for (const TDXFEntity& piece : PiecesOf(fWork.parts[twin.part])) LeaveOut(piece, twin.source);
+    const Part& part = fWork.parts[twin.part];
+    for (const TDXFEntity& piece : PiecesAt(part.geometry, part.cuts)) LeaveOut(piece, twin.source);
   }
 
   void LeaveOut(const TDXFEntity& piece, std::size_t source) {

@@ -75,4 +75,18 @@ TDXFEntity PieceBetween(const TDXFEntity& aEntity, const Point& aStart, const Po
   return ArcBetween(aStart, aEnd, aEntity.CentreCoords, aEntity.radius);
 }
 
+std::vector<TDXFEntity> PiecesAt(const TDXFEntity& aEntity, std::vector<Point> aCuts) {
+  if (aCuts.empty()) return {aEntity};
+  SortAlong(aEntity, aCuts);
+  aCuts.push_back(aEntity.EndCoords);
+  std::vector<TDXFEntity> pieces;
+  Point from = aEntity.StartCoords;
+  for (const Point& to : aCuts) {
+    if (to == from) continue;
+    pieces.push_back(PieceBetween(aEntity, from, to));
+    from = to;
+  }
+  return pieces;
+}
+
 }  // namespace xsec

@@ -35,4 +35,7 @@ GeometryEngine::TDXFEntity ArcBetween(const Point& aStart, const Point& aEnd, co
 GeometryEngine::TDXFEntity PieceBetween(const GeometryEngine::TDXFEntity& aEntity, const Point& aStart,
                                         const Point& aEnd);
 
+/// The pieces between points on the entity, in order along it. Where points are the same, the first of them counts.
+std::vector<GeometryEngine::TDXFEntity> PiecesAt(const GeometryEngine::TDXFEntity& aEntity, std::vector<Point> aCuts);
+
 }  // namespace xsec

@@ -24,12 +24,6 @@ bool IsEndOf(const Point& point, const TDXFEntity& entity) {
   return point == entity.StartCoords || point == entity.EndCoords;
 }
 
-/// Then no cut makes any difference.
-bool AreEndsOfBoth(const std::vector<Point>& points, const TDXFEntity& a, const TDXFEntity& b) {
-  return std::all_of(points.begin(), points.end(),
-                     [&](const Point& point) { return IsEndOf(point, a) && IsEndOf(point, b); });
-}
-
 bool Holds(const std::vector<Point>& points, const Point& point) {
   return std::any_of(points.begin(), points.end(), [&](const Point& p) { return p == point; });
 }
@@ -62,6 +56,21 @@ CureKind KindOf(const TDXFEntity& a, const TDXFEntity& b) {
 
 bool AreSame(const std::vector<Point>& a, const std::vector<Point>& b) {
   return a.size() == b.size() && std::all_of(a.begin(), a.end(), [&](const Point& point) { return Holds(b, point); });
+}
+
+/// Whether the library finds more than the ends that the pieces of both share once they are cut at these points: where
+/// a line is very steep, the crossings with arcs that it reckons may lie far along the line.
+bool MeetElsewhereOnceCut(const std::vector<Point>& points, const TDXFEntity& a, const TDXFEntity& b) {
+  const std::vector<TDXFEntity> others = PiecesAt(b, points);
+  for (const TDXFEntity& piece : PiecesAt(a, points)) {
+    for (const TDXFEntity& other : others) {
+      const std::vector<Point> found = MeetingsAsDrawn(piece, other);
+      if (!std::all_of(found.begin(), found.end(), [&](const Point& point) { return Holds(points, point); })) {
+        return true;
+      }
+    }
+  }
+  return false;
 }
 
 class MeetingFinder {
@@ -125,7 +134,7 @@ class MeetingFinder {
     if (points.empty()) return;
     for (const Point& point : points) Meet(point);
     if (AreSame(points, MeetingsAsDrawn(a, b)) && AreOnBoth(points, a, b)) return;
-    if (AreEndsOfBoth(points, a, b)) fWork.doubtful.push_back(fPair.first);
+    if (MeetElsewhereOnceCut(points, a, b)) fWork.doubtful.push_back(fPair.first);
     for (const Point& point : points) Cut(point);
     fWork.Report(KindOf(a, b), points.front(), fPair.first, fPair.second, 0);
   }
