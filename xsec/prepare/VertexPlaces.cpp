@@ -55,29 +55,41 @@ class PlaceCollector {
   std::vector<std::size_t> fLastPart;  ///< for each place the part that was last found there
 };
 
-/// What of some points is the same as another point.
-struct SamePoints {
-  std::size_t closest = kNone;
-  std::size_t count = 0;
-};
+/// Points, looked up by what is the same as one of them.
+class PointLookup {
+ public:
+  PointLookup(const std::vector<Point>& points, double tolerance) : fPoints(points), fCells(tolerance) {
+    for (std::size_t i = 0; i < points.size(); ++i) fCells.Add(points[i], i);
+  }
 
-std::vector<SamePoints> SamePointsOf(const std::vector<Point>& points, const std::vector<Point>& others,
-                                     double tolerance) {
-  PointCells cells(tolerance);
-  for (std::size_t i = 0; i < points.size(); ++i) cells.Add(points[i], i);
-  std::vector<SamePoints> found;
-  for (const Point& other : others) {
-    SamePoints& same = found.emplace_back();
-    cells.Visit(other, [&](std::size_t i) {
-      if (points[i] != other) return false;
-      const bool isCloser = same.count == 0 || DistanceOf(points[i], other) < DistanceOf(points[same.closest], other);
-      if (isCloser) same.closest = i;
-      ++same.count;
+  /// kNone where none is the same.
+  std::size_t ClosestTo(const Point& point) const {
+    std::size_t closest = kNone;
+    ForEachSame(point, [&](std::size_t i) {
+      const bool isCloser = closest == kNone || DistanceOf(fPoints[i], point) < DistanceOf(fPoints[closest], point);
+      if (isCloser) closest = i;
+    });
+    return closest;
+  }
+
+  std::size_t CountAt(const Point& point) const {
+    std::size_t count = 0;
+    ForEachSame(point, [&](std::size_t) { ++count; });
+    return count;
+  }
+
+ private:
+  template <typename Take>
+  void ForEachSame(const Point& point, Take&& take) const {
+    fCells.Visit(point, [&](std::size_t i) {
+      if (fPoints[i] == point) take(i);
       return false;
     });
   }
-  return found;
-}
+
+  const std::vector<Point>& fPoints;
+  PointCells fCells;
+};
 
 bool IsSameBits(const Point& a, const Point& b) {
   return a.x == b.x && a.y == b.y;
@@ -114,14 +126,14 @@ std::vector<Cure> PutVerticesBack(GeometryEngine::TEntityTree& aGraph, const std
                                   double aTolerance) {
   std::vector<Point> vertices;
   for (const TTreeNode* vertex : aGraph.RootNode()->Children()) vertices.push_back(vertex->Coordinates());
-  const std::vector<SamePoints> placesOf = SamePointsOf(aPlaces, vertices, aTolerance);
-  const std::vector<SamePoints> verticesAt = SamePointsOf(vertices, aPlaces, aTolerance);
+  const PointLookup places(aPlaces, aTolerance);
+  const PointLookup vertexLookup(vertices, aTolerance);
   std::vector<Cure> cures;
   for (std::size_t i = 0; i < vertices.size(); ++i) {
-    const std::size_t closest = placesOf[i].closest;
-    if (closest == kNone || verticesAt[closest].count > 1) continue;
+    const std::size_t closest = places.ClosestTo(vertices[i]);
+    if (closest == kNone) continue;
     const Point& place = aPlaces[closest];
-    if (IsSameBits(place, vertices[i])) continue;
+    if (IsSameBits(place, vertices[i]) || vertexLookup.CountAt(place) > 1) continue;
     MoveVertex(*aGraph.RootNode()->GetNode(GeometryEngine::ToIndex(i)), *aGraph.pEntityStorage(), place);
     const double moved = DistanceOf(place, vertices[i]);
     if (moved > kToldMove * aTolerance) cures.push_back({CureKind::Vertex, place, kNone, kNone, moved});
