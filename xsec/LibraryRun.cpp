@@ -97,9 +97,10 @@ std::vector<Region> NestedRegions(const std::vector<TracedLoop>& faces, const st
 }  // namespace
 
 LibraryRun::LibraryRun(const PreparedGroup& aPrepared, const Settings& aSettings) : fBack(aPrepared.motion.Back()) {
-  FillStorage(fStorage, aPrepared.pieces, aSettings.tolerance);
-  fNotes.cures = RunDriver(fDriver, fStorage, aPrepared.places, aSettings.tolerance);
-  FindSources(aPrepared.pieces, aSettings.tolerance);
+  const ToleranceScope scope(aPrepared.tolerance);
+  FillStorage(fStorage, aPrepared.pieces, aPrepared.tolerance);
+  fNotes.cures = RunDriver(fDriver, fStorage, aPrepared.places, aPrepared.tolerance);
+  FindSources(aPrepared.pieces, aPrepared.tolerance);
   const std::vector<TracedLoop> outerBoundaries = ReadLoops();
   fRegions = NestedRegions(fFaces, outerBoundaries, DetermineNesting(fFaces, outerBoundaries));
   CompareNesting(fDriver.RegionTree(), fFaces, fRegions, fNotes);

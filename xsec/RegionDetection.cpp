@@ -1,5 +1,6 @@
 #include "xsec/RegionDetection.h"
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -36,8 +37,11 @@ std::unique_ptr<LibraryRun> RunAmong(PreparedGroup& prepared, const Settings& se
 /// What the runs over the groups of a drawing found, together.
 class Findings {
  public:
+  explicit Findings(double tolerance) : fTolerance(tolerance) {}
+
   void Take(PreparedGroup prepared, const Settings& settings) {
     const auto run = RunAmong(prepared, settings);
+    fTolerance = std::min(fTolerance, prepared.tolerance);
     run->AddTo(fTree);
     AddNotes(run->Notes());
     Append(fAll.diagnostics.cures, prepared.cures);
@@ -47,7 +51,7 @@ class Findings {
 
   Detection Finish(const Drawing& drawing, const Settings& settings, const NamingRequest& naming) && {
     NameRegions(fAll.regions, drawing, naming, fAll.diagnostics.warnings);
-    fTree.Fill(fAll.regions);
+    FillTree();
     CheckRegions(fAll, settings);
     CountCollapsed(drawing, fAll.diagnostics);
     MergePieces(fAll);
@@ -85,19 +89,26 @@ class Findings {
     Append(fAll.diagnostics.lostSides, notes.lostSides);
   }
 
+  /// Under the finest tolerance of all: each chain has its ends apart there.
+  void FillTree() {
+    const ToleranceScope scope(fTolerance);
+    fTree.Fill(fAll.regions);
+  }
+
   Detection fAll;
   RegionTree fTree;
+  double fTolerance;
   std::size_t fPieces = 0;  ///< of all runs so far
 };
 
 std::vector<PreparedGroup> GroupsOf(const Drawing& drawing, const Settings& settings) {
-  return settings.prepares ? Prepare(drawing, settings.tolerance) : std::vector{AsDrawn(drawing)};
+  return settings.prepares ? Prepare(drawing, settings.tolerance) : std::vector{AsDrawn(drawing, settings.tolerance)};
 }
 
 }  // namespace
 
 Detection DetectRegions(const Drawing& aDrawing, const Settings& aSettings, const NamingRequest& aNaming) {
-  Findings findings;
+  Findings findings(aSettings.tolerance);
   for (PreparedGroup& group : GroupsOf(aDrawing, aSettings)) findings.Take(std::move(group), aSettings);
   return std::move(findings).Finish(aDrawing, aSettings, aNaming);
 }

@@ -116,6 +116,14 @@ Settings ApplySettings(const SettingsRequest& aRequest, const Drawing& aDrawing)
           aRequest.minimumLabelArea};
 }
 
+ToleranceScope::ToleranceScope(double aTolerance) : fBefore(Kelvaralinks::dataStore.GetValue(ifLinearTolerance)) {
+  Kelvaralinks::dataStore.SetValue(ifLinearTolerance, aTolerance);
+}
+
+ToleranceScope::~ToleranceScope() {
+  Kelvaralinks::dataStore.SetValue(ifLinearTolerance, fBefore);
+}
+
 std::string ToleranceOrigin(const Settings& aSettings, const Drawing& aDrawing) {
   if (aSettings.toleranceGiven) return "";
   const bool isOfPart = aSettings.tolerance < kTolerancePerDiagonal * Diagonal(aDrawing.extents);

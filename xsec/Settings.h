@@ -61,6 +61,18 @@ void CheckSettings(const SettingsRequest& aRequest);
 /// Puts the host's store and input-data record to their starting values, then sets what the request says.
 Settings ApplySettings(const SettingsRequest& aRequest, const Drawing& aDrawing);
 
+/// Has the library compare with another linear tolerance for a while.
+class ToleranceScope {
+ public:
+  explicit ToleranceScope(double aTolerance);
+  ~ToleranceScope();
+  ToleranceScope(const ToleranceScope&) = delete;
+  ToleranceScope& operator=(const ToleranceScope&) = delete;
+
+ private:
+  double fBefore;
+};
+
 /// What to say behind a tolerance: nothing when it was given, else what it was taken from, after a comma.
 std::string ToleranceOrigin(const Settings& aSettings, const Drawing& aDrawing);
 

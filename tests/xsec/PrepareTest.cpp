@@ -17,7 +17,9 @@
 #include "xsec/InnerPoint.h"
 #include "xsec/RegionDetection.h"
 #include "xsec/RegionNotes.h"
+#include "xsec/prepare/Curves.h"
 #include "xsec/prepare/EntityGrid.h"
+#include "xsec/prepare/Motion.h"
 
 namespace xsec {
 namespace {
@@ -227,6 +229,107 @@ TEST(DetectRegions, LineThatIsAllButUprightPartsCirclesWhereItCrossesThem) {
       EXPECT_NEAR(smallest->baseArea, segment, 10 * std::abs(lean));
     }
   }
+}
+
+constexpr double kHalfRootTwo = 0.7071067811865476;
+
+Drawing Turned(Drawing drawing, int degrees) {
+  for (DrawingEntity& entity : drawing.entities) entity.geometry = Motion({0, 0}, degrees)(entity.geometry);
+  return drawing;
+}
+
+/// Three lines across a disc. They meet in pairs, at the corners of a triangle whose longest side has this length, the
+/// others 0.71 of it.
+Drawing LinesThatAllButMeetInOnePoint(double side) {
+  Drawing drawing = DrawingOf(Circle(0, 0, 5) + "L -6,0 6,0; L -5,-5 5,5; L 5,-5 -5,5");
+  GeometryEngine::TDXFEntity& last = drawing.entities.back().geometry;
+  last = GeometryEngine::TDXFEntity::Line({5 + side, -5}, {-5 + side, 5});
+  return drawing;
+}
+
+TEST(DetectRegions, LinesThatAllButMeetInOnePointPartADiscAlikeInEveryDirection) {
+  for (const double tolerances : {0.3, 0.99, 1.01, 1.2, 1.4, 1.42, 1.5, 1.7, 2.0, 2.2, 3.0}) {
+    for (int degrees = 0; degrees < 180; degrees += 5) {
+      const Detection detection = DetectAt(Turned(LinesThatAllButMeetInOnePoint(tolerances * 1e-3), degrees), true);
+      EXPECT_THAT(detection.regions, SizeIs(kHalfRootTwo * tolerances < 1 ? 6 : 7)) << tolerances << " at " << degrees;
+      EXPECT_THAT(detection.diagnostics.lostSides, IsEmpty()) << tolerances << " at " << degrees;
+      EXPECT_THAT(detection.diagnostics.warnings, IsEmpty()) << tolerances << " at " << degrees;
+    }
+  }
+}
+
+/// The ends of pieces close to the origin.
+std::vector<Point> EndsInTheMiddle(const PreparedGroup& prepared) {
+  std::vector<Point> ends;
+  for (const PreparedPiece& piece : prepared.pieces) {
+    for (const Point& end : {piece.geometry.StartCoords, piece.geometry.EndCoords}) {
+      if (std::hypot(end.x, end.y) < 0.1) ends.push_back(end);
+    }
+  }
+  return ends;
+}
+
+TEST(Prepare, PointsThatAreTheSameInSomeDirectionsOnlyBecomeOneUnderAFinerTolerance) {
+  const PreparedGroup prepared = Prepared(LinesThatAllButMeetInOnePoint(1.2e-3));
+  EXPECT_DOUBLE_EQ(prepared.tolerance, 1e-4);
+  EXPECT_EQ(Count(prepared.cures, CureKind::OnePoint), 3U);
+  const std::vector<Point> ends = EndsInTheMiddle(prepared);
+  ASSERT_THAT(ends, SizeIs(6));
+  for (const Point& end : ends) EXPECT_TRUE(IsSameBits(end, ends.front()));
+}
+
+TEST(Prepare, PointsThatAreApartInEveryDirectionStayApart) {
+  const PreparedGroup prepared = Prepared(LinesThatAllButMeetInOnePoint(1.5e-3));
+  EXPECT_DOUBLE_EQ(prepared.tolerance, 1e-4);
+  EXPECT_EQ(Count(prepared.cures, CureKind::OnePoint), 0U);
+  EXPECT_THAT(EndsInTheMiddle(prepared), SizeIs(12));
+}
+
+TEST(Prepare, PointsOfWhichThereIsNoDoubtAreLeftToTheLibrary) {
+  for (const double side : {0.5e-3, 3e-3}) {
+    const PreparedGroup prepared = Prepared(LinesThatAllButMeetInOnePoint(side));
+    EXPECT_EQ(prepared.tolerance, 1e-3);
+    EXPECT_THAT(EndsInTheMiddle(prepared), IsEmpty());
+  }
+}
+
+// The library has no digits for a tenth of such a tolerance.
+TEST(Prepare, ToleranceBelowTwoThousandMillionthsOfADrawingIsNotMadeFiner) {
+  for (const double tolerance : {2e-8, 4e-8}) {
+    const Drawing drawing = LinesThatAllButMeetInOnePoint(1.2 * tolerance);
+    const double fineEnough = 2e-9 * Diagonal(drawing.extents);
+    const PreparedGroup prepared = PreparedGroups(drawing, tolerance).front();
+    EXPECT_DOUBLE_EQ(prepared.tolerance, tolerance < fineEnough ? tolerance : tolerance / 10);
+  }
+}
+
+// The short side of the plate and what divides the plate are met in one point.
+TEST(DetectRegions, SideShorterThanWhatItIsMetInVanishesInEveryDirection) {
+  const Drawing plate =
+      DrawingOf("L 0,0 10,0; L 10,0 10,4; L 10,4 10,4.0015; L 10,4.0015 10,9; L 10,9 0,9; L 0,9 0,0; L 0,5 10,4.00075");
+  for (int degrees = 0; degrees < 180; degrees += 5) {
+    const Detection detection = DetectAt(Turned(plate, degrees), true);
+    EXPECT_THAT(detection.regions, SizeIs(2)) << degrees;
+    EXPECT_THAT(detection.diagnostics.lostSides, IsEmpty()) << degrees;
+  }
+}
+
+TEST(PieceBetween, OfAnArcLiesOnACircleThroughPointsBesideTheArcs) {
+  GeometryEngine::support::TSettingsGuard guard;
+  guard.With(Maindataenum::TInputFields::ifLinearTolerance, 1e-4);
+  const GeometryEngine::TDXFEntity arc = DrawingOf(Circle(1, 2, 5)).entities[0].geometry;
+  const Point end = MidPoint(Travel(arc, true));
+  const GeometryEngine::TDXFEntity onArc = PieceBetween(arc, arc.StartCoords, end);
+  EXPECT_EQ(onArc.CentreCoords.x, arc.CentreCoords.x);
+  EXPECT_EQ(onArc.CentreCoords.y, arc.CentreCoords.y);
+  EXPECT_EQ(onArc.radius, arc.radius);
+
+  const Point start = {arc.StartCoords.x + 1e-3, arc.StartCoords.y};
+  const GeometryEngine::TDXFEntity beside = PieceBetween(arc, start, end);
+  EXPECT_NEAR(DistanceOf(beside.CentreCoords, start), beside.radius, 1e-12);
+  EXPECT_NEAR(DistanceOf(beside.CentreCoords, end), beside.radius, 1e-12);
+  EXPECT_NEAR(beside.radius, 5, 1e-3);
+  EXPECT_NEAR(beside.ArcSweep(), onArc.ArcSweep(), 0.1);
 }
 
 TEST(Prepare, DrawingThatIsMovedMeanwhileKeepsItsDigits) {

@@ -16,12 +16,13 @@ struct Wording {
 };
 
 // In the order of the kinds.
-constexpr std::array<Wording, 10> kWordings = {{
+constexpr std::array<Wording, 11> kWordings = {{
     {"one-circle", "arcs of one circle: given one centre and radius"},
     {"seam", "circles: their two halves begin away from where others meet them"},
     {"overlap", "entities that lie on each other in part: cut at each other's ends"},
     {"one-height", "arcs that cross with centres at one height: cut at their crossings"},
     {"direction", "pairs that meet otherwise when they are turned: cut where they meet"},
+    {"one-point", "points closer together than the tolerance: made one where turning would not tell them apart"},
     {"steep-line",
      "lines whose points are closer in x than the tolerance: the drawing is turned meanwhile, or they are cut there"},
     {"turn-order", "points that arcs leave nearly side by side: given first pieces of equal chord"},

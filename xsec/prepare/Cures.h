@@ -17,6 +17,7 @@ enum class CureKind {
   Overlap,    ///< two entities lie on each other along a part of their length
   OneHeight,  ///< two arcs cross whose centres lie at one height, or nearly so
   Direction,  ///< two entities meet otherwise when they are turned
+  OnePoint,   ///< meetings in steps below the tolerance were made one
   SteepLine,  ///< a line's points are closer in x than the tolerance
   TurnOrder,  ///< arcs leave a point in an order that their first chords would not show
   Duplicate,  ///< a piece lies on another along all of its length

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
 #include "GeometryEngine/host/Numerics.h"
 
 namespace xsec {
@@ -28,7 +29,26 @@ double AngleBeyondStart(const TDXFEntity& arc, const Point& point) {
   return beyond > (arc.ArcSweep() + 360) / 2 ? beyond - 360 : beyond;
 }
 
+/// Within the tolerance.
+bool IsOnCircle(const TDXFEntity& arc, const Point& point) {
+  return GeometryEngine::ValuesSame_DXFTolerance(DistanceOf(arc.CentreCoords, point), arc.radius);
+}
+
+/// About the centre moved along the chord, so that both points are on the circle.
+TDXFEntity ArcThrough(const Point& start, const Point& end, const Point& centre) {
+  const Point chord = end - start;
+  const Point arm = centre - 0.5 * (start + end);
+  const double square = chord.x * chord.x + chord.y * chord.y;
+  const double share = square > 0 ? (arm.x * chord.x + arm.y * chord.y) / square : 0;
+  const Point moved = centre - share * chord;
+  return ArcBetween(start, end, moved, DistanceOf(moved, start));
+}
+
 }  // namespace
+
+bool IsSameBits(const Point& aFirst, const Point& aSecond) {
+  return aFirst.x == aSecond.x && aFirst.y == aSecond.y;
+}
 
 double DistanceOf(const Point& aFirst, const Point& aSecond) {
   return std::hypot(aFirst.x - aSecond.x, aFirst.y - aSecond.y);
@@ -72,7 +92,10 @@ TDXFEntity ArcBetween(const Point& aStart, const Point& aEnd, const Point& aCent
 
 TDXFEntity PieceBetween(const TDXFEntity& aEntity, const Point& aStart, const Point& aEnd) {
   if (!IsArc(aEntity)) return TDXFEntity::Line(aStart, aEnd);
-  return ArcBetween(aStart, aEnd, aEntity.CentreCoords, aEntity.radius);
+  if (IsOnCircle(aEntity, aStart) && IsOnCircle(aEntity, aEnd)) {
+    return ArcBetween(aStart, aEnd, aEntity.CentreCoords, aEntity.radius);
+  }
+  return ArcThrough(aStart, aEnd, aEntity.CentreCoords);
 }
 
 std::vector<TDXFEntity> PiecesAt(const TDXFEntity& aEntity, std::vector<Point> aCuts) {

@@ -15,6 +15,8 @@ inline bool IsArc(const GeometryEngine::TDXFEntity& aEntity) {
 
 double DistanceOf(const Point& aFirst, const Point& aSecond);
 
+bool IsSameBits(const Point& aFirst, const Point& aSecond);
+
 /// How far along the entity the point, or the point of the entity closest to it, lies. UNITS: millimetres.
 /// RANGE: points beyond the start lie below 0, points beyond the end above the length.
 double PositionOf(const GeometryEngine::TDXFEntity& aEntity, const Point& aPoint);
@@ -31,7 +33,9 @@ bool AreHalves(const GeometryEngine::TDXFEntity& aFirst, const GeometryEngine::T
 /// An arc of that circle between two points on it, its angles taken from them.
 GeometryEngine::TDXFEntity ArcBetween(const Point& aStart, const Point& aEnd, const Point& aCentre, double aRadius);
 
-/// The part of the entity between two points on it, the first of them closer to its start.
+/// The part of the entity between two points on it, the first of them closer to its start. Where they lie
+/// beside an arc's circle by the tolerance or more, the piece has a circle through both, its centre moved along the
+/// chord.
 GeometryEngine::TDXFEntity PieceBetween(const GeometryEngine::TDXFEntity& aEntity, const Point& aStart,
                                         const Point& aEnd);
 

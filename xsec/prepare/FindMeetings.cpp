@@ -178,6 +178,9 @@ std::vector<Point> Distinct(const std::vector<Point>& points, double tolerance) 
 void FindMeetings(Preparation& aWork) {
   MeetingFinder finder(aWork);
   for (const PartPair& pair : aWork.pairs) finder.Take(pair);
+}
+
+void SettleMeetings(Preparation& aWork) {
   for (Part& part : aWork.parts) {
     part.meetings = Distinct(part.meetings, aWork.tolerance);
     if (!part.cuts.empty()) CutWhereMet(part);

@@ -18,17 +18,25 @@ class PointCells {
  public:
   explicit PointCells(double aReach) : fReach(aReach), fSide(8 * aReach) {}
 
-  void Add(const Point& aPoint, std::size_t aNumber) { fCells[Key(Cell(aPoint.x), Cell(aPoint.y))].push_back(aNumber); }
+  void Add(const Point& aPoint, std::size_t aNumber) {
+    const std::size_t added = fThings.size();
+    fThings.push_back({aNumber, kNone});
+    const auto [place, isNew] = fCells.try_emplace(Key(Cell(aPoint.x), Cell(aPoint.y)), Chain{added, added});
+    if (isNew) return;
+    fThings[place->second.last].next = added;
+    place->second.last = added;
+  }
 
-  /// Calls `take` for the number of every thing that may be within the reach, until it answers true.
+  /// Calls `take` for the number of every thing that may be within the reach, until it answers true. Those of a cell
+  /// come in the order in which they were added.
   template <typename Take>
   bool Visit(const Point& aPoint, Take&& take) const {
     for (std::int64_t r = Cell(aPoint.y - fReach); r <= Cell(aPoint.y + fReach); ++r) {
       for (std::int64_t c = Cell(aPoint.x - fReach); c <= Cell(aPoint.x + fReach); ++c) {
         const auto place = fCells.find(Key(c, r));
         if (place == fCells.end()) continue;
-        for (const std::size_t number : place->second) {
-          if (take(number)) return true;
+        for (std::size_t i = place->second.first; i != kNone; i = fThings[i].next) {
+          if (take(fThings[i].number)) return true;
         }
       }
     }
@@ -37,6 +45,16 @@ class PointCells {
 
  private:
   static constexpr double kLargestCell = 4e18;
+
+  struct Thing {
+    std::size_t number;
+    std::size_t next;  ///< in the same cell
+  };
+  /// What stands in a cell, by its place among all things.
+  struct Chain {
+    std::size_t first;
+    std::size_t last;
+  };
 
   std::int64_t Cell(double value) const {
     const double cell = std::floor(value / fSide);
@@ -50,7 +68,8 @@ class PointCells {
 
   double fReach;
   double fSide;
-  std::unordered_map<std::uint64_t, std::vector<std::size_t>> fCells;
+  std::vector<Thing> fThings;
+  std::unordered_map<std::uint64_t, Chain> fCells;
 };
 
 }  // namespace xsec

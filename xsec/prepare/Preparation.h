@@ -2,8 +2,9 @@
 
 // What the steps of the preparation work on, and the steps themselves, in the order in which Prepare takes them.
 //
-// A step never changes where an entity runs by more than the tolerance, and cuts rather than moves. The cuts are kept
-// beside the parts until the last step makes pieces of them, so that each step sees the entities whole.
+// A step cuts rather than moves, and never changes where an entity runs by more than the tolerance, but where many
+// points stand less than that apart in a row. The cuts are kept beside the parts until the last step makes pieces of
+// them, so that each step sees the entities whole.
 
 #include <cstddef>
 #include <utility>
@@ -25,8 +26,8 @@ inline constexpr double kToldMove = 1e-3;
 struct Part {
   GeometryEngine::TDXFEntity geometry;
   std::size_t source = 0;       ///< the entity of the drawing
-  std::vector<Point> meetings;  ///< where others meet it, its own ends among them, each once; in no order
-  std::vector<Point> cuts;      ///< where it has to be cut, each once; in no order
+  std::vector<Point> meetings;  ///< where others meet it, its own ends among them, each once when settled; in no order
+  std::vector<Point> cuts;      ///< where it has to be cut, each once when settled; in no order
 };
 
 /// An entity of the drawing that is the same, to the last bit, as the one an earlier part was made of.
@@ -45,6 +46,7 @@ struct Preparation {
   std::vector<PartPair> pairs;
   std::vector<Cure> cures;
   std::vector<std::size_t> doubtful;  ///< parts that the library may see otherwise than they were drawn, as they lie
+  std::vector<std::size_t> blurred;   ///< parts met in points that are the same in some directions and not in others
 
   void Report(CureKind aKind, const Point& aPlace, std::size_t aPart, std::size_t aOther, double aAmount);
 };
@@ -67,6 +69,19 @@ void TurnSeams(Preparation& aWork);
 /// would see more meetings of its pieces.
 /// COST: linear in the pairs and the points that they meet in
 void FindMeetings(Preparation& aWork);
+
+/// Leaves one of the meetings of a part, and of its cuts, that are the same, and cuts what has to be cut anywhere
+/// wherever it is met.
+/// COST: linear in the meetings
+void SettleMeetings(Preparation& aWork);
+
+/// Finds which parts are blurred. REQUIRES: meetings are not settled. COST: linear in the meetings
+void FindBlurs(Preparation& aWork);
+
+/// Makes one of the points that parts meet in and that can be reached from one another by steps below the tolerance,
+/// and cuts every part wherever it is met, so that under a finer tolerance all that has met still does. Some parts
+/// become points. COST: linear in the meetings
+void MeetInOnePoint(Preparation& aWork);
 
 /// Lines that run so steeply that neighbouring meetings are closer in x than the tolerance are cut at all of them.
 void CutSteepLines(Preparation& aWork);

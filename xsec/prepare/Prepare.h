@@ -12,7 +12,7 @@
 namespace xsec {
 
 /// The drawing's entities as they are.
-PreparedGroup AsDrawn(const Drawing& aDrawing);
+PreparedGroup AsDrawn(const Drawing& aDrawing, double aTolerance);
 
 /// The drawing's entities put so that their regions do not depend on how the drawing lies, in one group or more. What
 /// lies far from the origin is moved there. What has lines so steep that their points would get into the wrong order,

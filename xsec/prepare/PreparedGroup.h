@@ -22,7 +22,8 @@ struct PreparedGroup {
   std::vector<PreparedPiece> pieces;
   std::vector<Point> places;  ///< where they end and meet; none when nothing was prepared
   std::vector<Cure> cures;
-  Motion motion;  ///< from the drawing to these
+  Motion motion;         ///< from the drawing to these
+  double tolerance = 0;  ///< that the library is to compare them with
 };
 
 }  // namespace xsec

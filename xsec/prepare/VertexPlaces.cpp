@@ -91,16 +91,14 @@ class PointLookup {
   PointCells fCells;
 };
 
-bool IsSameBits(const Point& a, const Point& b) {
-  return a.x == b.x && a.y == b.y;
-}
-
 void MoveEnds(TDXFEntity& piece, const Point& from, const Point& to) {
   const Point start = IsSameBits(piece.StartCoords, from) ? to : piece.StartCoords;
   const Point end = IsSameBits(piece.EndCoords, from) ? to : piece.EndCoords;
   const TDXFEntity moved = PieceBetween(piece, start, end);
   piece.StartCoords = moved.StartCoords;
   piece.EndCoords = moved.EndCoords;
+  piece.CentreCoords = moved.CentreCoords;
+  piece.radius = moved.radius;
   piece.startAngle = moved.startAngle;
   piece.endAngle = moved.endAngle;
 }
