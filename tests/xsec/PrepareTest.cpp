@@ -232,6 +232,7 @@ TEST(DetectRegions, LineThatIsAllButUprightPartsCirclesWhereItCrossesThem) {
 }
 
 constexpr double kHalfRootTwo = 0.7071067811865476;
+constexpr double kLongestStep = 1.125;  // tolerances between points that become one
 
 Drawing Turned(Drawing drawing, int degrees) {
   for (DrawingEntity& entity : drawing.entities) entity.geometry = Motion({0, 0}, degrees)(entity.geometry);
@@ -251,7 +252,8 @@ TEST(DetectRegions, LinesThatAllButMeetInOnePointPartADiscAlikeInEveryDirection)
   for (const double tolerances : {0.3, 0.99, 1.01, 1.2, 1.4, 1.42, 1.5, 1.7, 2.0, 2.2, 3.0}) {
     for (int degrees = 0; degrees < 180; degrees += 5) {
       const Detection detection = DetectAt(Turned(LinesThatAllButMeetInOnePoint(tolerances * 1e-3), degrees), true);
-      EXPECT_THAT(detection.regions, SizeIs(kHalfRootTwo * tolerances < 1 ? 6 : 7)) << tolerances << " at " << degrees;
+      EXPECT_THAT(detection.regions, SizeIs(kHalfRootTwo * tolerances < kLongestStep ? 6 : 7))
+          << tolerances << " at " << degrees;
       EXPECT_THAT(detection.diagnostics.lostSides, IsEmpty()) << tolerances << " at " << degrees;
       EXPECT_THAT(detection.diagnostics.warnings, IsEmpty()) << tolerances << " at " << degrees;
     }
@@ -279,7 +281,7 @@ TEST(Prepare, PointsThatAreTheSameInSomeDirectionsOnlyBecomeOneUnderAFinerTolera
 }
 
 TEST(Prepare, PointsThatAreApartInEveryDirectionStayApart) {
-  const PreparedGroup prepared = Prepared(LinesThatAllButMeetInOnePoint(1.5e-3));
+  const PreparedGroup prepared = Prepared(LinesThatAllButMeetInOnePoint(1.7e-3));
   EXPECT_DOUBLE_EQ(prepared.tolerance, 1e-4);
   EXPECT_EQ(Count(prepared.cures, CureKind::OnePoint), 0U);
   EXPECT_THAT(EndsInTheMiddle(prepared), SizeIs(12));
@@ -303,6 +305,28 @@ TEST(Prepare, ToleranceBelowTwoThousandMillionthsOfADrawingIsNotMadeFiner) {
   }
 }
 
+// Each line passes the middle by up to the tolerance, so that their crossings fill a disc as wide as that.
+TEST(Prepare, CrossingsOfManyLinesThroughOnePlaceBecomePointsThatAreApart) {
+  constexpr int kLines = 60;
+  Drawing drawing = DrawingOf(Circle(0, 0, 5));
+  for (int i = 0; i < kLines; ++i) {
+    const double angle = (i + 0.3) * std::numbers::pi / kLines;
+    const Point run = {6 * std::cos(angle), 6 * std::sin(angle)};
+    const Point off = {1e-3 * std::sin(7 * i), 1e-3 * std::cos(11 * i)};
+    DrawingEntity line = drawing.entities.front();
+    line.geometry = GeometryEngine::TDXFEntity::Line(off - run, off + run);
+    drawing.entities.push_back(line);
+  }
+  const PreparedGroup prepared = Prepared(drawing);
+  EXPECT_DOUBLE_EQ(prepared.tolerance, 1e-4);
+  std::set<std::pair<double, double>> ends;
+  for (const Point& end : EndsInTheMiddle(prepared)) ends.emplace(end.x, end.y);
+  for (auto a = ends.begin(); a != ends.end(); ++a) {
+    for (auto b = std::next(a); b != ends.end(); ++b)
+      EXPECT_GE(std::hypot(a->first - b->first, a->second - b->second), 1e-3);
+  }
+}
+
 // The short side of the plate and what divides the plate are met in one point.
 TEST(DetectRegions, SideShorterThanWhatItIsMetInVanishesInEveryDirection) {
   const Drawing plate =
@@ -311,6 +335,18 @@ TEST(DetectRegions, SideShorterThanWhatItIsMetInVanishesInEveryDirection) {
     const Detection detection = DetectAt(Turned(plate, degrees), true);
     EXPECT_THAT(detection.regions, SizeIs(2)) << degrees;
     EXPECT_THAT(detection.diagnostics.lostSides, IsEmpty()) << degrees;
+  }
+}
+
+// The chord and the arc above it are less than half the tolerance apart, and 0.6 mm long.
+TEST(DetectRegions, WhatRunsTogetherBetweenTwoMeetingsIsThereOnceInEveryDirection) {
+  const Drawing drawing =
+      DrawingOf(Circle(0, 0, 100) + "L -120,99.9995 120,99.9995; L 0,99.9 0,120; L 0,120 30,99.9995");
+  for (int degrees = 0; degrees < 180; degrees += 5) {
+    const Detection detection = DetectAt(Turned(drawing, degrees), true);
+    EXPECT_THAT(detection.regions, SizeIs(2)) << degrees;
+    EXPECT_THAT(detection.diagnostics.lostSides, IsEmpty()) << degrees;
+    EXPECT_EQ(Count(detection.diagnostics.cures, CureKind::Overlap), 1U) << degrees;
   }
 }
 
@@ -330,6 +366,16 @@ TEST(PieceBetween, OfAnArcLiesOnACircleThroughPointsBesideTheArcs) {
   EXPECT_NEAR(DistanceOf(beside.CentreCoords, end), beside.radius, 1e-12);
   EXPECT_NEAR(beside.radius, 5, 1e-3);
   EXPECT_NEAR(beside.ArcSweep(), onArc.ArcSweep(), 0.1);
+}
+
+// About the old centre, or one moved along the chord, it would be a half circle.
+TEST(PieceBetween, OfAShortArcKeepsItsRadiusHoweverFarItsEndsLieBesideIt) {
+  GeometryEngine::support::TSettingsGuard guard;
+  guard.With(Maindataenum::TInputFields::ifLinearTolerance, 1e-4);
+  const GeometryEngine::TDXFEntity arc = GeometryEngine::TDXFEntity::Arc({5, 0}, {0, 5}, {0, 0}, 5, 0, 90);
+  const GeometryEngine::TDXFEntity radial = PieceBetween(arc, {5, 0}, {5.001, 0});
+  EXPECT_NEAR(radial.radius, 5, 1e-9);
+  EXPECT_NEAR(radial.ArcSweep(), 1e-3 / 5 * 180 / std::numbers::pi, 1e-6);
 }
 
 TEST(Prepare, DrawingThatIsMovedMeanwhileKeepsItsDigits) {

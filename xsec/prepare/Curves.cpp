@@ -29,25 +29,29 @@ double AngleBeyondStart(const TDXFEntity& arc, const Point& point) {
   return beyond > (arc.ArcSweep() + 360) / 2 ? beyond - 360 : beyond;
 }
 
-/// Within the tolerance.
-bool IsOnCircle(const TDXFEntity& arc, const Point& point) {
-  return GeometryEngine::ValuesSame_DXFTolerance(DistanceOf(arc.CentreCoords, point), arc.radius);
-}
-
-/// About the centre moved along the chord, so that both points are on the circle.
-TDXFEntity ArcThrough(const Point& start, const Point& end, const Point& centre) {
+/// An arc like this one through points beside it: of the same radius while the chord is short, else about the centre
+/// moved along the chord, as a circle of that radius may be far away from where a half circle has its middle.
+TDXFEntity ArcThrough(const Point& start, const Point& end, const TDXFEntity& arc) {
   const Point chord = end - start;
-  const Point arm = centre - 0.5 * (start + end);
-  const double square = chord.x * chord.x + chord.y * chord.y;
-  const double share = square > 0 ? (arm.x * chord.x + arm.y * chord.y) / square : 0;
-  const Point moved = centre - share * chord;
-  return ArcBetween(start, end, moved, DistanceOf(moved, start));
+  const Point middle = 0.5 * (start + end);
+  const double length = DistanceOf(start, end);
+  const Point left = {-chord.y / length, chord.x / length};
+  const Point arm = arc.CentreCoords - middle;
+  const double height =
+      length < arc.radius ? std::sqrt(arc.radius * arc.radius - length * length / 4) : arm.x * left.x + arm.y * left.y;
+  const Point centre = middle + height * left;
+  return ArcBetween(start, end, centre, DistanceOf(centre, start));
 }
 
 }  // namespace
 
 bool IsSameBits(const Point& aFirst, const Point& aSecond) {
   return aFirst.x == aSecond.x && aFirst.y == aSecond.y;
+}
+
+bool IsOnCurve(const TDXFEntity& aEntity, const Point& aEnd) {
+  return !IsArc(aEntity) ||
+         GeometryEngine::ValuesSame_DXFTolerance(DistanceOf(aEntity.CentreCoords, aEnd), aEntity.radius);
 }
 
 double DistanceOf(const Point& aFirst, const Point& aSecond) {
@@ -92,10 +96,10 @@ TDXFEntity ArcBetween(const Point& aStart, const Point& aEnd, const Point& aCent
 
 TDXFEntity PieceBetween(const TDXFEntity& aEntity, const Point& aStart, const Point& aEnd) {
   if (!IsArc(aEntity)) return TDXFEntity::Line(aStart, aEnd);
-  if (IsOnCircle(aEntity, aStart) && IsOnCircle(aEntity, aEnd)) {
+  if ((IsOnCurve(aEntity, aStart) && IsOnCurve(aEntity, aEnd)) || IsSameBits(aStart, aEnd)) {
     return ArcBetween(aStart, aEnd, aEntity.CentreCoords, aEntity.radius);
   }
-  return ArcThrough(aStart, aEnd, aEntity.CentreCoords);
+  return ArcThrough(aStart, aEnd, aEntity);
 }
 
 std::vector<TDXFEntity> PiecesAt(const TDXFEntity& aEntity, std::vector<Point> aCuts) {

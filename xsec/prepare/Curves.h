@@ -16,6 +16,8 @@ inline bool IsArc(const GeometryEngine::TDXFEntity& aEntity) {
 double DistanceOf(const Point& aFirst, const Point& aSecond);
 
 bool IsSameBits(const Point& aFirst, const Point& aSecond);
+/// Whether an end of the entity, or a point near the entity, is on an arc's circle, under the tolerance.
+bool IsOnCurve(const GeometryEngine::TDXFEntity& aEntity, const Point& aEnd);
 
 /// How far along the entity the point, or the point of the entity closest to it, lies. UNITS: millimetres.
 /// RANGE: points beyond the start lie below 0, points beyond the end above the length.

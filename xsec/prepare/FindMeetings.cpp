@@ -103,15 +103,19 @@ class MeetingFinder {
 
   /// Lines, or arcs of one circle, that share more than one point lie on each other between them.
   bool TakeOverlap(const TDXFEntity& a, const TDXFEntity& b) {
-    const std::vector<Point> ends = EndsOnEachOther(a, b, fWork.tolerance);
-    if (ends.size() < 2 || !RunTogether(a, b, ends)) return false;
-    for (const Point& end : ends) {
-      Meet(end);
-      Cut(end);
-    }
+    return TakeIfTogether(a, b, EndsOnEachOther(a, b, fWork.tolerance));
+  }
+
+  /// What runs together between two of the points is there twice.
+  bool TakeIfTogether(const TDXFEntity& a, const TDXFEntity& b, const std::vector<Point>& points) {
+    if (points.size() < 2 || !RunTogether(a, b, points)) return false;
     double length = 0;
-    for (const Point& end : ends) length = std::max(length, DistanceOf(ends.front(), end));
-    fWork.Report(CureKind::Overlap, ends.front(), fPair.first, fPair.second, length);
+    for (const Point& point : points) {
+      Meet(point);
+      Cut(point);
+      length = std::max(length, DistanceOf(points.front(), point));
+    }
+    fWork.Report(CureKind::Overlap, points.front(), fPair.first, fPair.second, length);
     return true;
   }
 
@@ -132,6 +136,7 @@ class MeetingFinder {
   void TakeCrossings(const TDXFEntity& a, const TDXFEntity& b) {
     const std::vector<Point> points = MeetingsOf(a, b);
     if (points.empty()) return;
+    if (TakeIfTogether(a, b, points)) return;
     for (const Point& point : points) Meet(point);
     if (AreSame(points, MeetingsAsDrawn(a, b)) && AreOnBoth(points, a, b)) return;
     if (MeetElsewhereOnceCut(points, a, b)) fWork.doubtful.push_back(fPair.first);

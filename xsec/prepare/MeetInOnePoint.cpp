@@ -11,10 +11,10 @@ namespace {
 
 using GeometryEngine::TDXFEntity;
 
-/// The part from where its start has gone to where its end has.
+/// The part from where its start has gone to where its end has, through both.
 TDXFEntity Moved(const TDXFEntity& whole, const Point& start, const Point& end) {
   const bool stays = IsSameBits(start, whole.StartCoords) && IsSameBits(end, whole.EndCoords);
-  return stays ? whole : PieceBetween(whole, start, end);
+  return stays && IsOnCurve(whole, start) && IsOnCurve(whole, end) ? whole : PieceBetween(whole, start, end);
 }
 
 }  // namespace

@@ -8,6 +8,8 @@ namespace xsec {
 
 namespace {
 
+constexpr double kGrainsInReach = 16;
+
 bool IsMetAt(const Part& part, const Point& end, double tolerance) {
   return std::any_of(part.meetings.begin(), part.meetings.end(),
                      [&](const Point& meeting) { return DistanceOf(meeting, end) < tolerance; });
@@ -24,7 +26,8 @@ struct Spread {
 
 }  // namespace
 
-PointGroups::PointGroups(const Preparation& aWork, double aReach) : fReach(aReach), fCells(aReach) {
+PointGroups::PointGroups(const Preparation& aWork, double aReach)
+    : fGrain(aReach / kGrainsInReach), fStep(aReach + 2 * fGrain), fGrains(fGrain), fSteps(fStep) {
   for (const Part& part : aWork.parts) {
     for (const Point& end : {part.geometry.StartCoords, part.geometry.EndCoords}) {
       if (IsMetAt(part, end, aWork.tolerance)) Add(end);
@@ -45,27 +48,28 @@ Point PointGroups::MiddleFor(const Point& aPoint) const {
 }
 
 void PointGroups::Add(const Point& aPoint) {
-  std::vector<std::size_t> near;
-  const bool isKnown = fCells.Visit(aPoint, [&](std::size_t place) {
-    if (DistanceOf(fPlaces[place], aPoint) < fReach) near.push_back(place);
-    return IsSameBits(fPlaces[place], aPoint);
-  });
-  if (isKnown) return;
+  if (PlaceOf(aPoint) != kNone) return;
   const std::size_t added = fPlaces.size();
-  fCells.Add(aPoint, added);
   fPlaces.push_back(aPoint);
   fFirsts.push_back(added);
-  for (const std::size_t place : near) {
-    const std::size_t a = FirstOf(place);
-    const std::size_t b = FirstOf(added);
-    fFirsts[std::max(a, b)] = std::min(a, b);
-  }
+  fSteps.Visit(aPoint, [&](std::size_t place) {
+    if (DistanceOf(fPlaces[place], aPoint) < fStep) Join(place, added);
+    return false;
+  });
+  fGrains.Add(aPoint, added);
+  fSteps.Add(aPoint, added);
+}
+
+void PointGroups::Join(std::size_t aPlace, std::size_t aOther) {
+  const std::size_t first = FirstOf(aPlace);
+  const std::size_t other = FirstOf(aOther);
+  fFirsts[std::max(first, other)] = std::min(first, other);
 }
 
 std::size_t PointGroups::PlaceOf(const Point& aPoint) const {
   std::size_t found = kNone;
-  fCells.Visit(aPoint, [&](std::size_t place) {
-    if (IsSameBits(fPlaces[place], aPoint)) found = place;
+  fGrains.Visit(aPoint, [&](std::size_t place) {
+    if (DistanceOf(fPlaces[place], aPoint) < fGrain) found = place;
     return found != kNone;
   });
   return found;

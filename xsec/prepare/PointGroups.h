@@ -10,10 +10,11 @@
 
 namespace xsec {
 
-/// The meetings of all parts and the ends that they are met at, each once to the last bit, grouped: those that can be
-/// reached from one another by steps below the reach are in one group.
+/// The meetings of all parts and the ends that they are met at, grouped: those that can be reached from one another by
+/// steps below the reach are in one group. Points closer together than a sixteenth of the reach are taken for one
+/// place, so that many lines through one point cost no pairs; steps may be an eighth longer for it.
 ///
-/// COST: linear in the meetings, as long as few lie within the reach of each other.
+/// COST: linear in the meetings, times some hundreds where places fill a disc as wide as the reach.
 class PointGroups {
  public:
   PointGroups(const Preparation& aWork, double aReach);
@@ -27,10 +28,13 @@ class PointGroups {
   void Add(const Point& aPoint);
   std::size_t PlaceOf(const Point& aPoint) const;
   std::size_t FirstOf(std::size_t aPlace);
+  void Join(std::size_t aPlace, std::size_t aOther);
   void FindMiddles();
 
-  double fReach;
-  PointCells fCells;
+  double fGrain;       ///< within which points are one place
+  double fStep;        ///< from place to place of a group, at most
+  PointCells fGrains;  ///< the places, for points that are one place,
+  PointCells fSteps;   ///< and for those of one group
   std::vector<Point> fPlaces;
   std::vector<std::size_t> fFirsts;   ///< towards the first place of the same group, in the end that one itself
   std::vector<std::size_t> fMiddles;  ///< for the first place of a group its middle

@@ -39,6 +39,12 @@ struct Double {
 /// Two parts that come close to each other, the first before the second.
 using PartPair = std::pair<std::size_t, std::size_t>;
 
+/// A place where parts end or meet, with the parts that are there.
+struct MeetingPlace {
+  Point point;
+  std::vector<std::size_t> parts;
+};
+
 struct Preparation {
   double tolerance = 0;
   std::vector<Part> parts;
@@ -78,9 +84,9 @@ void SettleMeetings(Preparation& aWork);
 /// Finds which parts are blurred. REQUIRES: meetings are not settled. COST: linear in the meetings
 void FindBlurs(Preparation& aWork);
 
-/// Makes one of the points that parts meet in and that can be reached from one another by steps below the tolerance,
-/// and cuts every part wherever it is met, so that under a finer tolerance all that has met still does. Some parts
-/// become points. COST: linear in the meetings
+/// Makes one of the points that parts meet in and that can be reached from one another by steps below the tolerance, or
+/// an eighth more, and cuts every part wherever it is met, so that under a finer tolerance all that has met still does.
+/// Some parts become points. COST: linear in the meetings
 void MeetInOnePoint(Preparation& aWork);
 
 /// Lines that run so steeply that neighbouring meetings are closer in x than the tolerance are cut at all of them.
@@ -92,9 +98,9 @@ void CutSteepLines(Preparation& aWork);
 std::vector<double> TurnsWithFewSteepLines(const Preparation& aWork, std::size_t aMost);
 
 /// Where the first chords of arcs that leave a point show another order than the arcs themselves, the arcs get first
-/// pieces of equal chord there.
+/// pieces of equal chord there. Answers where these end.
 /// COST: for each point the parts there times the logarithm of what meets them, and the pairs of parts there when some
 /// are arcs; arcs on one circle at that point end the search at once
-void SettleTurnOrder(Preparation& aWork);
+std::vector<Point> SettleTurnOrder(Preparation& aWork, const std::vector<MeetingPlace>& aPlaces);
 
 }  // namespace xsec

@@ -52,10 +52,11 @@ void MoveBack(const Motion& motion, std::vector<Cure>& cures) {
 
 PreparedGroup Finish(Attempt attempt) {
   Preparation& work = attempt.work;
-  SettleTurnOrder(work);
+  const std::vector<MeetingPlace> places = FindPlaces(work);
   PreparedGroup prepared;
+  prepared.places = SettleTurnOrder(work, places);
+  for (const MeetingPlace& place : places) prepared.places.push_back(place.point);
   prepared.pieces = CollectPieces(work);
-  for (const MeetingPlace& place : FindPlaces(work)) prepared.places.push_back(place.point);
   prepared.cures = std::move(work.cures);
   prepared.motion = attempt.motion;
   prepared.tolerance = work.tolerance;

@@ -10,7 +10,6 @@
 #include "xsec/prepare/Curves.h"
 #include "xsec/prepare/MetPlaces.h"
 #include "xsec/prepare/Preparation.h"
-#include "xsec/prepare/VertexPlaces.h"
 
 namespace xsec {
 
@@ -204,9 +203,10 @@ bool HasArc(const Preparation& work, const MeetingPlace& vertex) {
 
 }  // namespace
 
-void SettleTurnOrder(Preparation& aWork) {
+std::vector<Point> SettleTurnOrder(Preparation& aWork, const std::vector<MeetingPlace>& aPlaces) {
+  std::vector<Point> added;
   Meetings meetings(aWork);
-  for (const MeetingPlace& vertex : FindPlaces(aWork)) {
+  for (const MeetingPlace& vertex : aPlaces) {
     if (!HasArc(aWork, vertex)) continue;
     const Fan fan(aWork, meetings, vertex);
     if (!fan.IsAtRisk()) continue;
@@ -215,9 +215,11 @@ void SettleTurnOrder(Preparation& aWork) {
     for (const auto& [part, place] : fan.CutsFor(*chord)) {
       aWork.parts[part].cuts.push_back(place);
       meetings.Add(part, place);
+      added.push_back(place);
     }
     aWork.Report(CureKind::TurnOrder, vertex.point, vertex.parts.front(), kNone, *chord);
   }
+  return added;
 }
 
 }  // namespace xsec

@@ -10,12 +10,6 @@
 
 namespace xsec {
 
-/// A place where parts end or meet, with the parts that are there.
-struct MeetingPlace {
-  Point point;
-  std::vector<std::size_t> parts;
-};
-
 /// Points that are the same under the tolerance are one place, that of the first of them in the order of the drawing.
 std::vector<MeetingPlace> FindPlaces(const Preparation& aWork);
 
