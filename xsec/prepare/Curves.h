@@ -35,9 +35,9 @@ bool AreHalves(const GeometryEngine::TDXFEntity& aFirst, const GeometryEngine::T
 /// An arc of that circle between two points on it, its angles taken from them.
 GeometryEngine::TDXFEntity ArcBetween(const Point& aStart, const Point& aEnd, const Point& aCentre, double aRadius);
 
-/// The part of the entity between two points on it, the first of them closer to its start. Where they lie
-/// beside an arc's circle by the tolerance or more, the piece has a circle through both, its centre moved along the
-/// chord.
+/// The part of the entity between two points on it, the first of them closer to its start. Where one is beside an arc's
+/// circle by the tolerance or more, the piece has a circle through both: of the same radius while the chord is shorter
+/// than that, else about the centre moved along the chord.
 GeometryEngine::TDXFEntity PieceBetween(const GeometryEngine::TDXFEntity& aEntity, const Point& aStart,
                                         const Point& aEnd);
 

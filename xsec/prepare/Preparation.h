@@ -70,9 +70,9 @@ void UnifyCircles(Preparation& aWork);
 /// order of turns there.
 void TurnSeams(Preparation& aWork);
 
-/// Finds where the parts of each pair meet. Parts that lie on each other are cut at each other's ends; a pair whose
-/// meetings the library would see otherwise in another direction is cut where it meets, and doubtful if the library
-/// would see more meetings of its pieces.
+/// Finds where the parts of each pair meet. Parts that lie on each other are cut at each other's ends, those that run
+/// together between two meetings at these; a pair whose meetings the library would see otherwise in another direction is
+/// cut where it meets, and doubtful if the library would see more meetings of its pieces.
 /// COST: linear in the pairs and the points that they meet in
 void FindMeetings(Preparation& aWork);
 

@@ -64,6 +64,7 @@ PreparedGroup Finish(Attempt attempt) {
   return prepared;
 }
 
+/// How groups are prepared: a drawing's own, and what refining made of them.
 struct Manner {
   double tolerance;
   std::size_t mostTurns;
