@@ -71,9 +71,9 @@ void UnifyCircles(Preparation& aWork);
 void TurnSeams(Preparation& aWork);
 
 /// Finds where the parts of each pair meet. Parts that lie on each other are cut at each other's ends, those that run
-/// together between two meetings at these; a pair whose meetings the library would see otherwise in another direction is
-/// cut where it meets, and doubtful if the library would see more meetings of its pieces.
-/// COST: linear in the pairs and the points that they meet in
+/// together between two meetings at these; a pair whose meetings the library would see otherwise in another direction
+/// is cut where it meets, and doubtful if the library would see more meetings of its pieces. COST: linear in the pairs
+/// and the points that they meet in
 void FindMeetings(Preparation& aWork);
 
 /// Leaves one of the meetings of a part, and of its cuts, that are the same, and cuts what has to be cut anywhere
