@@ -6,6 +6,7 @@
   in docs/kept.md, and each row names a file with such a comment and tests that exist. The public headers of a module
   speak of no more oddities than the page has rows for it. Each row gives a reason.
 - The limits of docs/kept.md name files and tests that exist.
+- Each row of tests/mutants.txt is about a line that its file has.
 
 usage: check_sources.py
 """
@@ -96,13 +97,26 @@ def kept_faults(all_tests):
     return faults, len(rows), comments, len(tests)
 
 
+def mutant_faults():
+    """Rows that tools/mutate would not find any more: "FILE | line as it is | ..."."""
+    rows = ROOT / "tests/mutants.txt"
+    for row in text(rows).splitlines() if rows.exists() else []:
+        if row.startswith("#") or " | " not in row:
+            continue
+        file, mistake = row.split(" | ", 1)
+        path = ROOT / file
+        lines = text(path).splitlines() if path.exists() else []
+        if not any(line.strip() and mistake.startswith(line.strip() + " | ") for line in lines):
+            yield f"tests/mutants.txt: {file} has no line {mistake.split(' | ')[0]}"
+
+
 def main():
     paths = sources("GeometryEngine") + sources("xsec")
     if not paths:
         sys.exit("no source was found")
     all_tests = {f"{suite}.{test}" for path in sources("tests") for suite, test in ANY_TEST.findall(text(path))}
     faults, rows, comments, tests = kept_faults(all_tests)
-    faults += limit_faults(all_tests) + shape_faults(paths)
+    faults += limit_faults(all_tests) + shape_faults(paths) + list(mutant_faults())
     for fault in faults:
         print(fault)
     print(f"{len(paths)} sources; {rows} oddities kept, {comments} KEPT: comments in sources, {tests} tests of them; "

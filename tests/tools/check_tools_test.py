@@ -98,6 +98,7 @@ class CheckSources(Tree):
     TEST = "TEST(Numerics, AnswersAsEverKept) {}\n"
     ROW = "| what | why | `host/Numerics.cpp` | `Numerics.AnswersAsEverKept` |\n"
     LIMIT = "\n## Limits\n| what | 7 | `host/Numerics.cpp` | `Numerics.AnswersAsEverKept` |\n"
+    MISTAKE = "GeometryEngine/host/Numerics.cpp | return a | b; | return a & b; | why\n"
 
     def lay_out(self, comment="", test="", row=""):
         self.write(ENGINE + "host/Numerics.cpp", text=comment)
@@ -150,6 +151,17 @@ class CheckSources(Tree):
         self.lay_out()
         self.write(ENGINE + "host/Numerics.h", text="/// KEPT: an answer that callers rely on\n")
         self.assert_fault("check_sources.py", "host: its headers have 1 KEPT: comments, but docs/kept.md 0 rows")
+
+    def test_a_mistake_in_a_line_that_is_there_is_none(self):
+        self.lay_out("  return a | b;\n")
+        self.write("tests/mutants.txt", text=self.MISTAKE)
+        code, text = self.run_tool("check_sources.py")
+        self.assertEqual(code, 0, text)
+
+    def test_a_mistake_in_a_line_that_is_gone_is_a_fault(self):
+        self.lay_out("  return b | a;\n")
+        self.write("tests/mutants.txt", text=self.MISTAKE)
+        self.assert_fault("check_sources.py", "host/Numerics.cpp has no line return a")
 
     def test_a_long_source_is_a_fault(self):
         self.lay_out("\n" * 401)
