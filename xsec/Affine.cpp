@@ -8,6 +8,8 @@ namespace xsec {
 
 namespace {
 
+using GeometryEngine::kFullTurn;
+
 constexpr double kSameScale = 1e-9;  // relative difference of two scales, and cosine of their axes, taken as none
 
 struct Direction {
@@ -16,7 +18,7 @@ struct Direction {
 };
 
 Direction DirectionAt(double degrees) {
-  const double angle = GeometryEngine::GetAngleInRange(degrees, 0, 360);
+  const double angle = GeometryEngine::GetAngleInRange(degrees, 0, kFullTurn);
   if (angle == 0) {
     return {1, 0};
   }

@@ -54,7 +54,7 @@ bool IsStraight(const CurvePiece& piece, const ChordFrame& chord, double toleran
 
 // DEGENERATE: a piece whose control points are one point has no chord to be judged by.
 bool IsWithin(const CurvePiece& piece, const Point& centre, double reach) {
-  return DoAll(piece, [&](const Point& p) { return std::hypot(p.x - centre.x, p.y - centre.y) <= reach; });
+  return DoAll(piece, [&](const Point& p) { return Distance(p, centre) <= reach; });
 }
 
 std::vector<double> Binomials(std::size_t n) {
@@ -91,7 +91,7 @@ double MostPower(const CurvePiece& piece, const Point& centre) {
 // Distances d of a point from the centre are within t of the radius r when |d^2 - r^2| is at most 2 r t - t^2.
 bool FitsCircle(const CurvePiece& piece, const Point& centre, double tolerance) {
   const Point start = Projected(piece.front());
-  const double radius = std::hypot(centre.x - start.x, centre.y - start.y);
+  const double radius = Distance(centre, start);
   const double reach = std::min(tolerance, kMostRadiusShare * radius);
   const double least =
       std::min_element(piece.begin(), piece.end(), [](const auto& a, const auto& b) { return a.w < b.w; })->w;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
+#include "xsec/Extents.h"
 
 namespace xsec {
 
@@ -54,13 +55,6 @@ struct Tally {
   void Add(std::size_t aLine) {
     if (count++ == 0) line = aLine;
   }
-};
-
-struct Extents {
-  double minX = 0;
-  double minY = 0;
-  double maxX = 0;
-  double maxY = 0;
 };
 
 /// What a drawing holds once it has been read: blocks expanded, curves flattened, lengths in millimetres.

@@ -32,11 +32,6 @@ DrawingUnits UnitsOf(const std::string& name) {
   return *units;
 }
 
-double CheckedArea(double area) {
-  if (area >= 0 && std::isfinite(area)) return area;
-  throw UsageError(fmt::format("--sliver-area {}: expected an area in square millimetres", area));
-}
-
 std::uint8_t CheckedMachineType(int type) {
   if (0 <= type && type <= 255) return static_cast<std::uint8_t>(type);
   throw UsageError(fmt::format("--machine-type {}: expected a number from 0 to 255", type));
@@ -58,7 +53,7 @@ void AddSettingsOptions(const Command& command, SettingsRequest& settings) {
       "--sliver-area", "MM2",
       "Regions smaller than this are slivers. Without it a square of the tolerance; regions thinner than the "
       "tolerance always are",
-      [&](double area) { settings.sliverArea = CheckedArea(area); });
+      [&](double area) { settings.sliverArea = CheckedArea("--sliver-area", area); });
   command.AddFlag("--drop-slivers", "Make slivers part of the neighbour they share most with", settings.dropsSlivers);
   command.AddFlag("--no-prepare", "Hand the drawing to the library as it is, whatever way it lies", settings.prepares,
                   false);
@@ -173,6 +168,11 @@ ExitCode RunAsAsked(const DrawingOptions& aOptions, const std::vector<Output>& a
 double CheckedLength(const char* aOption, double aLength) {
   if (aLength > 0 && std::isfinite(aLength)) return aLength;
   throw UsageError(fmt::format("{} {}: expected a length in millimetres above 0", aOption, aLength));
+}
+
+double CheckedArea(const char* aOption, double aArea) {
+  if (aArea >= 0 && std::isfinite(aArea)) return aArea;
+  throw UsageError(fmt::format("{} {}: expected an area in mm2, 0 or more", aOption, aArea));
 }
 
 std::pair<double, double> PairOf(const std::string& aOption, const std::string& aText) {

@@ -40,6 +40,9 @@ ExitCode RunAsAsked(const DrawingOptions& aOptions, const std::vector<Output>& a
 /// The length, if it is one above 0. Throws UsageError, which names the option.
 double CheckedLength(const char* aOption, double aLength);
 
+/// The area, if it is 0 or more. Throws UsageError, which names the option.
+double CheckedArea(const char* aOption, double aArea);
+
 /// "X,Y" as two numbers. Throws UsageError, which names the option.
 std::pair<double, double> PairOf(const std::string& aOption, const std::string& aText);
 

@@ -9,12 +9,15 @@
 #include <numbers>
 #include <utility>
 
+#include "GeometryEngine/host/Numerics.h"
 #include "xsec/PlainText.h"
 #include "xsec/Utf8.h"
 
 namespace xsec {
 
 namespace {
+
+using GeometryEngine::kFullTurn;
 
 constexpr int kClosedFlag = 1;           // of polylines and splines
 constexpr int kMeshFlags = 16 | 64;      // of polylines: meshes and polyface meshes
@@ -23,7 +26,6 @@ constexpr int kFrameFlag = 16;           // of vertices: control point of a fitt
 constexpr int kExternalFlags = 4 | 8;    // of blocks: stand for another file
 constexpr int kByLayer = 256;            // colour
 constexpr int kWhite = 7;                // colour of layers without one of their own
-constexpr double kFullTurn = 360;        // degrees
 constexpr double kFullTurnSlack = 1e-6;  // degrees or radians: what a rounded full turn may lack
 constexpr double kPlumb = 1e-9;          // share of x and y in an extrusion direction that still counts as along z
 constexpr const char* kNotRead = "this type is not read";

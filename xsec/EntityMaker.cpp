@@ -17,13 +17,14 @@ namespace xsec {
 
 namespace {
 
+using GeometryEngine::kFullTurn;
+using GeometryEngine::kHalfTurn;
+
 constexpr double kStraightBulge = 1e-9;     // the arc leaves its chord by no more than half of this share of the chord
 constexpr double kFlattenTolerance = 0.01;  // millimetres
 constexpr double kFlattenShare = 1e-3;      // of the curve's size, when that is less
 constexpr double kFinestFlattenShare = 1e-9;  // of the curve's size: bounds the number of chords
 constexpr double kRoundness = 1e-9;           // relative difference of half axes that still make a circle
-constexpr double kHalfTurn = 180;             // degrees
-constexpr double kFullTurn = 360;             // degrees
 
 constexpr const char* kNoLength = "its length is 0";
 constexpr const char* kNoRadius = "its radius is not above 0";
@@ -32,11 +33,6 @@ constexpr const char* kTooFewVertices = "it has fewer than two different vertice
 
 bool IsFinite(const Point& point) {
   return std::isfinite(point.x) && std::isfinite(point.y);
-}
-
-// Equality of bits; two points that are merely close are two points.
-bool IsSame(const Point& a, const Point& b) {
-  return a.x == b.x && a.y == b.y;
 }
 
 double Normalised(double degrees) {
@@ -167,13 +163,13 @@ void EntityMaker::MakeShape(const SourceArc& aShape, const Affine& aMap) {
 void EntityMaker::MakeShape(const SourcePolyline& aShape, const Affine& aMap) {
   std::vector<SourceVertex> vertices;
   for (const SourceVertex& vertex : aShape.vertices) {
-    if (!vertices.empty() && IsSame(vertices.back().point, vertex.point)) {
+    if (!vertices.empty() && IsSameBits(vertices.back().point, vertex.point)) {
       vertices.back().bulge = vertex.bulge;  // a repeated vertex; the second one leads on
     } else {
       vertices.push_back(vertex);
     }
   }
-  if (aShape.isClosed && vertices.size() > 1 && IsSame(vertices.front().point, vertices.back().point)) {
+  if (aShape.isClosed && vertices.size() > 1 && IsSameBits(vertices.front().point, vertices.back().point)) {
     vertices.pop_back();
   }
   if (vertices.size() < 2) {
@@ -280,7 +276,7 @@ void EntityMaker::AddCurve(const FlatCurve& aCurve, double aTolerance) {
   }
   const ArcPath& path = aCurve.path;
   for (std::size_t i = 0; i + 1 < path.size(); ++i) {
-    if (!IsSame(path[i].point, path[i + 1].point)) {
+    if (!IsSameBits(path[i].point, path[i + 1].point)) {
       AddStretch(path[i], path[i + 1].point);
     }
   }
@@ -297,7 +293,7 @@ void EntityMaker::AddStretch(const SourceVertex& aFrom, const Point& aTo) {
 void EntityMaker::AddLine(const Point& aFrom, const Point& aTo) {
   if (!IsFinite(aFrom) || !IsFinite(aTo)) {
     SkipThis(kTooFar);
-  } else if (IsSame(aFrom, aTo)) {
+  } else if (IsSameBits(aFrom, aTo)) {
     SkipThis(kNoLength);
   } else {
     Add(GeometryEngine::CreateEntity_Line(aFrom.x, aFrom.y, aTo.x, aTo.y));

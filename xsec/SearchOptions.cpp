@@ -5,6 +5,7 @@
 #include <cmath>
 #include <map>
 
+#include "xsec/DrawingOptions.h"
 #include "xsec/Errors.h"
 
 namespace xsec {
@@ -12,11 +13,6 @@ namespace xsec {
 namespace {
 
 constexpr int kMostCopies = 100000;
-
-double CheckedArea(const char* option, double area) {
-  if (area >= 0 && std::isfinite(area)) return area;
-  throw UsageError(fmt::format("{} {}: expected an area in mm2, 0 or more", option, area));
-}
 
 double CheckedTurn(double turn) {
   if (std::isfinite(turn)) return turn;

@@ -13,7 +13,8 @@ namespace xsec {
 
 namespace {
 
-constexpr double kFullTurn = 360;       // degrees
+using GeometryEngine::kFullTurn;
+
 constexpr double kSectorSlack = 1e-3;   // degrees that a sector may exceed its share of the circle
 constexpr double kOnTheAxis = 1e-3;     // UNITS: mm; what is closer to the origin has no direction from it
 constexpr double kMostSectors = 10000;  // more than that are no sectors

@@ -59,11 +59,7 @@ double DiagonalOfLargestPart(const Drawing& drawing) {
   const std::vector<BoxGroup> parts = SplitAtGaps(boxes, gap);
   if (parts.size() <= 1) return whole;
   double largest = 0;
-  for (const BoxGroup& part : parts) {
-    Extents box = EmptyExtents();
-    for (const std::size_t entity : part) Widen(box, boxes[entity]);
-    largest = std::max(largest, Diagonal(box));
-  }
+  for (const BoxGroup& part : parts) largest = std::max(largest, Diagonal(BoxOf(part, boxes)));
   return largest;
 }
 

@@ -12,14 +12,10 @@ namespace {
 // two others together.
 constexpr int kSweeps = 60;
 
-bool IsSame(const Point& a, const Point& b) {
-  return a.x == b.x && a.y == b.y;
-}
-
 std::vector<Point> Distinct(const std::vector<Point>& points) {
   std::vector<Point> distinct;
   for (const Point& point : points) {
-    if (distinct.empty() || !IsSame(distinct.back(), point)) distinct.push_back(point);
+    if (distinct.empty() || !IsSameBits(distinct.back(), point)) distinct.push_back(point);
   }
   return distinct;
 }
@@ -28,13 +24,13 @@ std::vector<Point> Distinct(const std::vector<Point>& points) {
 class Interpolation {
  public:
   explicit Interpolation(const SourceFit& fit) : fPoints(Distinct(fit.points)) {
-    if (fit.isClosed && fPoints.size() > 2 && !IsSame(fPoints.front(), fPoints.back())) {
+    if (fit.isClosed && fPoints.size() > 2 && !IsSameBits(fPoints.front(), fPoints.back())) {
       fPoints.push_back(fPoints.front());
     }
     if (fPoints.size() < 2) return;
     fIsClosed = fit.isClosed && fPoints.size() > 3;
     for (std::size_t i = 0; i + 1 < fPoints.size(); ++i) {
-      fLengths.push_back(std::hypot(fPoints[i + 1].x - fPoints[i].x, fPoints[i + 1].y - fPoints[i].y));
+      fLengths.push_back(Distance(fPoints[i], fPoints[i + 1]));
       fSlopes.push_back((fPoints[i + 1] - fPoints[i]) / fLengths.back());
     }
     fSpeeds.resize(fPoints.size());

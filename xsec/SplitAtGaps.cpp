@@ -64,6 +64,12 @@ class Splitter {
 
 }  // namespace
 
+Extents BoxOf(const BoxGroup& aGroup, const std::vector<Extents>& aBoxes) {
+  Extents box = EmptyExtents();
+  for (const std::size_t member : aGroup) Widen(box, aBoxes[member]);
+  return box;
+}
+
 std::vector<BoxGroup> SplitAtGaps(const std::vector<Extents>& aBoxes, double aGap) {
   BoxGroup all(aBoxes.size());
   std::iota(all.begin(), all.end(), std::size_t{0});

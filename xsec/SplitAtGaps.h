@@ -5,12 +5,15 @@
 #include <cstddef>
 #include <vector>
 
-#include "xsec/Drawing.h"
+#include "xsec/Extents.h"
 
 namespace xsec {
 
 /// The indexes of some boxes, ascending.
 using BoxGroup = std::vector<std::size_t>;
+
+/// The box round a group of them.
+Extents BoxOf(const BoxGroup& aGroup, const std::vector<Extents>& aBoxes);
 
 /// Parts the boxes along straight cuts, level or upright, that are wider than the gap: right through all of them, then
 /// on through each part. No part can lie within another, nor come closer to it than the gap.

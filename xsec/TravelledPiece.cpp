@@ -13,15 +13,12 @@ namespace xsec {
 namespace {
 
 using GeometryEngine::kDegreesPerRadian;
+using GeometryEngine::kFullTurn;
+using GeometryEngine::kHalfTurn;
+using GeometryEngine::kQuarterTurn;
 using GeometryEngine::kRadiansPerDegree;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kQuarterTurn = 90;  // degrees
-constexpr double kHalfTurn = 180;    // degrees
-
-double Distance(const Point& a, const Point& b) {
-  return std::hypot(a.x - b.x, a.y - b.y);
-}
 
 Point OnCircle(const TravelledPiece& piece, double angle) {
   const double radians = angle * kRadiansPerDegree;
@@ -30,7 +27,7 @@ Point OnCircle(const TravelledPiece& piece, double angle) {
 
 /// Where the arc begins when it is walked anticlockwise, at least 0 and less than 360.
 double LowestAngle(const TravelledPiece& piece) {
-  return GeometryEngine::GetAngleInRange(piece.sweep < 0 ? piece.endAngle : piece.startAngle, 0, 360);
+  return GeometryEngine::GetAngleInRange(piece.sweep < 0 ? piece.endAngle : piece.startAngle, 0, kFullTurn);
 }
 
 /// The first angle beyond this one that is `offset` and a multiple of `step`.
@@ -40,7 +37,7 @@ double NextAngle(double angle, double step, double offset) {
 
 bool IsWithinSweep(const TravelledPiece& piece, const Point& point) {
   const double angle = std::atan2(point.y - piece.centre.y, point.x - piece.centre.x) * kDegreesPerRadian;
-  const double beyond = GeometryEngine::GetAngleInRange(angle - LowestAngle(piece), 0, 360);
+  const double beyond = GeometryEngine::GetAngleInRange(angle - LowestAngle(piece), 0, kFullTurn);
   return beyond <= std::abs(piece.sweep);
 }
 
@@ -51,7 +48,7 @@ double DistanceToLine(const TravelledPiece& piece, const Point& point) {
   if (!(square > 0)) return Distance(piece.from, point);
   const double along = ((point.x - piece.from.x) * dx + (point.y - piece.from.y) * dy) / square;
   const double part = std::clamp(along, 0.0, 1.0);
-  return Distance({piece.from.x + part * dx, piece.from.y + part * dy}, point);
+  return Distance(Point{piece.from.x + part * dx, piece.from.y + part * dy}, point);
 }
 
 /// Whether a stretch that rises or falls from one height to another crosses the height y. Half open, so that two
@@ -109,10 +106,6 @@ Point SegmentMoment(const TravelledPiece& piece, const Point& origin) {
   const double chord = 2 * piece.radius * std::sin(halfSweep);
   const double aboutCentre = chord * chord * chord / 12;
   return SegmentArea(piece) * (piece.centre - origin) + aboutCentre * Point{std::cos(middle), std::sin(middle)};
-}
-
-void Widen(Extents& box, const Point& point) {
-  Widen(box, Extents{point.x, point.y, point.x, point.y});
 }
 
 }  // namespace
@@ -245,29 +238,6 @@ bool IsInside(const Loop& aLoop, const Point& aPoint) {
 
 bool IsInside(const std::vector<double>& aCrossings, const Point& aPoint) {
   return std::count_if(aCrossings.begin(), aCrossings.end(), [&](double x) { return x > aPoint.x; }) % 2 != 0;
-}
-
-bool Contains(const Extents& aBox, const Point& aPoint) {
-  return aBox.minX <= aPoint.x && aPoint.x <= aBox.maxX && aBox.minY <= aPoint.y && aPoint.y <= aBox.maxY;
-}
-
-void Widen(Extents& aBox, const Extents& aOther) {
-  aBox.minX = std::min(aBox.minX, aOther.minX);
-  aBox.minY = std::min(aBox.minY, aOther.minY);
-  aBox.maxX = std::max(aBox.maxX, aOther.maxX);
-  aBox.maxY = std::max(aBox.maxY, aOther.maxY);
-}
-
-Extents Widened(const Extents& aBox, double aMargin) {
-  return {aBox.minX - aMargin, aBox.minY - aMargin, aBox.maxX + aMargin, aBox.maxY + aMargin};
-}
-
-Extents EmptyExtents() {
-  return {kInfinity, kInfinity, -kInfinity, -kInfinity};
-}
-
-double Diagonal(const Extents& aBox) {
-  return std::hypot(aBox.maxX - aBox.minX, aBox.maxY - aBox.minY);
 }
 
 }  // namespace xsec

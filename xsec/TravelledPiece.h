@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "GeometryEngine/DXF_Entity_Types/TDXFEntity.h"
-#include "xsec/Drawing.h"
+#include "xsec/Extents.h"
 #include "xsec/Point.h"
 
 namespace xsec {
@@ -61,13 +61,5 @@ Extents Bounds(const Loop& aLoop);
 bool IsInside(const Loop& aLoop, const Point& aPoint);
 /// The same from where the loop crosses the horizontal line through the point, as AddCrossings gives it.
 bool IsInside(const std::vector<double>& aCrossings, const Point& aPoint);
-
-bool Contains(const Extents& aBox, const Point& aPoint);
-void Widen(Extents& aBox, const Extents& aOther);
-/// The box with so much more on every side.
-Extents Widened(const Extents& aBox, double aMargin);
-/// A box that holds nothing: infinite the wrong way round.
-Extents EmptyExtents();
-double Diagonal(const Extents& aBox);
 
 }  // namespace xsec

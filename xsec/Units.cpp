@@ -1,4 +1,5 @@
 #include "xsec/Units.h"
+#include "xsec/LetterCase.h"
 
 #include <fmt/format.h>
 
@@ -51,14 +52,6 @@ constexpr double kLargestMachine = 20000;  // millimetres across; above, the num
 
 DrawingUnits AsDrawingUnits(const Unit& unit) {
   return {std::string(unit.name), unit.millimetres, ""};
-}
-
-char Lower(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool IsSameName(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) { return Lower(x) == Lower(y); });
 }
 
 }  // namespace

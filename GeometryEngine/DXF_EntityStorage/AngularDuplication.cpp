@@ -7,8 +7,6 @@ namespace GeometryEngine {
 
 namespace {
 
-constexpr double kFullTurn = 360;  // degrees
-
 /// Where a ray through the entity's two ends points, as far as there is one: an end at the origin has no direction of
 /// its own and takes the other end's.
 struct TEndAngles {

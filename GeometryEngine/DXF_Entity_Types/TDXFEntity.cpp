@@ -7,8 +7,6 @@ namespace GeometryEngine {
 
 namespace {
 
-constexpr double kFullTurn = 360;  // degrees
-
 double FullTurnAngle(double aAngle) {
   return GetAngleInRange(aAngle, 0, kFullTurn);
 }

@@ -12,8 +12,6 @@ namespace GeometryEngine {
 
 namespace {
 
-constexpr double kFullTurn = 360;  // degrees
-
 double GetPieceAngle(const TEntityCoordinate& aPoint, const TDXFEntity& aArc) {
   return GetAngleInRange(GetCoordinateAngle_AboutPoint(aPoint, aArc.CentreCoords), 0, kFullTurn);
 }

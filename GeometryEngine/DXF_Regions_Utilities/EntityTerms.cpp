@@ -15,11 +15,11 @@ namespace GeometryEngine {
 
 namespace {
 
-constexpr std::int32_t kAreaSegments = 5;        // segments of the polygon that stands for an arc's area
-constexpr double kDegreesPerFactor = 10;         // the resolution factor counts segments per this many degrees
-constexpr double kFullTurn = 6.283185307179586;  // radians
-constexpr std::int32_t kModeLeaving = 1;         // vector in which the entity leaves the first coordinate
-constexpr std::int32_t kModeBack = 0;            // vector in which the entity leaves its far end
+constexpr std::int32_t kAreaSegments = 5;                // segments of the polygon that stands for an arc's area
+constexpr double kDegreesPerFactor = 10;                 // the resolution factor counts segments per this many degrees
+constexpr double kFullTurn_Radians = 6.283185307179586;  // radians
+constexpr std::int32_t kModeLeaving = 1;                 // vector in which the entity leaves the first coordinate
+constexpr std::int32_t kModeBack = 0;                    // vector in which the entity leaves its far end
 
 double GetCross(const TEntityCoordinate& aFrom, const TEntityCoordinate& aTo) {
   return aFrom.x * aTo.y - aFrom.y * aTo.x;
@@ -142,11 +142,11 @@ TVector_Single GetVectorFromCoordinates(const TEntityCoordinate& aCoordinate_A,
 
 double GetAngleBetweenVectors(const TVector_Single& aVector_1, const TVector_Single& aVector_2) {
   const double d = GetDirection(aVector_2) - GetDirection(aVector_1);
-  const double turns = std::abs(std::trunc(d / kFullTurn));
-  if (d < 0) return d + (turns + 1) * kFullTurn;
+  const double turns = std::abs(std::trunc(d / kFullTurn_Radians));
+  if (d < 0) return d + (turns + 1) * kFullTurn_Radians;
   // KEPT: beyond a full turn the difference is taken the wrong way round and comes out negative. Two arctangents are
   // never more than a full turn apart, so no caller meets it.
-  if (d > kFullTurn) return turns * kFullTurn - d;
+  if (d > kFullTurn_Radians) return turns * kFullTurn_Radians - d;
   return d;
 }
 

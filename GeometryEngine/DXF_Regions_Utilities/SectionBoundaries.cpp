@@ -7,9 +7,6 @@ namespace GeometryEngine {
 
 namespace {
 
-constexpr double kHalfTurn = 180;  // degrees
-constexpr double kFullTurn = 360;  // degrees
-
 TDXFEntity ArcAboutOrigin(const TEntityCoordinate& aStart, const TEntityCoordinate& aEnd, double r, double a1,
                           double a2) {
   return TDXFEntity::Arc(aStart, aEnd, {}, r, a1, a2);

@@ -9,9 +9,6 @@ namespace GeometryEngine {
 
 namespace {
 
-constexpr double kHalfTurn = 180;  // degrees
-constexpr double kFullTurn = 360;  // degrees
-
 // From `aFrom` to `aTo`; subtracted in double precision, so that far origins cost nothing.
 TVector_Single Difference_Single(const TCoordinate_3D& aTo, const TCoordinate_3D& aFrom) {
   return {static_cast<float>(aTo.x - aFrom.x), static_cast<float>(aTo.y - aFrom.y),

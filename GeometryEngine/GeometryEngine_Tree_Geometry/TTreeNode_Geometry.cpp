@@ -7,12 +7,6 @@
 
 namespace GeometryEngine {
 
-namespace {
-
-constexpr double kFullTurn = 360;  // degrees
-
-}  // namespace
-
 TTreeNode_Geometry::TTreeNode_Geometry(TTree_Base* aTree) : TTreeNode_CoreProperties(aTree), fRegionCoordinates(1) {}
 
 TTreeNode_Geometry::~TTreeNode_Geometry() = default;

@@ -10,8 +10,6 @@ namespace GeometryEngine {
 
 namespace {
 constexpr double kStandardResolution = 1e-12;  // relative for large values, absolute for small ones
-constexpr double kHalfTurn = 180;              // degrees
-constexpr double kFullTurn = 360;              // degrees
 constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
 }  // namespace
 

@@ -15,6 +15,10 @@ namespace GeometryEngine {
 inline constexpr double kRadiansPerDegree = 0.017453292519943295;
 inline constexpr double kDegreesPerRadian = 57.29577951308232;
 
+inline constexpr double kQuarterTurn = 90;  ///< degrees, as the next two
+inline constexpr double kHalfTurn = 180;
+inline constexpr double kFullTurn = 360;
+
 /// The line y = aSlope x + aIntercept.
 struct TLinearEquation {
   double aSlope = 0;

@@ -32,7 +32,7 @@ TDXFEntity Arc(const TEntityCoordinate& aCentre, double aRadius, double aStartAn
 double Deviation(const TVector_Single& aVector, double aDirection) {
   const double exact = GetDirection(static_cast<double>(aVector.x), static_cast<double>(aVector.y));
   const double difference = std::abs(exact - aDirection);
-  return std::min(difference, detail::kFullTurn - difference);
+  return std::min(difference, detail::kFullTurn_Direction - difference);
 }
 
 TEST(Direction, GrowsWithTheAngleFrom0To4) {

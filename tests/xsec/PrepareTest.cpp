@@ -362,8 +362,8 @@ TEST(PieceBetween, OfAnArcLiesOnACircleThroughPointsBesideTheArcs) {
 
   const Point start = {arc.StartCoords.x + 1e-3, arc.StartCoords.y};
   const GeometryEngine::TDXFEntity beside = PieceBetween(arc, start, end);
-  EXPECT_NEAR(DistanceOf(beside.CentreCoords, start), beside.radius, 1e-12);
-  EXPECT_NEAR(DistanceOf(beside.CentreCoords, end), beside.radius, 1e-12);
+  EXPECT_NEAR(Distance(beside.CentreCoords, start), beside.radius, 1e-12);
+  EXPECT_NEAR(Distance(beside.CentreCoords, end), beside.radius, 1e-12);
   EXPECT_NEAR(beside.radius, 5, 1e-3);
   EXPECT_NEAR(beside.ArcSweep(), onArc.ArcSweep(), 0.1);
 }

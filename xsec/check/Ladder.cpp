@@ -23,7 +23,7 @@ double Reach(const Region& region, double tolerance) {
 
 bool IsSameRegion(const Region& a, const Region& b, double tolerance) {
   const double slack = kSameArea * a.netArea + 2 * tolerance * Length(a.outline);
-  return std::abs(a.netArea - b.netArea) <= slack && DistanceOf(a.centroid, b.centroid) <= Reach(a, tolerance);
+  return std::abs(a.netArea - b.netArea) <= slack && Distance(a.centroid, b.centroid) <= Reach(a, tolerance);
 }
 
 std::vector<double> NewAreas(const Detection& found, const Detection& before, double tolerance) {
@@ -61,7 +61,7 @@ std::vector<double> TolerancesToTry(double own, const std::vector<NearMiss>& mis
 /// Whether the entity still ends openly where it did, give or take what the tolerance moves.
 bool IsOpenStill(const NearMiss& miss, const std::vector<OpenEnd>& ends, double tolerance) {
   return std::any_of(ends.begin(), ends.end(), [&](const OpenEnd& end) {
-    return end.entity == miss.entity && DistanceOf(end.place, miss.end) <= 2 * tolerance;
+    return end.entity == miss.entity && Distance(end.place, miss.end) <= 2 * tolerance;
   });
 }
 

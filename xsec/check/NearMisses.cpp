@@ -25,9 +25,9 @@ double ToleranceFor(const Point& a, const Point& b) {
 
 /// The point of the line or arc that is closest; one of its ends when that is nearly as close, as it was meant then.
 Point ClosestPoint(const GeometryEngine::TDXFEntity& entity, const Point& point) {
-  const bool isStart = DistanceOf(entity.StartCoords, point) < DistanceOf(entity.EndCoords, point);
+  const bool isStart = Distance(entity.StartCoords, point) < Distance(entity.EndCoords, point);
   const Point& end = isStart ? entity.StartCoords : entity.EndCoords;
-  if (DistanceOf(end, point) <= kEndFirst * DistanceTo(entity, point)) return end;
+  if (Distance(end, point) <= kEndFirst * DistanceTo(entity, point)) return end;
   const double length = LengthOf(entity);
   const double position = std::clamp(PositionOf(entity, point), 0.0, length);
   if (position == 0) return entity.StartCoords;
@@ -36,16 +36,16 @@ Point ClosestPoint(const GeometryEngine::TDXFEntity& entity, const Point& point)
 }
 
 bool IsEndOf(const GeometryEngine::TDXFEntity& entity, const Point& point) {
-  return DistanceOf(entity.StartCoords, point) == 0 || DistanceOf(entity.EndCoords, point) == 0;
+  return Distance(entity.StartCoords, point) == 0 || Distance(entity.EndCoords, point) == 0;
 }
 
 /// The way on, of some length, from the end of the entity that is closer to a point.
 GeometryEngine::TDXFEntity WayOn(const GeometryEngine::TDXFEntity& entity, const Point& point, double length) {
-  const bool isStart = DistanceOf(entity.StartCoords, point) < DistanceOf(entity.EndCoords, point);
+  const bool isStart = Distance(entity.StartCoords, point) < Distance(entity.EndCoords, point);
   const Point& from = isStart ? entity.StartCoords : entity.EndCoords;
   if (!IsArc(entity)) {
     const Point& behind = isStart ? entity.EndCoords : entity.StartCoords;
-    return GeometryEngine::TDXFEntity::Line(from, from + length / DistanceOf(from, behind) * (from - behind));
+    return GeometryEngine::TDXFEntity::Line(from, from + length / Distance(from, behind) * (from - behind));
   }
   const double angle = std::min(length / entity.radius, kMostTurnOn) * (isStart ? -1 : 1);
   const Point arm = from - entity.CentreCoords;
@@ -98,7 +98,7 @@ class MissFinder {
   NearMiss MissOf(std::size_t end, const Point& other, std::size_t entity, bool isEnd) const {
     const OpenEnd& from = fEnds[end];
     return {
-        from.place, other, from.entity, entity, isEnd, DistanceOf(from.place, other), ToleranceFor(from.place, other)};
+        from.place, other, from.entity, entity, isEnd, Distance(from.place, other), ToleranceFor(from.place, other)};
   }
 
   void Offer(const NearMiss& miss, std::optional<NearMiss>& best) const {
@@ -130,20 +130,20 @@ class MissFinder {
     const Point* nearest = nullptr;
     const auto crossings = CrossingsOf(WayOn(fDrawing.entities[fEnds[end].entity].geometry, from, fReach), side);
     for (const Point& crossing : crossings) {
-      if (nearest == nullptr || DistanceOf(crossing, from) < DistanceOf(*nearest, from)) nearest = &crossing;
+      if (nearest == nullptr || Distance(crossing, from) < Distance(*nearest, from)) nearest = &crossing;
     }
     return nearest == nullptr ? closest : *nearest;
   }
 
   /// What runs into the very end is no miss: it was found there already.
   bool IsOwn(const Point& closest, std::size_t end) const {
-    return DistanceOf(closest, fEnds[end].place) < kOwnNeighbourhood * fReach;
+    return Distance(closest, fEnds[end].place) < kOwnNeighbourhood * fReach;
   }
 
   /// The same gap from its other side.
   static bool IsKnown(const NearMiss& miss, const std::vector<NearMiss>& misses) {
     return miss.isEnd && std::any_of(misses.begin(), misses.end(), [&](const NearMiss& known) {
-             return known.isEnd && DistanceOf(known.other, miss.end) == 0 && DistanceOf(known.end, miss.other) == 0;
+             return known.isEnd && Distance(known.other, miss.end) == 0 && Distance(known.end, miss.other) == 0;
            });
   }
 

@@ -19,10 +19,6 @@ namespace {
 constexpr int kFormatVersion = 1;
 constexpr double kRounding = 1e-9;  // of an area
 
-double Distance(const Point& a, const Point& b) {
-  return std::hypot(a.x - b.x, a.y - b.y);
-}
-
 bool IsSameArea(double a, double b, double tolerance) {
   const double size = std::max(std::abs(a), std::abs(b));
   return std::abs(a - b) <= kRounding * size + 4 * tolerance * std::sqrt(size);

@@ -3,11 +3,11 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <cmath>
 
 #include "xsec/DxfText.h"
 #include "xsec/Errors.h"
 #include "xsec/Json.h"
+#include "xsec/LetterCase.h"
 
 namespace xsec {
 
@@ -16,10 +16,6 @@ namespace {
 using GeometryEngine::TGeometryRegionType;
 
 constexpr std::int32_t kLastColour = 255;
-
-char Lower(char c) {
-  return 'A' <= c && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
 
 /// One value of the file with the way to it, for messages: "rules[2].when.radius".
 struct Place {
@@ -77,10 +73,6 @@ std::string FillColour(const Place& place) {
     place.Fail(fmt::format("\"{}\" is no colour", colour), "write it as \"#rrggbb\" in hexadecimal digits");
   }
   return colour;
-}
-
-bool IsSameName(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) { return Lower(x) == Lower(y); });
 }
 
 TGeometryRegionType RegionType(const Place& place) {

@@ -2,9 +2,7 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
 #include <cmath>
-#include <limits>
 #include <set>
 #include <utility>
 
@@ -14,9 +12,10 @@ namespace xsec {
 
 namespace {
 
+using GeometryEngine::kHalfTurn;
+
 constexpr int kMillimetres = 4;  // of $INSUNITS
 constexpr int kClosed = 1;       // flag of a polyline
-constexpr double kHalfTurn = 180;
 
 /// Names of layers may hold no character of these.
 std::string LayerName(std::string name) {

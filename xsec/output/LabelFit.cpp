@@ -4,11 +4,14 @@
 #include <cmath>
 #include <limits>
 
+#include "GeometryEngine/host/Numerics.h"
 #include "xsec/RegionSpaces.h"
 
 namespace xsec {
 
 namespace {
+
+using GeometryEngine::kFullTurn;
 
 constexpr double kCharacterWidth = 0.6;  // of the font size
 constexpr double kTextHeight = 1.0;      // of the font size, with what reaches above and below
@@ -48,7 +51,7 @@ double SizeToTouch(const Point& a, const Point& b, const HalfSides& half) {
 double SizeToTouch(const Loop& loop, const Point& label, const HalfSides& half) {
   double size = std::numeric_limits<double>::infinity();
   for (const TravelledPiece& piece : loop) {
-    const int chords = std::max(1, static_cast<int>(std::min(std::abs(piece.sweep), 360.0) / kChord));
+    const int chords = std::max(1, static_cast<int>(std::min(std::abs(piece.sweep), kFullTurn) / kChord));
     Point from = piece.from - label;
     for (int i = 1; i <= chords; ++i) {
       const Point to = (i == chords ? piece.to : PointAlong(piece, static_cast<double>(i) / chords)) - label;

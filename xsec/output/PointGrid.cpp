@@ -6,13 +6,9 @@ namespace xsec {
 
 namespace {
 
-Extents BoxAt(const Point& point) {
-  return {point.x, point.y, point.x, point.y};
-}
-
 Extents BoxOf(const std::vector<Point>& points) {
   Extents box = EmptyExtents();
-  for (const Point& point : points) Widen(box, BoxAt(point));
+  for (const Point& point : points) Widen(box, point);
   return box;
 }
 

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <optional>
 
+#include "GeometryEngine/host/Numerics.h"
 #include "xsec/Report.h"
 #include "xsec/Utf8.h"
 #include "xsec/output/FormattedText.h"
@@ -14,6 +15,8 @@
 namespace xsec {
 
 namespace {
+
+using GeometryEngine::kHalfTurn;
 
 // Lengths of the layout, in hundredths of the drawing's longer side.
 constexpr double kMargin = 3;
@@ -152,7 +155,7 @@ class SvgPicture : private FormattedText {
 
   void AddPieceTo(const TravelledPiece& piece) {
     if (!piece.isArc) return Add("L{:.10g} {:.10g}", piece.to.x, -piece.to.y);
-    Add("A{0:.10g} {0:.10g} 0 {1} {2} {3:.10g} {4:.10g}", piece.radius, std::abs(piece.sweep) > 180 ? 1 : 0,
+    Add("A{0:.10g} {0:.10g} 0 {1} {2} {3:.10g} {4:.10g}", piece.radius, std::abs(piece.sweep) > kHalfTurn ? 1 : 0,
         piece.sweep < 0 ? 1 : 0, piece.to.x, -piece.to.y);
   }
 

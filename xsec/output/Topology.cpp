@@ -13,6 +13,8 @@ namespace xsec {
 
 namespace {
 
+using GeometryEngine::kFullTurn;
+
 constexpr double kWholeParts =
     1e-9;  // an arc that exceeds so many parts by less than this share of one is not cut more
 
@@ -35,7 +37,7 @@ double ShareOf(const TravelledPiece& piece, const Point& point) {
   const double angle =
       std::atan2(point.y - piece.centre.y, point.x - piece.centre.x) * GeometryEngine::kDegreesPerRadian;
   const double turned = piece.sweep < 0 ? piece.startAngle - angle : angle - piece.startAngle;
-  return GeometryEngine::GetAngleInRange(turned, 0, 360) / std::abs(piece.sweep);
+  return GeometryEngine::GetAngleInRange(turned, 0, kFullTurn) / std::abs(piece.sweep);
 }
 
 class TopologyBuilder {
@@ -112,7 +114,7 @@ class TopologyBuilder {
     return cuts;
   }
 
-  bool IsAt(const Point& a, const Point& b) const { return std::hypot(a.x - b.x, a.y - b.y) <= fTolerance; }
+  bool IsAt(const Point& a, const Point& b) const { return Distance(a, b) <= fTolerance; }
 
   /// Adds the curves of a piece that no vertex cuts any more.
   void AddShort(const TravelledPiece& piece, CurveLoop& parts) {

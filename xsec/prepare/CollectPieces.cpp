@@ -46,7 +46,7 @@ class PieceCollector {
   bool LieOnEachOther(const TDXFEntity& a, const TDXFEntity& b, const Point& middle) const {
     const bool areEndsSame = (a.StartCoords == b.StartCoords && a.EndCoords == b.EndCoords) ||
                              (a.StartCoords == b.EndCoords && a.EndCoords == b.StartCoords);
-    return areEndsSame && DistanceOf(MidPoint(Travel(a, true)), middle) < fWork.tolerance;
+    return areEndsSame && Distance(MidPoint(Travel(a, true)), middle) < fWork.tolerance;
   }
 
   Preparation& fWork;

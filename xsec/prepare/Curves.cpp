@@ -10,23 +10,25 @@
 namespace xsec {
 
 using GeometryEngine::kDegreesPerRadian;
+using GeometryEngine::kFullTurn;
+using GeometryEngine::kHalfTurn;
 using GeometryEngine::kRadiansPerDegree;
 using GeometryEngine::TDXFEntity;
 
 namespace {
 
-constexpr double kHalfTurn = 180;        // degrees
 constexpr double kHalfTurnSlack = 1e-6;  // degrees that rounding may put to a half turn or take from it
 
 double AngleAt(const Point& centre, const Point& point) {
   const double angle = std::atan2(point.y - centre.y, point.x - centre.x) * kDegreesPerRadian;
-  return GeometryEngine::GetAngleInRange(angle, 0, 360);
+  return GeometryEngine::GetAngleInRange(angle, 0, kFullTurn);
 }
 
 /// Degrees beyond the arc's start; from half of what the arc leaves of its circle on, degrees before it.
 double AngleBeyondStart(const TDXFEntity& arc, const Point& point) {
-  const double beyond = GeometryEngine::GetAngleInRange(AngleAt(arc.CentreCoords, point) - arc.startAngle, 0, 360);
-  return beyond > (arc.ArcSweep() + 360) / 2 ? beyond - 360 : beyond;
+  const double beyond =
+      GeometryEngine::GetAngleInRange(AngleAt(arc.CentreCoords, point) - arc.startAngle, 0, kFullTurn);
+  return beyond > (arc.ArcSweep() + kFullTurn) / 2 ? beyond - kFullTurn : beyond;
 }
 
 /// An arc like this one through points beside it: of the same radius while the chord is short, else about the centre
@@ -34,28 +36,20 @@ double AngleBeyondStart(const TDXFEntity& arc, const Point& point) {
 TDXFEntity ArcThrough(const Point& start, const Point& end, const TDXFEntity& arc) {
   const Point chord = end - start;
   const Point middle = 0.5 * (start + end);
-  const double length = DistanceOf(start, end);
+  const double length = Distance(start, end);
   const Point left = {-chord.y / length, chord.x / length};
   const Point arm = arc.CentreCoords - middle;
   const double height =
       length < arc.radius ? std::sqrt(arc.radius * arc.radius - length * length / 4) : arm.x * left.x + arm.y * left.y;
   const Point centre = middle + height * left;
-  return ArcBetween(start, end, centre, DistanceOf(centre, start));
+  return ArcBetween(start, end, centre, Distance(centre, start));
 }
 
 }  // namespace
 
-bool IsSameBits(const Point& aFirst, const Point& aSecond) {
-  return aFirst.x == aSecond.x && aFirst.y == aSecond.y;
-}
-
 bool IsOnCurve(const TDXFEntity& aEntity, const Point& aEnd) {
   return !IsArc(aEntity) ||
-         GeometryEngine::ValuesSame_DXFTolerance(DistanceOf(aEntity.CentreCoords, aEnd), aEntity.radius);
-}
-
-double DistanceOf(const Point& aFirst, const Point& aSecond) {
-  return std::hypot(aFirst.x - aSecond.x, aFirst.y - aSecond.y);
+         GeometryEngine::ValuesSame_DXFTolerance(Distance(aEntity.CentreCoords, aEnd), aEntity.radius);
 }
 
 double PositionOf(const TDXFEntity& aEntity, const Point& aPoint) {

@@ -13,9 +13,6 @@ inline bool IsArc(const GeometryEngine::TDXFEntity& aEntity) {
   return aEntity.EntityType == GeometryEngine::DXFArc;
 }
 
-double DistanceOf(const Point& aFirst, const Point& aSecond);
-
-bool IsSameBits(const Point& aFirst, const Point& aSecond);
 /// Whether an end of the entity, or a point near the entity, is on an arc's circle, under the tolerance.
 bool IsOnCurve(const GeometryEngine::TDXFEntity& aEntity, const Point& aEnd);
 

@@ -11,6 +11,7 @@ namespace xsec {
 
 namespace {
 
+using GeometryEngine::kHalfTurn;
 using GeometryEngine::TDXFEntity;
 
 /// The line's ends and meetings in order along it.
@@ -39,7 +40,7 @@ bool IsUpright(const TDXFEntity& line, double tolerance) {
 double LeastGap(const std::vector<Point>& points) {
   double least = std::numeric_limits<double>::infinity();
   for (std::size_t i = 1; i < points.size(); ++i) {
-    if (points[i] != points[i - 1]) least = std::min(least, DistanceOf(points[i - 1], points[i]));
+    if (points[i] != points[i - 1]) least = std::min(least, Distance(points[i - 1], points[i]));
   }
   return least;
 }
@@ -61,8 +62,7 @@ class SteepCounts {
   static double Degrees(std::size_t turn) { return (static_cast<double>(turn) + kOffset) * kHalfTurn / kTurns; }
 
  private:
-  static constexpr double kHalfTurn = 180;  // degrees
-  static constexpr double kOffset = 0.37;   // of the way from turn to turn
+  static constexpr double kOffset = 0.37;  // of the way from turn to turn
 
   /// The line is upright in the middle of the turns in which neighbours on it are too close in x.
   void Add(const TDXFEntity& line, double gap, double tolerance) {

@@ -65,7 +65,7 @@ bool AreBoxesNear(const Extents& a, const Extents& b, double reach) {
 /// Circles that lie beside or within each other with more than the reach between.
 bool AreCirclesApart(const TravelledPiece& a, const TravelledPiece& b, double reach) {
   if (!a.isArc || !b.isArc) return false;
-  const double distance = std::hypot(a.centre.x - b.centre.x, a.centre.y - b.centre.y);
+  const double distance = Distance(a.centre, b.centre);
   return distance > a.radius + b.radius + reach || distance < std::abs(a.radius - b.radius) - reach;
 }
 

@@ -51,7 +51,7 @@ bool IsSameCircle(const TDXFEntity& a, const TDXFEntity& b) {
 CureKind KindOf(const TDXFEntity& a, const TDXFEntity& b) {
   if (!IsArc(a) || !IsArc(b)) return CureKind::Direction;
   const double rise = std::abs(a.CentreCoords.y - b.CentreCoords.y);
-  return rise <= kOneHeight * DistanceOf(a.CentreCoords, b.CentreCoords) ? CureKind::OneHeight : CureKind::Direction;
+  return rise <= kOneHeight * Distance(a.CentreCoords, b.CentreCoords) ? CureKind::OneHeight : CureKind::Direction;
 }
 
 bool AreSame(const std::vector<Point>& a, const std::vector<Point>& b) {
@@ -113,7 +113,7 @@ class MeetingFinder {
     for (const Point& point : points) {
       Meet(point);
       Cut(point);
-      length = std::max(length, DistanceOf(points.front(), point));
+      length = std::max(length, Distance(points.front(), point));
     }
     fWork.Report(CureKind::Overlap, points.front(), fPair.first, fPair.second, length);
     return true;

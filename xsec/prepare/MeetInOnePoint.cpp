@@ -28,9 +28,9 @@ void MeetInOnePoint(Preparation& aWork) {
     Point place;
     const auto middleFor = [&](const Point& point) {
       const Point middle = groups.MiddleFor(point);
-      if (DistanceOf(middle, point) > moved) {
+      if (Distance(middle, point) > moved) {
         place = middle;
-        moved = DistanceOf(middle, point);
+        moved = Distance(middle, point);
       }
       return middle;
     };

@@ -9,10 +9,12 @@ namespace xsec {
 
 namespace {
 
+using GeometryEngine::kFullTurn;
+
 constexpr double kNoPart = 1e-15;  // of a radius, by rounding
 
 double AngleTurned(double angle, double degrees) {
-  return degrees == 0 ? angle : GeometryEngine::GetAngleInRange(angle + degrees, 0, 360);
+  return degrees == 0 ? angle : GeometryEngine::GetAngleInRange(angle + degrees, 0, kFullTurn);
 }
 
 /// A sine or cosine, of a quarter turn without what rounding leaves.

@@ -14,6 +14,7 @@ namespace xsec {
 
 namespace {
 
+using GeometryEngine::kFullTurn;
 using GeometryEngine::TDXFEntity;
 
 /// A frame about a point near the pair, its x axis along a direction of length 1.
@@ -33,8 +34,8 @@ struct Frame {
     entity.StartCoords = Into(entity.StartCoords);
     entity.EndCoords = Into(entity.EndCoords);
     entity.CentreCoords = Into(entity.CentreCoords);
-    entity.startAngle = GeometryEngine::GetAngleInRange(entity.startAngle - turn, 0, 360);
-    entity.endAngle = GeometryEngine::GetAngleInRange(entity.endAngle - turn, 0, 360);
+    entity.startAngle = GeometryEngine::GetAngleInRange(entity.startAngle - turn, 0, kFullTurn);
+    entity.endAngle = GeometryEngine::GetAngleInRange(entity.endAngle - turn, 0, kFullTurn);
     return entity;
   }
 };

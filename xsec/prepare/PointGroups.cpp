@@ -12,7 +12,7 @@ constexpr double kGrainsInReach = 16;
 
 bool IsMetAt(const Part& part, const Point& end, double tolerance) {
   return std::any_of(part.meetings.begin(), part.meetings.end(),
-                     [&](const Point& meeting) { return DistanceOf(meeting, end) < tolerance; });
+                     [&](const Point& meeting) { return Distance(meeting, end) < tolerance; });
 }
 
 /// The points of a group, counted up.
@@ -21,7 +21,7 @@ struct Spread {
   Point sum;
   double toMiddle = 0;  ///< from the mean
 
-  double FromMean(const Point& point) const { return DistanceOf(1 / count * sum, point); }
+  double FromMean(const Point& point) const { return Distance(1 / count * sum, point); }
 };
 
 }  // namespace
@@ -53,7 +53,7 @@ void PointGroups::Add(const Point& aPoint) {
   fPlaces.push_back(aPoint);
   fFirsts.push_back(added);
   fSteps.Visit(aPoint, [&](std::size_t place) {
-    if (DistanceOf(fPlaces[place], aPoint) < fStep) Join(place, added);
+    if (Distance(fPlaces[place], aPoint) < fStep) Join(place, added);
     return false;
   });
   fGrains.Add(aPoint, added);
@@ -69,7 +69,7 @@ void PointGroups::Join(std::size_t aPlace, std::size_t aOther) {
 std::size_t PointGroups::PlaceOf(const Point& aPoint) const {
   std::size_t found = kNone;
   fGrains.Visit(aPoint, [&](std::size_t place) {
-    if (DistanceOf(fPlaces[place], aPoint) < fGrain) found = place;
+    if (Distance(fPlaces[place], aPoint) < fGrain) found = place;
     return found != kNone;
   });
   return found;

@@ -157,8 +157,7 @@ class GroupPreparer {
   /// that.
   Point PlaceOf(const BoxGroup& group) const {
     if (group.empty()) return {};
-    Extents box = EmptyExtents();
-    for (const std::size_t entity : group) Widen(box, fBoxes[entity]);
+    const Extents box = BoxOf(group, fBoxes);
     return {xsec::PlaceOf(box.minX, box.maxX), xsec::PlaceOf(box.minY, box.maxY)};
   }
 

@@ -55,7 +55,7 @@ void SetDoublesApart(Preparation& aWork) {
     const TDXFEntity& twin = part.geometry;
     aWork.doubles.push_back({part.source, model->second});
     aWork.cures.push_back({CureKind::Overlap, twin.StartCoords, kept[model->second].source, part.source,
-                           DistanceOf(twin.StartCoords, twin.EndCoords)});
+                           Distance(twin.StartCoords, twin.EndCoords)});
   }
   aWork.parts = std::move(kept);
 }

@@ -15,9 +15,10 @@ namespace xsec {
 
 namespace {
 
+using GeometryEngine::kFullTurn;
+using GeometryEngine::kHalfTurn;
 using GeometryEngine::TDXFEntity;
 
-constexpr double kHalfTurn = 180;    // degrees
 constexpr double kSideBySide = 60;   // degrees between two directions that chords may put in another order
 constexpr double kClearTurn = 1e-5;  // radians between chords that single precision tells apart without doubt
 constexpr std::array kGaps = {8., 4., 2., 1.2};  // tolerances by which first pieces part, from the safest to the least
@@ -33,7 +34,7 @@ struct HalfEdge {
 };
 
 double SignedTurn(double from, double to) {
-  return GeometryEngine::GetAngleInRange(to - from + kHalfTurn, 0, 2 * kHalfTurn) - kHalfTurn;
+  return GeometryEngine::GetAngleInRange(to - from + kHalfTurn, 0, kFullTurn) - kHalfTurn;
 }
 
 /// How two half-edges part: by an angle in radians at first, and by curvature further on.

@@ -11,10 +11,10 @@ namespace xsec {
 
 namespace {
 
+using GeometryEngine::kHalfTurn;
 using GeometryEngine::TDXFEntity;
 
 constexpr double kCloseToSeam = 10;  // degrees between a meeting and a seam that hide the order of turns
-constexpr double kHalfTurn = 180;    // degrees
 
 /// For each part that is the first half of a circle where others meet the circle, as directions modulo a half turn.
 class SeamTurner {

@@ -13,11 +13,11 @@ namespace {
 using GeometryEngine::TDXFEntity;
 
 bool IsSameCircle(const TDXFEntity& a, const TDXFEntity& b, double tolerance) {
-  return DistanceOf(a.CentreCoords, b.CentreCoords) < tolerance && std::abs(a.radius - b.radius) < tolerance;
+  return Distance(a.CentreCoords, b.CentreCoords) < tolerance && std::abs(a.radius - b.radius) < tolerance;
 }
 
 double Difference(const TDXFEntity& a, const TDXFEntity& b) {
-  return std::max(DistanceOf(a.CentreCoords, b.CentreCoords), std::abs(a.radius - b.radius));
+  return std::max(Distance(a.CentreCoords, b.CentreCoords), std::abs(a.radius - b.radius));
 }
 
 /// The first arc whose circle is the same, kNone when there is none yet.

@@ -66,7 +66,7 @@ class PointLookup {
   std::size_t ClosestTo(const Point& point) const {
     std::size_t closest = kNone;
     ForEachSame(point, [&](std::size_t i) {
-      const bool isCloser = closest == kNone || DistanceOf(fPoints[i], point) < DistanceOf(fPoints[closest], point);
+      const bool isCloser = closest == kNone || Distance(fPoints[i], point) < Distance(fPoints[closest], point);
       if (isCloser) closest = i;
     });
     return closest;
@@ -133,7 +133,7 @@ std::vector<Cure> PutVerticesBack(GeometryEngine::TEntityTree& aGraph, const std
     const Point& place = aPlaces[closest];
     if (IsSameBits(place, vertices[i]) || vertexLookup.CountAt(place) > 1) continue;
     MoveVertex(*aGraph.RootNode()->GetNode(GeometryEngine::ToIndex(i)), *aGraph.pEntityStorage(), place);
-    const double moved = DistanceOf(place, vertices[i]);
+    const double moved = Distance(place, vertices[i]);
     if (moved > kToldMove * aTolerance) cures.push_back({CureKind::Vertex, place, kNone, kNone, moved});
   }
   return cures;

@@ -29,7 +29,7 @@ Point DirectionAt(const TravelledPiece& piece, const Point& point) {
 }
 
 Point Nearer(const Point& a, const Point& b, const Point& near) {
-  return std::hypot(a.x - near.x, a.y - near.y) <= std::hypot(b.x - near.x, b.y - near.y) ? a : b;
+  return Distance(a, near) <= Distance(b, near) ? a : b;
 }
 
 /// Two points to both sides of the foot along a direction, as far as the square says.
@@ -45,14 +45,14 @@ std::optional<Point> LineWithCircle(const TravelledPiece& line, const TravelledP
   const Point on = Along(line.from, RightOf(direction), distance);
   const Point arm = on - arc.centre;
   const Point foot = Along(on, direction, -(arm.x * direction.x + arm.y * direction.y));
-  const double away = std::hypot(foot.x - arc.centre.x, foot.y - arc.centre.y);
+  const double away = Distance(foot, arc.centre);
   const double radius = OffsetRadius(arc, distance);
   return NearerOfTwo(foot, direction, radius * radius - away * away, near);
 }
 
 std::optional<Point> CircleWithCircle(const TravelledPiece& a, const TravelledPiece& b, double distance,
                                       const Point& near) {
-  const double gap = std::hypot(b.centre.x - a.centre.x, b.centre.y - a.centre.y);
+  const double gap = Distance(a.centre, b.centre);
   if (!(gap > 0)) return std::nullopt;
   const Point direction = Unit(b.centre - a.centre);
   const double radius = OffsetRadius(a, distance);

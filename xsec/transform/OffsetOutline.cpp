@@ -7,6 +7,7 @@
 
 #include "GeometryEngine/DXF_EntityStorage/TEntityStorage.h"
 #include "GeometryEngine/GeometryCreation_Drawing/EntityConstruction.h"
+#include "GeometryEngine/host/Numerics.h"
 #include "xsec/DrawingExtents.h"
 #include "xsec/RegionDetection.h"
 #include "xsec/output/Topology.h"
@@ -16,10 +17,10 @@ namespace xsec {
 
 namespace {
 
+using GeometryEngine::kHalfTurn;
 using GeometryEngine::TDXFEntity;
 
 constexpr double kLongestArc = 90;      // degrees
-constexpr double kHalfTurn = 180;       // degrees
 constexpr std::size_t kFewest = 3;      // pieces of a chain; two could be walked either way
 constexpr double kSameDistance = 1e-5;  // of the distance: what the library's chords and single precision leave
 
@@ -166,7 +167,7 @@ int WindingNumber(const Loop& aLoop, const Point& aPoint) {
     const double side = Cross(piece.to - piece.from, aPoint - piece.from);
     if (piece.from.y <= aPoint.y && aPoint.y < piece.to.y && side > 0) ++winding;
     if (piece.to.y <= aPoint.y && aPoint.y < piece.from.y && side < 0) --winding;
-    if (!piece.isArc || std::hypot(aPoint.x - piece.centre.x, aPoint.y - piece.centre.y) >= piece.radius) continue;
+    if (!piece.isArc || Distance(aPoint, piece.centre) >= piece.radius) continue;
     if (piece.sweep > 0 && side < 0) ++winding;
     if (piece.sweep < 0 && side > 0) --winding;
   }

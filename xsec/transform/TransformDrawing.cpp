@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "GeometryEngine/GeometryEngine_Entity_Operations/EntityTransforms.h"
+#include "GeometryEngine/host/Numerics.h"
 #include "xsec/BoxIndex.h"
 #include "xsec/DrawingExtents.h"
 #include "xsec/InnerPoint.h"
@@ -16,6 +17,8 @@
 namespace xsec {
 
 namespace {
+
+using GeometryEngine::kFullTurn;
 
 constexpr double kLongestArc = 90;  // degrees
 constexpr std::size_t kHeightsForInnerPoint = 5;
@@ -122,7 +125,7 @@ Drawing Mirrored(const Drawing& aDrawing, const Point& aFrom, const Point& aTo) 
 Drawing CopiedRound(const Drawing& aDrawing, std::size_t aCopies) {
   Drawing copied = aDrawing;
   for (std::size_t copy = 1; copy < aCopies; ++copy) {
-    const Drawing turned = Turned(aDrawing, 360.0 * static_cast<double>(copy) / static_cast<double>(aCopies));
+    const Drawing turned = Turned(aDrawing, kFullTurn * static_cast<double>(copy) / static_cast<double>(aCopies));
     copied.entities.insert(copied.entities.end(), turned.entities.begin(), turned.entities.end());
     copied.texts.insert(copied.texts.end(), turned.texts.begin(), turned.texts.end());
   }

@@ -9,16 +9,16 @@
 
 namespace GeometryEngine::detail {
 
-inline constexpr double kFullTurn = 4;  // in these numbers
-inline constexpr double kHalfTurn = 2;
+inline constexpr double kFullTurn_Direction = 4;  // in these numbers
+inline constexpr double kHalfTurn_Direction = 2;
 
 /// The direction of a vector as a number from 0 to 4 that grows with the angle from the x axis. Two directions differ
 /// by their angles in radians at most, and by at least half of that.
 /// DEGENERATE: not a number for the vector (0, 0), and where infinite components leave the angle to a convention.
 inline double GetDirection(double aX, double aY) {
   const double slope = aY / (std::abs(aX) + std::abs(aY));
-  if (aX < 0) return kHalfTurn - slope;
-  return slope < 0 ? kFullTurn + slope : slope;
+  if (aX < 0) return kHalfTurn_Direction - slope;
+  return slope < 0 ? kFullTurn_Direction + slope : slope;
 }
 
 /// A direction, and by how much it may be missed.

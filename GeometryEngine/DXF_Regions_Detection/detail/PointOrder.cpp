@@ -8,8 +8,6 @@ namespace GeometryEngine::detail {
 
 namespace {
 
-constexpr double kFullTurn = 360;  // degrees
-
 double GetSortAngle(double aAngle) {
   return ValuesSame_DXFAngle(aAngle, 0) ? 0 : GetAngleInRange(aAngle, 0, kFullTurn);
 }

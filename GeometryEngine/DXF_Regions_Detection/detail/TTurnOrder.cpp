@@ -54,10 +54,10 @@ bool TTurnOrder::IsClear(TIndex aArriving) {
 bool TTurnOrder::AreTurnsClear(TIndex aArriving) const {
   const double from = GetArrivingDirection(fGraph.HalfEdge(aArriving));
   const TIndex twin = fGraph.HalfEdge(aArriving).fTwin;
-  double previous = kFullTurn;
+  double previous = kFullTurn_Direction;
   for (TIndex h = Clockwise(twin); h != twin; h = Clockwise(h)) {
     const double difference = fLeaving[At(h)] - from;
-    const double turn = difference < 0 ? difference + kFullTurn : difference;
+    const double turn = difference < 0 ? difference + kFullTurn_Direction : difference;
     if (!(previous - turn > kClearDifference)) return false;
     previous = turn;
   }
@@ -102,7 +102,7 @@ bool TTurnOrder::FillRing_Roughly(TIndex aVertex) {
     fRing.push_back({direction->fDirection, direction->fSlack, h});
   }
   SortRing();
-  double next = fRing.front().fDirection - kFullTurn + fRing.front().fSlack;
+  double next = fRing.front().fDirection - kFullTurn_Direction + fRing.front().fSlack;
   for (std::size_t k = fRing.size(); k-- > 0;) {
     const auto& [direction, slack, halfEdge] = fRing[k];
     if (!(direction - slack - next > 2 * kRoughness)) return false;

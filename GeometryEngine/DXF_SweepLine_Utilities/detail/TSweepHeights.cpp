@@ -19,8 +19,6 @@ constexpr double kAngleRounding = 1e-9;          // degrees, well above the roun
 constexpr double kRounding = 1e-12;              // of the drawing's magnitude, well above the rounding of a point
 constexpr double kTangentReach = 0.001 / 4;      // drawing length squared: what a tangent line's discriminant allows
 constexpr double kDiscriminantRounding = 1e-13;  // of (magnitude times steepness) squared, see docs/numerics.md
-constexpr double kQuarterTurn = 90;
-constexpr double kFullTurn = 360;
 
 bool IsOrdinary(double aValue) {
   return std::abs(aValue) <= kFarthest;
