@@ -12,7 +12,8 @@ using GeometryEngine::TDXFEntity;
 /// Pieces that lie on an earlier one all along are one too many, and so are all those of doubles.
 class PieceCollector {
  public:
-  explicit PieceCollector(Preparation& work) : fWork(work), fMiddles(kReachInTolerances * work.tolerance) {}
+  explicit PieceCollector(Preparation& work)
+      : fWork(work), fMiddles(kReachInTolerances * work.tolerance, work.parts.size()) {}
 
   void TakeAll() {
     auto twin = fWork.doubles.begin();

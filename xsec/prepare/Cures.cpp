@@ -19,7 +19,7 @@ struct Wording {
 constexpr std::array<Wording, 11> kWordings = {{
     {"one-circle", "arcs of one circle: given one centre and radius"},
     {"seam", "circles: their two halves begin away from where others meet them"},
-    {"overlap", "entities that lie on each other in part: cut at each other's ends"},
+    {"overlap", "entities that lie on each other in part: cut where that begins and ends"},
     {"one-height", "arcs that cross with centres at one height: cut at their crossings"},
     {"direction", "pairs that meet otherwise when they are turned: cut where they meet"},
     {"one-point", "points closer together than the tolerance: made one where turning would not tell them apart"},

@@ -169,7 +169,7 @@ std::vector<Point> Distinct(const std::vector<Point>& points, double tolerance) 
     for (const Point& point : points) AddUnlessHeld(point, distinct);
     return distinct;
   }
-  PointCells cells(tolerance);
+  PointCells cells(tolerance, points.size());
   for (const Point& point : points) {
     if (cells.Visit(point, [&](std::size_t i) { return distinct[i] == point; })) continue;
     cells.Add(point, distinct.size());

@@ -16,7 +16,11 @@ namespace xsec {
 /// reach, along either axis, lie in at most four of them, and mostly in one.
 class PointCells {
  public:
-  explicit PointCells(double aReach) : fReach(aReach), fSide(8 * aReach) {}
+  /// Makes room for so many points; more may come.
+  explicit PointCells(double aReach, std::size_t aCount = 0) : fReach(aReach), fSide(8 * aReach) {
+    fThings.reserve(aCount);
+    fCells.reserve(aCount);
+  }
 
   void Add(const Point& aPoint, std::size_t aNumber) {
     const std::size_t added = fThings.size();

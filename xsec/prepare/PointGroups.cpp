@@ -27,7 +27,10 @@ struct Spread {
 }  // namespace
 
 PointGroups::PointGroups(const Preparation& aWork, double aReach)
-    : fGrain(aReach / kGrainsInReach), fStep(aReach + 2 * fGrain), fGrains(fGrain), fSteps(fStep) {
+    : fGrain(aReach / kGrainsInReach),
+      fStep(aReach + 2 * fGrain),
+      fGrains(fGrain, aWork.parts.size()),
+      fSteps(fStep, aWork.parts.size()) {
   for (const Part& part : aWork.parts) {
     for (const Point& end : {part.geometry.StartCoords, part.geometry.EndCoords}) {
       if (IsMetAt(part, end, aWork.tolerance)) Add(end);

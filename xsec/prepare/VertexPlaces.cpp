@@ -14,7 +14,7 @@ using GeometryEngine::TTreeNode;
 
 class PlaceCollector {
  public:
-  explicit PlaceCollector(double tolerance) : fKnown(tolerance) {}
+  PlaceCollector(double tolerance, std::size_t parts) : fKnown(tolerance, parts) {}
 
   void AddEnds(const TDXFEntity& geometry, std::size_t part) {
     for (const Point& end : {geometry.StartCoords, geometry.EndCoords}) Add(end, part);
@@ -58,7 +58,7 @@ class PlaceCollector {
 /// Points, looked up by what is the same as one of them.
 class PointLookup {
  public:
-  PointLookup(const std::vector<Point>& points, double tolerance) : fPoints(points), fCells(tolerance) {
+  PointLookup(const std::vector<Point>& points, double tolerance) : fPoints(points), fCells(tolerance, points.size()) {
     for (std::size_t i = 0; i < points.size(); ++i) fCells.Add(points[i], i);
   }
 
@@ -114,7 +114,7 @@ void MoveVertex(TTreeNode& vertex, GeometryEngine::TEntityStorage& pieces, const
 }  // namespace
 
 std::vector<MeetingPlace> FindPlaces(const Preparation& aWork) {
-  PlaceCollector places(aWork.tolerance);
+  PlaceCollector places(aWork.tolerance, aWork.parts.size());
   for (std::size_t i = 0; i < aWork.parts.size(); ++i) places.AddEnds(aWork.parts[i].geometry, i);
   for (std::size_t i = 0; i < aWork.parts.size(); ++i) places.AddMeetings(aWork.parts[i], i);
   return std::move(places).Result();
