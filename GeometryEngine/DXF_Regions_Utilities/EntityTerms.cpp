@@ -33,7 +33,7 @@ TEntityCoordinate GetCentroidTerm(const TEntityCoordinate& aFrom, const TEntityC
 /// Sweep in degrees by way of the part that is left out when the arc passes 0 degrees.
 double GetSweep_Segments(const TDXFEntity& aArc) {
   const auto [start, end] = detail::GetArcAngles(aArc);
-  return start > end ? 360 - (start - end) : end - start;
+  return start > end ? kFullTurn - (start - end) : end - start;
 }
 
 /// The radius on which the inner points of a fan of `n` triangles must lie for the fan to have the sector's area.

@@ -30,7 +30,7 @@ double GetArcInterceptAngle(const TEntityCoordinate& aPoint, const TDXFEntity& a
   if (aPoint == aArc.EndCoords) return aEndValue;
   const double dy = SnapOffset(aPoint.y - aArc.CentreCoords.y);
   const double dx = SnapOffset(aPoint.x - aArc.CentreCoords.x);
-  return GetAngleInRange(ArcTan2(dy, dx) * kDegreesPerRadian, 0, 360);
+  return GetAngleInRange(ArcTan2(dy, dx) * kDegreesPerRadian, 0, kFullTurn);
 }
 
 }  // namespace GeometryEngine

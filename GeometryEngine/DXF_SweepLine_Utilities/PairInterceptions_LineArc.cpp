@@ -63,7 +63,7 @@ bool IsOnLineAndArc(const TEntityCoordinate& aPoint, const TDXFEntity& aLine, co
   if (aPoint.x > maxX && !detail::AreSame(aPoint.x, maxX, tolerance)) return false;
   if (!PointOnLine(aLine, aPoint)) return false;
   const TEntityCoordinate offset = aPoint - aArc.CentreCoords;
-  const double angle = GetAngleInRange(ArcTan2(offset.y, offset.x) * kDegreesPerRadian, 0, 360);
+  const double angle = GetAngleInRange(ArcTan2(offset.y, offset.x) * kDegreesPerRadian, 0, kFullTurn);
   return detail::IsAngleOnArc(angle, detail::GetArcAngles(aArc));
 }
 

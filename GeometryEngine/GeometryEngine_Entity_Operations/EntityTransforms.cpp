@@ -12,7 +12,7 @@ namespace GeometryEngine {
 namespace {
 
 double GetAngleAboutCentre(const TEntityCoordinate& aPoint, const TDXFEntity& aArc) {
-  return GetAngleInRange(GetCoordinateAngle_AboutPoint(aPoint, aArc.CentreCoords), 0, 360);
+  return GetAngleInRange(GetCoordinateAngle_AboutPoint(aPoint, aArc.CentreCoords), 0, kFullTurn);
 }
 
 /// Takes an arc's angles from its end points, in 0 to 360.

@@ -37,7 +37,7 @@ double IsPointLeft_Line(const TEntityCoordinate& aPoint, const TEntityCoordinate
 bool IsPointInside_Arc(const TEntityCoordinate& aPoint, const TDXFEntity& aEntity) {
   const TEntityCoordinate offset = aPoint - aEntity.CentreCoords;
   if (!(std::abs(XY_To_RT(offset.x, offset.y).r) < aEntity.radius)) return false;
-  if (!(aEntity.ArcSweep() > 180) && !(IsPointLeft_Line(aPoint, aEntity.StartCoords, aEntity.EndCoords) <= 0))
+  if (!(aEntity.ArcSweep() > kHalfTurn) && !(IsPointLeft_Line(aPoint, aEntity.StartCoords, aEntity.EndCoords) <= 0))
     return false;
   return PointWithinArcSweep(aPoint, aEntity);
 }
@@ -67,10 +67,10 @@ bool PointWithinArcSweep(const TEntityCoordinate& aPoint, const TDXFEntity& aEnt
 }
 
 bool AngleWithinArcSweep(double aAngle, const TDXFEntity& aEntity) {
-  const double a = GetAngleInRange(aAngle, 0, 360);
+  const double a = GetAngleInRange(aAngle, 0, kFullTurn);
   const auto [s, e] = detail::GetArcAngles(aEntity);
   if (s > e)
-    return (ValuesMoreThanOrEqual_DXFAngle(a, s) && a < 360) || (ValuesLessThanOrEqual_DXFAngle(a, e) && a >= 0);
+    return (ValuesMoreThanOrEqual_DXFAngle(a, s) && a < kFullTurn) || (ValuesLessThanOrEqual_DXFAngle(a, e) && a >= 0);
   return ValuesLessThanOrEqual_DXFAngle(s, a) && ValuesMoreThanOrEqual_DXFAngle(e, a);
 }
 

@@ -73,14 +73,14 @@ class TArcWalk {
     const double to = std::asin(std::min(high, 1.0)) * kDegreesPerRadian + kAngleSlack;
     TRanges ranges;
     AddRanges(from, to, ranges);
-    AddRanges(180 - to, 180 - from, ranges);
+    AddRanges(kHalfTurn - to, kHalfTurn - from, ranges);
     return SumUpOnce(ranges);
   }
 
   // More than the rounding of a chord's end, of the height and of their comparison together.
   double Slack() const {
     constexpr double kRounding = 16 * std::numeric_limits<double>::epsilon();
-    const double turned = (std::abs(fStartAngle) + 360) * kRadiansPerDegree;
+    const double turned = (std::abs(fStartAngle) + kFullTurn) * kRadiansPerDegree;
     return kRounding * (fArc.radius * (1 + turned) + std::abs(fArc.CentreCoords.y) + std::abs(fPoint.y) + Lift());
   }
 
@@ -97,7 +97,7 @@ class TArcWalk {
     const bool anticlockwise = fDirection == Travel_AntiClockwise;
     const double first = (anticlockwise ? aFrom - fStartAngle : fStartAngle - aTo) / fSegments.aStep;
     const double last = (anticlockwise ? aTo - fStartAngle : fStartAngle - aFrom) / fSegments.aStep;
-    const double turn = 360 / fSegments.aStep;
+    const double turn = kFullTurn / fSegments.aStep;
     for (double k = std::floor((-2 - last) / turn); first + k * turn <= fSegments.aCount + 2.0; ++k) {
       const std::int32_t begin = ToInteger_Saturated(std::floor(first + k * turn) - 2);
       const std::int32_t end = ToInteger_Saturated(std::floor(last + k * turn) + 2);

@@ -14,6 +14,7 @@
 #include "GeometryEngine/GeometryEngine_Plane/TPlane.h"
 #include "GeometryEngine/GeometryEngine_Tree_MotorProperties/TTreeNode_CoreProperties.h"
 #include "GeometryEngine/Pole_Inaccessibility/PoleSearch.h"
+#include "GeometryEngine/host/Numerics.h"
 
 namespace GeometryEngine {
 
@@ -232,7 +233,7 @@ class GEOMETRYENGINE_API TTreeNode_Geometry : public TTreeNode_CoreProperties {
   TEntityCoordinate fCentroid;
   double fRegionArea_Base = 0;
   std::int32_t fNumDuplications = 1;
-  double fDuplicationAngle = 360;
+  double fDuplicationAngle = kFullTurn;
   bool fOnBoundary = false;
   bool fSingularRegion = false;
   bool fFitToParent = false;

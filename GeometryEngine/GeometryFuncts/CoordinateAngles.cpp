@@ -11,7 +11,7 @@ TEntityCoordinate RT_To_XY_Coordinate(double r, double t) {
 
 double GetCoordinateAngle(const TEntityCoordinate& aCoordinate) {
   const double angle = ArcTan2(aCoordinate.y, aCoordinate.x) * kDegreesPerRadian;
-  return angle > 180 ? -(360 - angle) : angle;
+  return angle > kHalfTurn ? -(kFullTurn - angle) : angle;
 }
 
 double GetCoordinateAngle_AboutPoint(const TEntityCoordinate& aCoordinate, const TEntityCoordinate& aPoint) {

@@ -10,6 +10,7 @@
 #include "GeometryEngine/GeometryFuncts/detail/CirclePoint.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/ArcWalking.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ArcAngles.h"
+#include "GeometryEngine/host/Numerics.h"
 
 namespace GeometryEngine::detail {
 
@@ -66,7 +67,7 @@ struct TDirections {
 bool RunsThrough(const TDirections& aArc, double aDirection, double aSlack) {
   const double turn = aDirection - aArc.fStart;
   const double sweep = aArc.fSweep + aSlack;
-  return (turn >= -aSlack && turn <= sweep) || turn + 360 <= sweep;
+  return (turn >= -aSlack && turn <= sweep) || turn + kFullTurn <= sweep;
 }
 
 // Walks along a region and gathers where it may count.

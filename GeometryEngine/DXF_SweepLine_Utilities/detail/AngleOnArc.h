@@ -2,6 +2,7 @@
 
 #include "GeometryEngine/DXF_Entity_Types/Tolerances.h"
 #include "GeometryEngine/GetFunctions_GeometryOperations/detail/ArcAngles.h"
+#include "GeometryEngine/host/Numerics.h"
 
 namespace GeometryEngine::detail {
 
@@ -15,7 +16,7 @@ inline bool IsAngleOnArc(double aAngle, const TArcAngles& aArc) {
   if (!(s > e)) return isFromStart && (!(a > e) || ValuesSame_DXFAngle(a, e));
   // KEPT: the start, not the angle, is held against 360. A direction in range is always below 360, so the start decides
   // only for a host whose ranges include their upper end.
-  if (isFromStart && (a < 360 || ValuesSame_DXFAngle(s, 360))) return true;
+  if (isFromStart && (a < kFullTurn || ValuesSame_DXFAngle(s, kFullTurn))) return true;
   return (a > 0 || ValuesSame_DXFAngle(a, 0)) && (a < e || ValuesSame_DXFAngle(a, e));
 }
 

@@ -15,7 +15,7 @@ constexpr double kRounding = 1e-10;    // no unit; above what that slack, square
 
 // Whether a way from one direction up to another passes a third, in whichever turn, or all but does.
 bool Passes(double aLow, double aHigh, double aDirection) {
-  const double turn = GetAngleInRange(aDirection - aLow + kAngleSlack, 0, 360);
+  const double turn = GetAngleInRange(aDirection - aLow + kAngleSlack, 0, kFullTurn);
   return turn <= aHigh - aLow + 2 * kAngleSlack;
 }
 

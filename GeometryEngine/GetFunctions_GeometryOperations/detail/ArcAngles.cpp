@@ -5,7 +5,7 @@
 namespace GeometryEngine::detail {
 
 TArcAngles GetArcAngles(const TDXFEntity& aArc) {
-  return {GetAngleInRange(aArc.startAngle, 0, 360), GetAngleInRange(aArc.endAngle, 0, 360)};
+  return {GetAngleInRange(aArc.startAngle, 0, kFullTurn), GetAngleInRange(aArc.endAngle, 0, kFullTurn)};
 }
 
 }  // namespace GeometryEngine::detail
