@@ -16,6 +16,7 @@
 #include <sstream>
 #include <thread>
 #include <utility>
+#include <vector>
 
 #include <gmock/gmock.h>
 
@@ -433,19 +434,31 @@ TEST_F(Xsec, LimitsOfTheDrawingAreOptions) {
   EXPECT_THAT(fStderr, HasSubstr("--max-entities 0: expected a number from 1 to "));
 }
 
+/// Starts xsec as a terminal would, which ignores no signal: whoever runs the tests in the background may. What it
+/// tells goes to a file.
+pid_t StartXsec(const std::vector<std::string>& arguments, const std::string& messages) {
+  std::vector<char*> pointers;
+  for (const std::string& argument : arguments) pointers.push_back(const_cast<char*>(argument.c_str()));
+  pointers.push_back(nullptr);
+  const pid_t child = ::fork();
+  if (child != 0) return child;
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) std::signal(signal, SIG_DFL);
+  const rlimit noCore{0, 0};
+  ::setrlimit(RLIMIT_CORE, &noCore);
+  if (std::freopen("/dev/null", "w", stdout) && std::freopen(messages.c_str(), "w", stderr)) {
+    ::execv(XSEC_PROGRAM, pointers.data());
+  }
+  ::_exit(99);
+}
+
 TEST_F(Xsec, InterruptLeavesWholeFilesOrNone) {
   const std::string drawing = Drawing(DxfOf(Grid(20)));
   bool isIsolated = false;
   for (int milliseconds = 1; milliseconds < 1000; milliseconds = milliseconds * 5 / 4 + 1, isIsolated = !isIsolated) {
-    const pid_t child = ::fork();
+    std::vector<std::string> arguments{"xsec", "regions", drawing, "-o", Out("a.json")};
+    if (isIsolated) arguments.emplace_back("--isolate");
+    const pid_t child = StartXsec(arguments, "/dev/null");
     ASSERT_GE(child, 0);
-    if (child == 0) {
-      const std::string null = "/dev/null";
-      if (!std::freopen(null.c_str(), "w", stdout) || !std::freopen(null.c_str(), "w", stderr)) ::_exit(99);
-      ::execl(XSEC_PROGRAM, "xsec", "regions", drawing.c_str(), "-o", Out("a.json").c_str(),
-              isIsolated ? "--isolate" : nullptr, nullptr);
-      ::_exit(99);
-    }
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
     ::kill(child, SIGINT);
     int status = 0;
@@ -465,17 +478,8 @@ class XsecApart : public Xsec {
     Xsec::SetUp();
     const std::string pipe = (fFolder / "in" / "pipe.dxf").string();
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
-    fProgram = ::fork();
+    fProgram = StartXsec({"xsec", "regions", pipe, "--isolate", "-o", Out("a.json")}, fFolder / "stderr");
     ASSERT_GE(fProgram, 0);
-    if (fProgram == 0) {
-      const rlimit noCore{0, 0};
-      ::setrlimit(RLIMIT_CORE, &noCore);
-      if (!std::freopen("/dev/null", "w", stdout) || !std::freopen((fFolder / "stderr").c_str(), "w", stderr)) {
-        ::_exit(99);
-      }
-      ::execl(XSEC_PROGRAM, "xsec", "regions", pipe.c_str(), "--isolate", "-o", Out("a.json").c_str(), nullptr);
-      ::_exit(99);
-    }
     fPipe = ::open(pipe.c_str(), O_WRONLY | O_CLOEXEC);  // waits until the drawing is opened
     ASSERT_GE(fPipe, 0);
     fWorker = ChildOf(fProgram);
