@@ -7,6 +7,27 @@
 
 namespace xsec {
 
+namespace {
+
+std::string FaultOf(const std::string& command) {
+  if (command.empty()) return "no command is given";
+  return command + (command.starts_with("-") ? ": a command has to come first" : ": unknown command");
+}
+
+/// What the parser would only call a subcommand that is missing.
+void CheckCommand(const CLI::App& app, int count, const char* const* arguments) {
+  const std::string command = count > 1 ? arguments[1] : "";
+  if (!command.empty() && app.get_option_no_throw(command) != nullptr) return;
+  std::string known;
+  for (const CLI::App* each : app.get_subcommands([](const CLI::App*) { return true; })) {
+    if (each->get_name() == command) return;
+    known += (known.empty() ? "" : ", ") + each->get_name();
+  }
+  throw UsageError(FaultOf(command) + "; known are " + known);
+}
+
+}  // namespace
+
 Command Command::InGroup(const char* aGroup) const {
   Command command = *this;
   command.fGroup = aGroup;
@@ -66,6 +87,7 @@ Command CommandLine::AddCommand(const char* aName, const char* aDescription, con
 }
 
 Action CommandLine::Parse(int aCount, const char* const* aArguments) {
+  CheckCommand(*fApp, aCount, aArguments);
   try {
     fApp->parse(aCount, aArguments);
   } catch (const CLI::Success& success) {

@@ -31,7 +31,7 @@ struct CheckOptions {
 };
 
 ExitCode RunCheck(const CheckOptions& options) {
-  CheckOutputs(options.outputs);
+  CheckOutputs(options.outputs, {options.drawing.path});
   const Progress progress;
   progress.Show("reading " + options.drawing.path);
   const Drawing drawing = LoadDrawing(options.drawing);

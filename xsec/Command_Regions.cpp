@@ -35,7 +35,7 @@ struct RegionsOptions {
 };
 
 ExitCode RunRegions(const RegionsOptions& options) {
-  CheckOutputs(options.outputs);
+  CheckOutputs(options.outputs, {options.drawing.path, options.search.rules});
   const SearchRequest request = LoadRequest(options.search);
   const Progress progress;
   progress.Show("reading " + options.drawing.path);

@@ -81,7 +81,7 @@ Drawing Transformed(const TransformOptions& options, const SearchRequest& reques
 }
 
 ExitCode RunTransform(const TransformOptions& options) {
-  CheckOutputs(options.outputs);
+  CheckOutputs(options.outputs, {options.drawing.path, options.search.rules});
   const SearchRequest request = LoadRequest(options.search);
   const Progress progress;
   progress.Show("reading " + options.drawing.path);

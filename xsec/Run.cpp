@@ -38,6 +38,7 @@ ExitCode AnswerToException() {
 }  // namespace
 
 ExitCode Run(int aCount, const char* const* aArguments) {
+  OccupyClosedStreams();
   try {
     const Action action = ParseArguments(aCount, aArguments);
     return action ? action() : ExitCode::Fine;

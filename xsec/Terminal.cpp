@@ -1,5 +1,6 @@
 #include "xsec/Terminal.h"
 
+#include <fcntl.h>
 #include <fmt/format.h>
 #include <unistd.h>
 
@@ -13,6 +14,10 @@
 namespace xsec {
 
 namespace {
+
+void WriteToStandardError(const std::string& text) {
+  std::fwrite(text.data(), 1, text.size(), stderr);
+}
 
 bool StandardErrorIsTerminal() {
   const char* kind = std::getenv("TERM");
@@ -30,16 +35,23 @@ bool StandardErrorHasColours() {
 Progress::Progress() : fShown(StandardErrorIsTerminal()) {}
 
 void Progress::Show(std::string_view aDoing) const {
-  if (fShown) fmt::print(stderr, "\r\033[K{} ...", aDoing);
+  if (fShown) WriteToStandardError(fmt::format("\r\033[K{} ...", aDoing));
 }
 
 void Progress::Clear() const {
-  if (fShown) fmt::print(stderr, "\r\033[K");
+  if (fShown) WriteToStandardError("\r\033[K");
+}
+
+void OccupyClosedStreams() {
+  for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+    if (::fcntl(stream, F_GETFD) >= 0) continue;
+    ::open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);  // takes the lowest number that is free
+  }
 }
 
 void Tell(std::string_view aLine) {
   const bool isColoured = aLine.starts_with("warning") && StandardErrorHasColours();
-  fmt::print(stderr, "xsec: {}{}{}\n", isColoured ? "\033[33m" : "", aLine, isColoured ? "\033[0m" : "");
+  WriteToStandardError(fmt::format("xsec: {}{}{}\n", isColoured ? "\033[33m" : "", aLine, isColoured ? "\033[0m" : ""));
 }
 
 void PrintToStandardOutput(const std::string& aText) {

@@ -23,7 +23,12 @@ class Progress {
   bool fShown;
 };
 
-/// A line to standard error. On a terminal a warning is coloured, unless NO_COLOR is set.
+/// Takes the places of standard streams that are closed, so that no file of the run's takes them and is written into.
+/// They can be written to as little as before.
+void OccupyClosedStreams();
+
+/// A line to standard error. On a terminal a warning is coloured, unless NO_COLOR is set. Where it can't be written,
+/// the work goes on without it.
 void Tell(std::string_view aLine);
 
 /// Throws OutputError when not all of it could be written.

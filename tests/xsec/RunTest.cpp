@@ -121,6 +121,62 @@ TEST_F(Xsec, WritesWhatIsAskedForAndPrintsTheTable) {
   EXPECT_THAT(fStderr, HasSubstr("linear tolerance 1.41421e-05 mm"));
 }
 
+TEST_F(Xsec, FilesThatAreReadAreNotWrittenOver) {
+  const std::string text = DxfOf(Square(0, 0, 10));
+  const std::string drawing = Drawing(text);
+  fs::create_symlink(drawing, Out("link.dxf"));
+  for (const std::string command : {"regions", "check", "transform --rotate 90"}) {
+    for (const std::string& output : {drawing, Out("../in/drawing.dxf"), Out("link.dxf")}) {
+      EXPECT_EQ(RunXsec(command + " " + drawing + " -o " + output), 2);
+      EXPECT_THAT(fStderr, HasSubstr("-o " + output + ": this file is read; name another one"));
+    }
+  }
+  const std::string rules = Drawing("rules.json", "{\"rules\": []}");
+  EXPECT_EQ(RunXsec("regions " + drawing + " --rules " + rules + " -o " + rules), 2);
+  EXPECT_EQ(ReadFile(drawing), text);
+  EXPECT_EQ(ReadFile(rules), "{\"rules\": []}");
+}
+
+TEST_F(Xsec, StandardErrorThatTakesNothingChangesNothingElse) {
+  const std::string arguments = "regions " + Drawing(DxfOf(Square(0, 0, 10))) + " -o " + Out("a.json");
+  EXPECT_EQ(RunXsec(arguments), 0);
+  const std::string table = fStdout;
+  const std::string json = ReadFile(Out("a.json"));
+  for (const char* errors : {"/dev/full", "&-"}) {
+    EXPECT_EQ(std::system(("'" XSEC_PROGRAM "' " + arguments + " >" + Out("table") + " 2>" + errors).c_str()), 0);
+    EXPECT_EQ(ReadFile(Out("table")), table);
+    EXPECT_EQ(ReadFile(Out("a.json")), json);
+  }
+}
+
+TEST_F(Xsec, StandardOutputThatTakesNothingIsTold) {
+  const std::string drawing = Drawing(DxfOf(Square(0, 0, 10)));
+  for (const char* output : {"/dev/full", "&-"}) {
+    const std::string told = Out("told");
+    const int status =
+        std::system(("'" XSEC_PROGRAM "' regions " + drawing + " >" + output + " 2>" + told + " <&-").c_str());
+    EXPECT_EQ(WEXITSTATUS(status), 4);
+    EXPECT_THAT(ReadFile(told), HasSubstr("xsec: standard output: "));
+  }
+}
+
+TEST_F(Xsec, FolderThatIsGoneTakesNoOutput) {
+  const std::string drawing = Drawing(DxfOf(Square(0, 0, 10)));
+  EXPECT_EQ(RunXsec("regions " + drawing + " -o a.svg", "cd " + Out("") + "; rmdir " + Out("") + ";"), 4);
+  EXPECT_THAT(fStderr, HasSubstr("a.svg: its folder does not exist"));
+  fs::create_directory(fFolder / "out");
+}
+
+TEST_F(Xsec, CommandThatThereIsNotIsToldWithThoseThatThereAre) {
+  EXPECT_EQ(RunXsec("region a.dxf"), 2);
+  EXPECT_THAT(fStderr, HasSubstr("xsec: region: unknown command; known are "));
+  EXPECT_THAT(fStderr, HasSubstr("regions"));
+  EXPECT_EQ(RunXsec("--tol 1 regions a.dxf"), 2);
+  EXPECT_THAT(fStderr, HasSubstr("xsec: --tol: a command has to come first; known are "));
+  EXPECT_EQ(RunXsec(""), 2);
+  EXPECT_THAT(fStderr, HasSubstr("xsec: no command is given; known are "));
+}
+
 TEST_F(Xsec, ReplacesAFormerResultAndKeepsALinkALink) {
   const std::string drawing = Drawing(DxfOf(Square(0, 0, 10)));
   std::ofstream(Out("real.json")) << "old";

@@ -13,6 +13,7 @@
 
 #include "xsec/Errors.h"
 #include "xsec/HeldSignals.h"
+#include "xsec/LetterCase.h"
 
 namespace xsec {
 
@@ -33,12 +34,6 @@ constexpr std::array<Format, 6> kFormats = {{{".svg", &SvgText},
                                              {".fem", &FemText}}};
 constexpr int kTemporaryNames = 100;
 
-std::string LowerCase(std::string text) {
-  std::transform(text.begin(), text.end(), text.begin(),
-                 [](char c) { return 'A' <= c && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-  return text;
-}
-
 std::string Suffixes() {
   std::string names;
   for (const Format& format : kFormats) names += (names.empty() ? "" : ", ") + std::string(format.suffix);
@@ -46,9 +41,9 @@ std::string Suffixes() {
 }
 
 const Format& FindFormat(const std::string& path) {
-  const std::string suffix = LowerCase(fs::path(path).extension().string());
+  const std::string suffix = fs::path(path).extension().string();
   const auto format =
-      std::find_if(kFormats.begin(), kFormats.end(), [&](const Format& f) { return f.suffix == suffix; });
+      std::find_if(kFormats.begin(), kFormats.end(), [&](const Format& f) { return IsSameName(f.suffix, suffix); });
   if (format == kFormats.end()) {
     throw UsageError(fmt::format("-o {}: unknown suffix \"{}\"; known are {}", path, suffix, Suffixes()));
   }
@@ -60,6 +55,18 @@ fs::path PlaceOf(const std::string& path) {
   std::error_code error;
   const fs::path real = fs::canonical(path, error);
   return error ? fs::path(path) : real;
+}
+
+/// As it is where nobody knows the folder that it counts from.
+fs::path Absolute(const fs::path& path) {
+  std::error_code error;
+  const fs::path absolute = fs::absolute(path, error);
+  return error ? path : absolute;
+}
+
+bool AreOneFile(const std::string& path, const std::string& other) {
+  std::error_code error;
+  return !other.empty() && fs::equivalent(path, other, error);
 }
 
 /// A name beside the place that no other process takes.
@@ -122,7 +129,7 @@ std::vector<Output> FindOutputs(const std::vector<std::string>& aPaths) {
   std::vector<fs::path> known;
   for (const std::string& path : aPaths) {
     const Format& format = FindFormat(path);
-    const fs::path normal = fs::absolute(path).lexically_normal();
+    const fs::path normal = Absolute(path).lexically_normal();
     if (std::find(known.begin(), known.end(), normal) != known.end()) {
       throw UsageError(fmt::format("-o {}: given twice", path));
     }
@@ -132,10 +139,14 @@ std::vector<Output> FindOutputs(const std::vector<std::string>& aPaths) {
   return outputs;
 }
 
-void CheckOutputs(const std::vector<Output>& aOutputs) {
+void CheckOutputs(const std::vector<Output>& aOutputs, const std::vector<std::string>& aInputs) {
   for (const Output& output : aOutputs) {
     std::error_code error;
-    const fs::path folder = fs::absolute(output.path).parent_path();
+    const fs::path folder = Absolute(output.path).parent_path();
+    for (const std::string& input : aInputs) {
+      if (!AreOneFile(output.path, input)) continue;
+      throw UsageError(fmt::format("-o {}: this file is read; name another one, it would be lost", output.path));
+    }
     if (fs::is_directory(output.path, error)) throw OutputError(output.path, "is a folder");
     if (!fs::is_directory(folder, error)) throw OutputError(output.path, "its folder does not exist");
     if (::access(folder.c_str(), W_OK | X_OK) != 0) throw OutputError(output.path, std::strerror(errno));

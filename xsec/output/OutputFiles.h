@@ -20,8 +20,9 @@ struct Output {
 /// twice.
 std::vector<Output> FindOutputs(const std::vector<std::string>& aPaths);
 
-/// Throws OutputError when a file of that name can plainly not be made, so that nobody waits for a result in vain.
-void CheckOutputs(const std::vector<Output>& aOutputs);
+/// Throws OutputError when a file of that name can plainly not be made, so that nobody waits for a result in vain, and
+/// UsageError when it would replace one of the files that are read. Inputs without a name are none.
+void CheckOutputs(const std::vector<Output>& aOutputs, const std::vector<std::string>& aInputs);
 
 /// Writes every file under a name of its own beside the target and then moves them all into place. Throws OutputError;
 /// no temporary file stays behind. Interrupts wait until the moves are done.
