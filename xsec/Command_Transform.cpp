@@ -56,13 +56,30 @@ std::pair<Point, Point> MirrorLine(const std::string& text) {
   return {{numbers[0], numbers[1]}, {numbers[2], numbers[3]}};
 }
 
-double CheckedOffset(double offset, const Settings& settings) {
+/// Far more than the drawing's size leaves the result too few digits for what was drawn.
+double CheckedOffset(double offset, const Settings& settings, const Drawing& drawing) {
   constexpr double kLeastTolerances = 4;
-  if (std::isfinite(offset) && std::abs(offset) >= kLeastTolerances * settings.tolerance) return offset;
+  constexpr double kMostSizes = 1000;
+  const double most = kMostSizes * Diagonal(drawing.extents);
+  if (!(std::abs(offset) <= most)) {
+    throw UsageError(
+        fmt::format("--offset {}: more than {} times the size of the drawing; give a distance of at most {:.6g} mm",
+                    offset, kMostSizes, most));
+  }
+  if (std::abs(offset) >= kLeastTolerances * settings.tolerance) return offset;
   throw UsageError(
       fmt::format("--offset {}: too close to the tolerance of {:.6g} mm; give a distance of at least {:.6g} mm, or "
                   "a smaller --tol",
                   offset, settings.tolerance, kLeastTolerances * settings.tolerance));
+}
+
+void CheckRange(const Drawing& drawing) {
+  for (const DrawingEntity& entity : drawing.entities) {
+    const auto& shape = entity.geometry;
+    if (IsInRange(shape.StartCoords) && IsInRange(shape.EndCoords) && IsInRange(shape.CentreCoords)) continue;
+    throw UsageError(
+        fmt::format("transform: the result reaches farther than {} mm from the origin", kLargestCoordinate));
+  }
 }
 
 void CheckOneIsAsked(const TransformOptions& options) {
@@ -76,7 +93,7 @@ Drawing Transformed(const TransformOptions& options, const SearchRequest& reques
   if (options.rotate) return Turned(drawing, *options.rotate);
   if (options.copies > 0) return CopiedRound(drawing, options.copies);
   const Settings settings = ApplySettings(options.drawing.settings, drawing);
-  const double distance = CheckedOffset(*options.offset, settings);
+  const double distance = CheckedOffset(*options.offset, settings, drawing);
   return Offset(drawing, FindRegions(drawing, settings, request).regions, distance, settings);
 }
 
@@ -88,6 +105,7 @@ ExitCode RunTransform(const TransformOptions& options) {
   const Drawing source = LoadDrawing(options.drawing);
   progress.Show("transforming");
   const Drawing drawing = Transformed(options, request, source);
+  CheckRange(drawing);
   const Settings settings = ApplySettings(options.drawing.settings, drawing);
   progress.Show("finding the regions of the result");
   const Detection detection = FindRegions(drawing, settings, request);

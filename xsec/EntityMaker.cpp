@@ -31,10 +31,6 @@ constexpr const char* kNoRadius = "its radius is not above 0";
 constexpr const char* kTooFar = "its coordinates are out of range";
 constexpr const char* kTooFewVertices = "it has fewer than two different vertices";
 
-bool IsFinite(const Point& point) {
-  return std::isfinite(point.x) && std::isfinite(point.y);
-}
-
 double Normalised(double degrees) {
   return GeometryEngine::GetAngleInRange(degrees, 0, kFullTurn);
 }
@@ -139,7 +135,7 @@ void EntityMaker::MakeShape(const SourceInsert& /*aShape*/, const Affine& /*aMap
 
 void EntityMaker::MakeShape(const SourceText& aShape, const Affine& aMap) {
   const Point place = aMap.Apply(aShape.place);
-  if (!IsFinite(place)) return SkipThis(kTooFar);
+  if (!IsInRange(place)) return SkipThis(kTooFar);
   fDrawing.texts.push_back({place.x, place.y, aShape.text, fTemplate.layer, fTemplate.line});
 }
 
@@ -209,7 +205,7 @@ void EntityMaker::AddBulge(const Point& aFrom, const Point& aTo, double aBulge) 
   const auto addPart = [&](const Point& start, const Point& end) {
     Add(GeometryEngine::CreateEntity_Arc_StartEnd(centre.x, centre.y, start.x, start.y, end.x, end.y));
   };
-  if (!IsFinite(centre)) {
+  if (!IsInRange(centre)) {
     SkipThis(kTooFar);
   } else if (aBulge <= 1) {
     addPart(aFrom, aTo);
@@ -221,7 +217,7 @@ void EntityMaker::AddBulge(const Point& aFrom, const Point& aTo, double aBulge) 
 }
 
 void EntityMaker::AddArc(const Point& aCentre, double aRadius, double aStart, double aSweep) {
-  if (!IsFinite(aCentre) || !std::isfinite(aRadius)) {
+  if (!IsInRange(aCentre) || !(aRadius <= kLargestCoordinate)) {
     return SkipThis(kTooFar);
   }
   const bool isFull = aSweep >= kFullTurn;
@@ -240,7 +236,8 @@ void EntityMaker::AddArc(const Point& aCentre, double aRadius, double aStart, do
 
 void EntityMaker::MakeShape(const SourceEllipse& aShape, const Affine& aMap) {
   const SourceEllipse placed = Placed(aShape, aMap);
-  if (!IsFinite(placed.centre) || !IsFinite(placed.major) || !IsFinite(placed.minor) || !std::isfinite(placed.sweep)) {
+  if (!IsInRange(placed.centre) || !IsInRange(placed.major) || !IsInRange(placed.minor) ||
+      !std::isfinite(placed.sweep)) {
     return SkipThis(kTooFar);
   }
   if (!(Length(placed.major) > 0)) {
@@ -291,7 +288,7 @@ void EntityMaker::AddStretch(const SourceVertex& aFrom, const Point& aTo) {
 }
 
 void EntityMaker::AddLine(const Point& aFrom, const Point& aTo) {
-  if (!IsFinite(aFrom) || !IsFinite(aTo)) {
+  if (!IsInRange(aFrom) || !IsInRange(aTo)) {
     SkipThis(kTooFar);
   } else if (IsSameBits(aFrom, aTo)) {
     SkipThis(kNoLength);
@@ -302,7 +299,8 @@ void EntityMaker::AddLine(const Point& aFrom, const Point& aTo) {
 
 void EntityMaker::Add(const GeometryEngine::TDXFEntity& aGeometry) {
   const bool isArc = aGeometry.EntityType == GeometryEngine::DXFArc;
-  if (!IsFinite(aGeometry.StartCoords) || !IsFinite(aGeometry.EndCoords) || !std::isfinite(aGeometry.radius)) {
+  if (!IsInRange(aGeometry.StartCoords) || !IsInRange(aGeometry.EndCoords) ||
+      !(aGeometry.radius <= kLargestCoordinate)) {
     return SkipThis(kTooFar);
   }
   if (isArc && !(aGeometry.radius > 0)) {

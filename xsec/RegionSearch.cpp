@@ -96,8 +96,8 @@ Detection FindRegions(const Drawing& aDrawing, const Settings& aSettings, const 
     }
     back.ApplyToDiagnostics(detection.diagnostics);
   }
-  if (std::string text = WarnOfCopies(aDrawing, aRequest.copies); !text.empty()) {
-    detection.diagnostics.warnings.push_back(std::move(text));
+  for (std::string text : {WarnOfFineTolerance(aSettings, aDrawing), WarnOfCopies(aDrawing, aRequest.copies)}) {
+    if (!text.empty()) detection.diagnostics.warnings.push_back(std::move(text));
   }
   if (aRequest.minimumArea > 0) LeaveOutSmall(detection, aRequest.minimumArea);
   return detection;

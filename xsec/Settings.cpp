@@ -21,6 +21,8 @@ using Maindataenum::TInputFields;
 using enum Maindataenum::TInputFields;
 
 constexpr double kTolerancePerDiagonal = 1e-6;
+constexpr double kFinestPerDiagonal = 1e-11;    // below, crossings were seen to be missed
+constexpr double kFinestPerCoordinate = 1e-15;  // some bits of it
 constexpr double kToleranceWithoutSize = 1e-4;  // millimetres
 constexpr double kTolerancesBetweenParts = 2;   // of the drawing as a whole
 
@@ -69,6 +71,21 @@ double DefaultTolerance(const Drawing& aDrawing) {
   const double diagonal = DiagonalOfLargestPart(aDrawing);
   if (std::isfinite(diagonal) && diagonal > 0) return kTolerancePerDiagonal * diagonal;
   return kToleranceWithoutSize;
+}
+
+double FinestTolerance(const Drawing& aDrawing) {
+  const auto& [minX, minY, maxX, maxY] = aDrawing.extents;
+  const double furthest = std::max({std::abs(minX), std::abs(minY), std::abs(maxX), std::abs(maxY)});
+  return kFinestPerDiagonal * Diagonal(aDrawing.extents) + kFinestPerCoordinate * furthest;
+}
+
+std::string WarnOfFineTolerance(const Settings& aSettings, const Drawing& aDrawing) {
+  const double finest = FinestTolerance(aDrawing);
+  if (aSettings.tolerance >= finest) return "";
+  return fmt::format(
+      "a tolerance of {:.6g} mm is less than rounding does to coordinates of this size, and what meets may not be "
+      "found to meet: give --tol {:.2g} or more",
+      aSettings.tolerance, finest);
 }
 
 FieldValue ParseFieldValue(std::string_view aText) {

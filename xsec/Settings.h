@@ -52,6 +52,13 @@ struct Settings {
 /// COST: n log n
 double DefaultTolerance(const Drawing& aDrawing);
 
+/// The least tolerance under which what meets in a drawing meets in the library: rounding moves crossings by some bits
+/// of what they are reckoned with. UNITS: millimetres.
+double FinestTolerance(const Drawing& aDrawing);
+
+/// Warning of a tolerance below that; else empty.
+std::string WarnOfFineTolerance(const Settings& aSettings, const Drawing& aDrawing);
+
 /// FIELD=VALUE as the command line spells it. Throws UsageError for anything else.
 FieldValue ParseFieldValue(std::string_view aText);
 

@@ -215,9 +215,9 @@ TEST(ReadInsert, TenLevelsOfTenInsertsAreCountedNotPlaced) {
 }
 
 TEST(ReadInsert, ScalesThatLeaveTheRangeOfNumbersAreSkipped) {
-  const Drawing drawing = ReadBlocks(kBar, "0 INSERT | 2 bar | 41 1e308 | 42 1e308 | 0 INSERT | 2 bar | 41 1e300");
+  const Drawing drawing = ReadBlocks(kBar, "0 INSERT | 2 bar | 41 1e308 | 42 1e308 | 0 INSERT | 2 bar | 41 1e90");
   EXPECT_EQ(SkippedCount(drawing, "LINE", "0", "its coordinates are out of range"), 1U);
-  EXPECT_THAT(GeometryOf(drawing), IsBits("L 1e300,0 3e300,0"));
+  EXPECT_THAT(GeometryOf(drawing), IsBits("L 1e90,0 3e90,0"));
 }
 
 TEST(ReadInsert, SecondDefinitionOfABlockIsUsedAndReported) {

@@ -66,7 +66,7 @@ TEST(ReadDrawingText, NoToleranceOfTheHostMovesWhatIsRead) {
 TEST(ReadDrawingText, DegenerateEntitiesAreSkippedWithTheReason) {
   const Drawing drawing = ReadEntities(
       "0 LINE | 8 a | 10 1 | 20 2 | 11 1 | 21 2 | 0 ARC | 8 a | 40 0 | 50 0 | 51 90 | 0 CIRCLE | 8 b | 40 -1 |"
-      "0 LINE | 8 b | 10 1e308 | 11 0");
+      "0 LINE | 8 b | 10 1e99 | 11 0");
   EXPECT_EQ(SkippedCount(drawing, "LINE", "a", "its length is 0"), 1U);
   EXPECT_EQ(SkippedCount(drawing, "ARC", "a", "its radius is not above 0"), 1U);
   EXPECT_EQ(SkippedCount(drawing, "CIRCLE", "b", "its radius is not above 0"), 1U);
@@ -80,6 +80,13 @@ TEST(ReadDrawingText, CoordinatesThatOverflowInMillimetresAreSkipped) {
   EXPECT_EQ(SkippedCount(drawing, "CIRCLE", "0", "its coordinates are out of range"), 1U);
   EXPECT_EQ(SkippedCount(drawing, "ARC", "0", "its coordinates are out of range"), 1U);
   EXPECT_TRUE(drawing.entities.empty());
+}
+
+TEST(ReadDrawingText, CoordinatesWhoseProductsWouldOverflowAreSkipped) {
+  const Drawing drawing = ReadEntities("0 LINE | 11 1e100 | 0 LINE | 21 -1.01e100 | 0 CIRCLE | 40 1.01e100");
+  EXPECT_EQ(SkippedCount(drawing, "LINE", "0", "its coordinates are out of range"), 1U);
+  EXPECT_EQ(SkippedCount(drawing, "CIRCLE", "0", "its coordinates are out of range"), 1U);
+  EXPECT_THAT(GeometryOf(drawing), IsBits("L 0,0 1e100,0"));
 }
 
 TEST(ReadDrawingText, EntityKnowsWhereItStandsInTheFile) {

@@ -34,6 +34,7 @@ namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 using ::testing::StartsWith;
 using ::testing::UnorderedElementsAre;
 
@@ -421,6 +422,25 @@ TEST_F(Xsec, OffsetNeighboursThatWouldOverlapAreRefused) {
   EXPECT_EQ(RunXsec("transform " + drawing + " --offset 1.5"), 6);
   EXPECT_THAT(fStderr, HasSubstr("overlaps region"));
   EXPECT_THAT(fStderr, HasSubstr(" at (5, "));
+}
+
+TEST_F(Xsec, MotionsOutOfRangeAreRefused) {
+  const std::string drawing = Drawing(DxfOf(Square(0, 0, 4)));
+  for (const char* offset : {"1e308", "-1e308", "5700"}) {
+    EXPECT_EQ(RunXsec("transform " + drawing + " --offset=" + offset), 2);
+    EXPECT_THAT(fStderr, HasSubstr("give a distance of at most 5656.85 mm"));
+  }
+  EXPECT_EQ(RunXsec("transform " + drawing + " --mirror 1e101,0,1e101,1"), 2);
+  EXPECT_THAT(fStderr, HasSubstr("the result reaches farther than 1e+100 mm"));
+}
+
+TEST_F(Xsec, ToleranceBelowRoundingIsWarnedOf) {
+  const std::string drawing = Drawing(DxfOf(Square(0, 0, 4)));
+  EXPECT_EQ(RunXsec("regions --tol 5e-11 " + drawing), 0);
+  EXPECT_THAT(fStderr, HasSubstr("warning: a tolerance of 5e-11 mm is less than rounding does"));
+  EXPECT_THAT(fStderr, HasSubstr("give --tol 5.7e-11 or more"));
+  EXPECT_EQ(RunXsec("regions --tol 5.7e-11 " + drawing), 0);
+  EXPECT_THAT(fStderr, Not(HasSubstr("rounding")));
 }
 
 TEST_F(Xsec, DiffTellsWhatChangedByItsExitCode) {

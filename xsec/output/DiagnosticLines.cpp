@@ -96,11 +96,13 @@ void AddDegenerate(const Report& report, Lines& lines) {
   if (!diagnostics.lostSides.empty()) {
     const TravelledPiece& first = diagnostics.lostSides.front();
     const Point middle = MidPoint(first);
+    const double smaller = kSmallerTolerance * report.settings.tolerance;
     lines.Add(
         "warning: sides of closed pieces along which no loop was found: {}, first at ({:.6g}, {:.6g}){}; regions may "
-        "be missing: try a smaller tolerance, --tol {:.2g}",
+        "be missing{}",
         diagnostics.lostSides.size(), middle.x, middle.y, Source(first, report.drawing),
-        kSmallerTolerance * report.settings.tolerance);
+        smaller < FinestTolerance(report.drawing) ? ""
+                                                  : fmt::format(": try a smaller tolerance, --tol {:.2g}", smaller));
   }
 }
 
