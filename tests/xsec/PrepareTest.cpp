@@ -18,7 +18,6 @@
 #include "xsec/RegionDetection.h"
 #include "xsec/RegionNotes.h"
 #include "xsec/prepare/Curves.h"
-#include "xsec/prepare/EntityGrid.h"
 #include "xsec/prepare/Motion.h"
 
 namespace xsec {
@@ -142,14 +141,6 @@ TEST(Prepare, HundredsOfArcsOfOneCircleAreCutAtEachOthersEnds) {
   const PreparedGroup prepared = Prepared(DrawingOf(drawing));
   EXPECT_THAT(prepared.pieces, SizeIs(kArcs));
   EXPECT_EQ(Count(prepared.cures, CureKind::Overlap), kArcs * (kArcs - 1) / 2);
-}
-
-TEST(NearPairs, OfCirclesWithinEachOtherAreTheHalvesOfEach) {
-  std::string circles;
-  for (int i = 1; i <= 500; ++i) circles += Circle(1, 2, i);
-  std::vector<Part> parts;
-  for (const DrawingEntity& entity : DrawingOf(circles).entities) parts.push_back({entity.geometry, 0, {}, {}});
-  EXPECT_THAT(NearPairs(parts, 0.01), SizeIs(500));
 }
 
 /// Slots along a bore, each of four parts one above the other, as a file writes their points.
@@ -488,6 +479,83 @@ TEST(Prepare, FirstPiecesOfEqualChordDoNotShowInTheOutlines) {
     for (const Region& region : detection.regions) EXPECT_LE(region.outline.size(), 6U) << 3 * k << " degrees";
   }
   EXPECT_GT(settled, 0U);
+}
+
+/// The places close to a point, but not that of the point itself.
+std::vector<Point> PlacesAround(const PreparedGroup& prepared, const Point& point) {
+  std::vector<Point> places;
+  const Motion back = prepared.motion.Back();
+  for (const Point& place : prepared.places) {
+    const double away = Distance(back(place), point);
+    if (1e-3 < away && away < 0.5) places.push_back(back(place));
+  }
+  return places;
+}
+
+/// The least distance between two of the points.
+double LeastGap(const std::vector<Point>& points) {
+  double gap = 1;
+  for (std::size_t i = 0; i < points.size(); ++i) {
+    for (std::size_t j = i + 1; j < points.size(); ++j) gap = std::min(gap, Distance(points[i], points[j]));
+  }
+  return gap;
+}
+
+// Two circles that touch, one within the other. Where a half ends close by it has no first piece, so that there may be
+// three.
+TEST(Prepare, FirstPiecesOfEqualChordPartByAGapOfTolerances) {
+  std::size_t settled = 0;
+  for (int k = 0; k < 120; ++k) {
+    const Point direction{std::cos(k * std::numbers::pi / 60), std::sin(k * std::numbers::pi / 60)};
+    const PreparedGroup prepared = Prepared(DrawingOf(Circle(0, 0, 5) + Circle(2 * direction.x, 2 * direction.y, 3)));
+    if (Count(prepared.cures, CureKind::TurnOrder) == 0) continue;
+    ++settled;
+    const std::vector<Point> ends = PlacesAround(prepared, 5 * direction);
+    ASSERT_GE(ends.size(), 3U) << 3 * k << " degrees";
+    for (const Point& end : ends) {
+      EXPECT_NEAR(Distance(end, 5 * direction), Distance(ends.front(), 5 * direction), 1e-6) << 3 * k << " degrees";
+      EXPECT_LT(std::min(std::abs(Distance(end, {}) - 5), std::abs(Distance(end, 2 * direction) - 3)), 1e-6);
+    }
+    EXPECT_NEAR(LeastGap(ends), 8e-3, 1e-4) << 3 * k << " degrees";
+  }
+  EXPECT_GT(settled, 0U);
+}
+
+TEST(Prepare, SeamsOfACircleGoWhereItIsMetLeast) {
+  std::string drawing = Circle(0, 0, 5);
+  for (const double degrees : {2., 50., 100.}) {
+    const double radians = degrees * std::numbers::pi / 180;
+    for (const double radius : {5., 8.}) {
+      drawing += (radius == 5 ? "L " : " ") + std::to_string(radius * std::cos(radians)) + "," +
+                 std::to_string(radius * std::sin(radians));
+    }
+    drawing += "; ";
+  }
+  const PreparedGroup prepared = Prepared(DrawingOf(drawing));
+  const auto seam = std::find_if(prepared.cures.begin(), prepared.cures.end(),
+                                 [](const Cure& cure) { return cure.kind == CureKind::Seam; });
+  ASSERT_NE(seam, prepared.cures.end());
+  const double degrees = std::atan2(seam->place.y, seam->place.x) * 180 / std::numbers::pi;
+  EXPECT_NEAR(std::fmod(degrees + 360, 180), 141, 1e-4);  // midway from 100 to 182
+}
+
+TEST(Prepare, WhatIsDoneToPiecesIsToldOfTheEntitiesThatTheyArePartsOf) {
+  std::string lines;
+  for (int i = 0; i < 12; ++i) lines += "L " + std::to_string(i) + ",-9 " + std::to_string(i) + ".5,-7; ";
+  Drawing drawing = DrawingOf(lines + "L 2,4 8,4.0003; L 3,4 7,4.0002");
+  for (const DrawingEntity& entity : LinesThatAllButMeetInOnePoint(1.2e-3).entities) drawing.entities.push_back(entity);
+  std::size_t told = 0;
+  for (const PreparedGroup& group : PreparedGroups(drawing)) {
+    for (const Cure& cure : group.cures) {
+      for (const std::size_t entity : {cure.entity, cure.other}) {
+        if (entity == kNone) continue;
+        ++told;
+        ASSERT_LT(entity, drawing.entities.size());
+        EXPECT_LT(DistanceTo(drawing.entities[entity].geometry, cure.place), 2e-3) << CureName(cure.kind);
+      }
+    }
+  }
+  EXPECT_GT(told, 4U);
 }
 
 TEST(Prepare, CountOfPiecesGrowsWithTheDrawingAndNoFaster) {

@@ -56,6 +56,17 @@ TEST_F(PutVerticesBackTest, VertexMovesToItsPlaceWithTheEndsOfItsPieces) {
   }
 }
 
+TEST_F(PutVerticesBackTest, VertexMovesToTheClosestOfItsPlaces) {
+  const Point close{10.0002, 10.0001};
+  const Point further{10.0002, 9.9994};
+  for (const std::vector<Point>& places : {std::vector{close, further}, std::vector{further, close}}) {
+    GeometryEngine::support::TDetection detection(Rectangle(0, 0, 10, 10) + "L 30,0 40,0");
+    GeometryEngine::TEntityTree& graph = detection.driver.CoordinateTree();
+    EXPECT_THAT(PutVerticesBack(graph, places, kTolerance), SizeIs(1));
+    EXPECT_THAT(VerticesOf(graph), Contains(IsBits(close.x, close.y)));
+  }
+}
+
 // Squares whose corners all but touch, and a place between the two corners, less than the tolerance from either: the
 // library would take whichever vertex is moved there for the other one.
 TEST_F(PutVerticesBackTest, NoTwoVerticesBecomeTheSame) {
