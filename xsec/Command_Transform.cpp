@@ -56,12 +56,12 @@ std::pair<Point, Point> MirrorLine(const std::string& text) {
   return {{numbers[0], numbers[1]}, {numbers[2], numbers[3]}};
 }
 
-/// Far more than the drawing's size leaves the result too few digits for what was drawn.
+/// Far more than the drawing's size leaves the result too few digits for what was drawn. Nothing drawn has no size.
 double CheckedOffset(double offset, const Settings& settings, const Drawing& drawing) {
   constexpr double kLeastTolerances = 4;
   constexpr double kMostSizes = 1000;
   const double most = kMostSizes * Diagonal(drawing.extents);
-  if (!(std::abs(offset) <= most)) {
+  if (!drawing.entities.empty() && std::abs(offset) > most) {
     throw UsageError(
         fmt::format("--offset {}: more than {} times the size of the drawing; give a distance of at most {:.6g} mm",
                     offset, kMostSizes, most));

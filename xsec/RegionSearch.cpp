@@ -96,9 +96,11 @@ Detection FindRegions(const Drawing& aDrawing, const Settings& aSettings, const 
     }
     back.ApplyToDiagnostics(detection.diagnostics);
   }
-  for (std::string text : {WarnOfFineTolerance(aSettings, aDrawing), WarnOfCopies(aDrawing, aRequest.copies)}) {
-    if (!text.empty()) detection.diagnostics.warnings.push_back(std::move(text));
+  std::vector<std::string>& warnings = detection.diagnostics.warnings;
+  if (const std::string text = WarnOfFineTolerance(aSettings, aDrawing); !text.empty()) {
+    warnings.push_back(text + ": " + AdviceOnFineTolerance(aDrawing));
   }
+  if (std::string text = WarnOfCopies(aDrawing, aRequest.copies); !text.empty()) warnings.push_back(std::move(text));
   if (aRequest.minimumArea > 0) LeaveOutSmall(detection, aRequest.minimumArea);
   return detection;
 }

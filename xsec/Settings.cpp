@@ -80,12 +80,15 @@ double FinestTolerance(const Drawing& aDrawing) {
 }
 
 std::string WarnOfFineTolerance(const Settings& aSettings, const Drawing& aDrawing) {
-  const double finest = FinestTolerance(aDrawing);
-  if (aSettings.tolerance >= finest) return "";
+  if (aSettings.tolerance >= FinestTolerance(aDrawing)) return "";
   return fmt::format(
       "a tolerance of {:.6g} mm is less than rounding does to coordinates of this size, and what meets may not be "
-      "found to meet: give --tol {:.2g} or more",
-      aSettings.tolerance, finest);
+      "found to meet",
+      aSettings.tolerance);
+}
+
+std::string AdviceOnFineTolerance(const Drawing& aDrawing) {
+  return fmt::format("give --tol {:.2g} or more", FinestTolerance(aDrawing));
 }
 
 FieldValue ParseFieldValue(std::string_view aText) {

@@ -56,8 +56,10 @@ double DefaultTolerance(const Drawing& aDrawing);
 /// of what they are reckoned with. UNITS: millimetres.
 double FinestTolerance(const Drawing& aDrawing);
 
-/// Warning of a tolerance below that; else empty.
+/// What is wrong with a tolerance below that; else empty.
 std::string WarnOfFineTolerance(const Settings& aSettings, const Drawing& aDrawing);
+/// And what to do about it.
+std::string AdviceOnFineTolerance(const Drawing& aDrawing);
 
 /// FIELD=VALUE as the command line spells it. Throws UsageError for anything else.
 FieldValue ParseFieldValue(std::string_view aText);

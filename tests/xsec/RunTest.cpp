@@ -434,11 +434,19 @@ TEST_F(Xsec, MotionsOutOfRangeAreRefused) {
   EXPECT_THAT(fStderr, HasSubstr("the result reaches farther than 1e+100 mm"));
 }
 
+TEST_F(Xsec, OffsetOfNothingFindsNothing) {
+  EXPECT_EQ(RunXsec("transform " + Drawing(DxfOf("")) + " --offset 1"), 5);
+  EXPECT_THAT(fStderr, HasSubstr("no closed region found"));
+}
+
 TEST_F(Xsec, ToleranceBelowRoundingIsWarnedOf) {
   const std::string drawing = Drawing(DxfOf(Square(0, 0, 4)));
   EXPECT_EQ(RunXsec("regions --tol 5e-11 " + drawing), 0);
   EXPECT_THAT(fStderr, HasSubstr("warning: a tolerance of 5e-11 mm is less than rounding does"));
   EXPECT_THAT(fStderr, HasSubstr("give --tol 5.7e-11 or more"));
+  EXPECT_EQ(RunXsec("check --tol 5e-11 " + drawing), 1);
+  EXPECT_THAT(fStdout, HasSubstr("a tolerance of 5e-11 mm is less than rounding does"));
+  EXPECT_THAT(fStdout, HasSubstr("give --tol 5.7e-11 or more"));
   EXPECT_EQ(RunXsec("regions --tol 5.7e-11 " + drawing), 0);
   EXPECT_THAT(fStderr, Not(HasSubstr("rounding")));
 }

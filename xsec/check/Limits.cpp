@@ -44,8 +44,11 @@ void Add(const Drawing& drawing, const Smallest& found, std::string text, std::s
 std::vector<Limit> FindLimits(const Drawing& aDrawing, const Settings& aSettings) {
   std::vector<Limit> limits;
   const Extents& box = aDrawing.extents;
+  const Point middle{(box.minX + box.maxX) / 2, (box.minY + box.maxY) / 2};
+  if (const std::string text = WarnOfFineTolerance(aSettings, aDrawing); !text.empty()) {
+    limits.push_back({middle, kNone, text, AdviceOnFineTolerance(aDrawing)});
+  }
   if (const std::string text = WarnOfUnlikelyUnit(aDrawing); !text.empty()) {
-    const Point middle{(box.minX + box.maxX) / 2, (box.minY + box.maxY) / 2};
     limits.push_back({middle, kNone, text, "give the unit it was meant in, for example --units mm"});
   }
   const Smallest arcs =
