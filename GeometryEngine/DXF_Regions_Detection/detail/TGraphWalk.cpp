@@ -6,13 +6,15 @@
 #include <utility>
 
 #include "GeometryEngine/DXF_Entity_Types/detail/PointSameness.h"
+#include "GeometryEngine/host/detail/FetchAhead.h"
 
 namespace GeometryEngine::detail {
 
 namespace {
 
-constexpr std::size_t kFirstLook = 32;  // half-edges blocked by a walk before it looks whether it may close
-constexpr std::size_t kLaterLooks = 2;  // times as many
+constexpr std::size_t kFirstLook = 32;       // half-edges blocked by a walk before it looks whether it may close
+constexpr std::size_t kLaterLooks = 2;       // times as many
+constexpr std::size_t kStepsBackAhead = 15;  // in which memory answers
 constexpr std::size_t kNever = std::numeric_limits<std::size_t>::max();
 
 }  // namespace
@@ -23,10 +25,22 @@ TGraphWalk::TGraphWalk(const TVertexGraph& aGraph)
       fWayBack(aGraph),
       fSums(aGraph),
       fTimesOnPath(aGraph.IsRegular() ? 0 : At(aGraph.EntityCount()), 0) {
-  for (TIndex h = 0; h < aGraph.HalfEdgeCount(); ++h) {
-    if (aGraph.HalfEdge(h).fIsTravelled) Take(h);
+  ReadMarks();
+}
+
+void TGraphWalk::ReadGraph() {
+  fPath.clear();
+  fBlocked.clear();
+  fOrder.ReadGraph();
+  fSums.ForgetTerms();
+  ReadMarks();
+}
+
+void TGraphWalk::ReadMarks() {
+  for (TIndex h = 0; h < fGraph.HalfEdgeCount(); ++h) {
+    if (fGraph.HalfEdge(h).fIsTravelled) Take(h);
   }
-  if (aGraph.IsRegular()) MarkDeadEnds();
+  if (fGraph.IsRegular()) MarkDeadEnds();
 }
 
 void TGraphWalk::MarkDeadEnds() {
@@ -176,6 +190,7 @@ inline bool TGraphWalk::StepBack() {
   }
   TakeOffPath(last);
   fPath.pop_back();
+  if (fPath.size() > kStepsBackAhead) FetchAhead(&fOrder.Record(fPath[fPath.size() - 1 - kStepsBackAhead]));
   fSteppedBack = last;
   fSteps.push_back(TWalkSums::kStepBack);
   return true;

@@ -28,6 +28,8 @@ class TGraphWalk {
   static constexpr TIndex kNone = kNotFound;
 
   explicit TGraphWalk(const TVertexGraph& aGraph);
+  /// Forgets all walks and what was marked, but for the marks of the tree: the graph has been numbered anew.
+  void ReadGraph();
 
   /// Walks from a half-edge on, by the rules of FindNextRegionEntity.
   void Walk(TIndex aHalfEdge, bool aBacktracking);
@@ -89,6 +91,7 @@ class TGraphWalk {
   };
 
   static std::size_t At(TIndex aIndex) { return static_cast<std::size_t>(aIndex); }
+  void ReadMarks();
   void KeepMarks();
   void TakeOffPath(TIndex aHalfEdge);
   std::uint32_t Marks(TIndex aHalfEdge) const { return fOrder.Record(aHalfEdge).Marks(); }

@@ -11,7 +11,7 @@ namespace GeometryEngine::detail {
 
 TLoopTracing::TLoopTracing(TVertexGraph& aGraph) : fGraph(aGraph), fWalk(aGraph) {
   constexpr std::size_t kFewSteps = 16;  // half-edges for one step back
-  if (fGraph.IsRegular()) fWalk->StopAfter(static_cast<std::size_t>(fGraph.HalfEdgeCount()) / kFewSteps);
+  if (fGraph.IsRegular()) fWalk.StopAfter(static_cast<std::size_t>(fGraph.HalfEdgeCount()) / kFewSteps);
 }
 
 bool TLoopTracing::Trace(TIndex aPlace, bool aNegativeToo) {
@@ -19,8 +19,8 @@ bool TLoopTracing::Trace(TIndex aPlace, bool aNegativeToo) {
   const bool mayPassOver = !aNegativeToo && fKnowsBridges && IsTakenAsNegative();
   if (!mayPassOver) {
     // The steps over a bridge and back leave their rounding in the sums.
-    if (fWalk->PassedByBridges()) AddStepsOverBridges();
-    fArea = fWalk->GetArea();
+    if (fWalk.PassedByBridges()) AddStepsOverBridges();
+    fArea = fWalk.GetArea();
   }
   if (fKnowsBridges) CountOffLoop();
   return true;
@@ -28,30 +28,29 @@ bool TLoopTracing::Trace(TIndex aPlace, bool aNegativeToo) {
 
 // Whether the walk has closed.
 bool TLoopTracing::WalkFrom(TIndex aPlace) {
-  if (fWalk->HasSteppedBackOften()) PrepareForLongWalks();
+  if (fWalk.HasSteppedBackOften()) PrepareForLongWalks();
   const TIndex start = fGraph.HalfEdgeInOrder(aPlace);
-  if (fWalk->IsBridge(start)) return false;
-  fWalk->Walk(start, true);
-  return fWalk->HasStopped() ? WalkFrom(aPlace) : fWalk->HasClosed();
+  if (fWalk.IsBridge(start)) return false;
+  fWalk.Walk(start, true);
+  return fWalk.HasStopped() ? WalkFrom(aPlace) : fWalk.HasClosed();
 }
 
 void TLoopTracing::PrepareForLongWalks() {
+  fWalk.StopAfter(std::numeric_limits<std::size_t>::max());
   NumberByPlace();
   fKnowsBridges = true;
-  fWalk->AvoidBridges(FindBridges(fGraph));
+  fWalk.AvoidBridges(FindBridges(fGraph));
   CountFree();
 }
 
 void TLoopTracing::NumberByPlace() {
   std::vector<TIndex> taken;
   for (TIndex place = 0; place < fGraph.HalfEdgeCount(); ++place) {
-    if (fWalk->IsTravelled(place)) taken.push_back(place);
+    if (fWalk.IsTravelled(place)) taken.push_back(place);
   }
-  fEarlierStepsBack = fWalk->StepsBack();
-  fWalk.reset();
   fGraph.NumberByPlace();
-  fWalk.emplace(fGraph);
-  for (const TIndex place : taken) fWalk->Take(fGraph.HalfEdgeInOrder(place));
+  fWalk.ReadGraph();
+  for (const TIndex place : taken) fWalk.Take(fGraph.HalfEdgeInOrder(place));
 }
 
 void TLoopTracing::FindMiddle() {
@@ -76,38 +75,38 @@ double TLoopTracing::GetTermAboutMiddle(TIndex aHalfEdge) {
   const THalfEdge& halfEdge = fGraph.HalfEdge(aHalfEdge);
   const TEntityCoordinate& from = fGraph.From(halfEdge);
   const TEntityCoordinate& to = fGraph.Point(halfEdge.fFarVertex);
-  return fWalk->Sums().GetAreaTerm(aHalfEdge) - (fMiddle.x * (to.y - from.y) - fMiddle.y * (to.x - from.x)) / 2;
+  return fWalk.Sums().GetAreaTerm(aHalfEdge) - (fMiddle.x * (to.y - from.y) - fMiddle.y * (to.x - from.x)) / 2;
 }
 
 void TLoopTracing::CountFree() {
   FindMiddle();
-  fWalk->Sums().KeepTerms();
+  fWalk.Sums().KeepTerms();
   for (TIndex h = 0; h < fGraph.HalfEdgeCount(); ++h) {
-    if (fWalk->IsTravelled(h)) continue;
+    if (fWalk.IsTravelled(h)) continue;
     ++fFree;
     const TIndex twin = fGraph.HalfEdge(h).fTwin;
-    if (h < twin || fWalk->IsTravelled(twin)) fFreeMagnitudes += GetMagnitude(h);
+    if (h < twin || fWalk.IsTravelled(twin)) fFreeMagnitudes += GetMagnitude(h);
   }
   constexpr double kRoundingOfMagnitudes = 1e-6;  // far more than adding them up and counting them off amounts to
   fFreeMagnitudes += kRoundingOfMagnitudes * fFreeMagnitudes;
 }
 
 void TLoopTracing::CountOffLoop() {
-  fFree -= static_cast<double>(fWalk->Path().size());
-  for (const TIndex h : fWalk->Path()) {
-    if (fWalk->IsTravelled(fGraph.HalfEdge(h).fTwin)) fFreeMagnitudes -= GetMagnitude(h);
+  fFree -= static_cast<double>(fWalk.Path().size());
+  for (const TIndex h : fWalk.Path()) {
+    if (fWalk.IsTravelled(fGraph.HalfEdge(h).fTwin)) fFreeMagnitudes -= GetMagnitude(h);
   }
 }
 
 void TLoopTracing::AddStepsOverBridges() {
-  const std::size_t before = fWalk->StepsBack();
-  fWalk->AddStepsOverBridges();
-  if (fPathArea < 0) fStepsInDoubt += fWalk->StepsBack() - before;
+  const std::size_t before = fWalk.StepsBack();
+  fWalk.AddStepsOverBridges();
+  if (fPathArea < 0) fStepsInDoubt += fWalk.StepsBack() - before;
 }
 
 bool TLoopTracing::IsTakenAsNegative() {
   fPathArea = 0;
-  for (const TIndex h : fWalk->Path()) fPathArea += fWalk->Sums().GetAreaTerm(h);
+  for (const TIndex h : fWalk.Path()) fPathArea += fWalk.Sums().GetAreaTerm(h);
   fArea = fPathArea;
   return IsSurelyNegative() || (fPathArea < 0 && fStepsInDoubt >= kMostStepsInDoubt);
 }

@@ -2,8 +2,6 @@
 
 // Tracing of the loops of a whole vertex graph. Private.
 
-#include <optional>
-
 #include "GeometryEngine/DXF_Regions_Detection/detail/TGraphWalk.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TVertexGraph.h"
 
@@ -33,10 +31,10 @@ class TLoopTracing {
   bool Trace(TIndex aPlace, bool aNegativeToo);
 
   /// Of the loop traced last.
-  TGraphWalk& Walk() { return *fWalk; }
+  TGraphWalk& Walk() { return fWalk; }
   double Area() const { return fArea; }
   /// How often all walks together have stepped back.
-  std::size_t StepsBack() const { return fEarlierStepsBack + fWalk->StepsBack(); }
+  std::size_t StepsBack() const { return fWalk.StepsBack(); }
 
  private:
   bool WalkFrom(TIndex aPlace);
@@ -52,8 +50,7 @@ class TLoopTracing {
   bool IsSurelyNegative() const;
 
   TVertexGraph& fGraph;
-  std::optional<TGraphWalk> fWalk;
-  std::size_t fEarlierStepsBack = 0;  // before the graph was numbered by place
+  TGraphWalk fWalk;
   double fArea = 0;
   double fPathArea = 0;           // the same without the steps to and fro, for loops that may be passed over
   std::size_t fStepsInDoubt = 0;  // back, beyond bridges of loops that may be clockwise

@@ -21,9 +21,10 @@ double DirectionOf(const TVector_Single& aVector) {
 
 }  // namespace
 
-TTurnOrder::TTurnOrder(const TVertexGraph& aGraph)
-    : fGraph(aGraph), fRecords(At(aGraph.HalfEdgeCount())), fLeaving(At(aGraph.HalfEdgeCount())) {
-  for (TIndex h = 0; h < aGraph.HalfEdgeCount(); ++h) Record(h).fTwin = aGraph.HalfEdge(h).fTwin;
+void TTurnOrder::ReadGraph() {
+  fRecords.assign(At(fGraph.HalfEdgeCount()), {});
+  fLeaving.clear();
+  for (TIndex h = 0; h < fGraph.HalfEdgeCount(); ++h) Record(h).fTwin = fGraph.HalfEdge(h).fTwin;
 }
 
 TTurnClarity TTurnOrder::FindClarity(TIndex aArriving) {
@@ -56,7 +57,7 @@ bool TTurnOrder::AreTurnsClear(TIndex aArriving) const {
   const TIndex twin = fGraph.HalfEdge(aArriving).fTwin;
   double previous = kFullTurn_Direction;
   for (TIndex h = Clockwise(twin); h != twin; h = Clockwise(h)) {
-    const double difference = fLeaving[At(h)] - from;
+    const double difference = LeavingDirection(h) - from;
     const double turn = difference < 0 ? difference + kFullTurn_Direction : difference;
     if (!(previous - turn > kClearDifference)) return false;
     previous = turn;
@@ -68,7 +69,7 @@ bool TTurnOrder::AreTurnsClear(TIndex aArriving) const {
 double TTurnOrder::GetArrivingDirection(const THalfEdge& aArriving) const {
   const THalfEdge& twin = fGraph.HalfEdge(aArriving.fTwin);
   const bool isReverse = aArriving.fIsLine && twin.fIsExact && twin.fFarVertex == aArriving.fVertex;
-  return isReverse ? fLeaving[At(aArriving.fTwin)] : GetDirection(aArriving, kVector_Arriving);
+  return isReverse ? LeavingDirection(aArriving.fTwin) : GetDirection(aArriving, kVector_Arriving);
 }
 
 void TTurnOrder::MakeRing(TIndex aVertex) {
@@ -85,8 +86,8 @@ void TTurnOrder::FillRing(TIndex aVertex) {
   const bool needsDirections = fGraph.Degree(aVertex) >= 3;
   fRing.clear();
   for (TIndex h = fGraph.FirstHalfEdge(aVertex); h < fGraph.EndOfHalfEdges(aVertex); ++h) {
-    if (needsDirections) fLeaving[At(h)] = GetDirection(fGraph.HalfEdge(h), kVector_Leaving);
-    const double direction = fLeaving[At(h)];
+    const double direction = needsDirections ? GetDirection(fGraph.HalfEdge(h), kVector_Leaving) : 0;
+    if (needsDirections) fLeaving[h] = direction;
     fRing.push_back({std::isnan(direction) ? kNoDirection : direction, 0, h});
   }
   SortRing();

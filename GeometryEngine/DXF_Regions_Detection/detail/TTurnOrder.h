@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <unordered_map>
 #include <vector>
 
 #include "GeometryEngine/DXF_Regions_Detection/detail/Directions.h"
@@ -58,7 +59,9 @@ static_assert(sizeof(TTurnRecord) == 8);
 /// are found out roughly first, and only where that leaves doubt to the last bit.
 class TTurnOrder {
  public:
-  explicit TTurnOrder(const TVertexGraph& aGraph);
+  explicit TTurnOrder(const TVertexGraph& aGraph) : fGraph(aGraph) { ReadGraph(); }
+  /// Forgets all marks and rings: the graph has been numbered anew.
+  void ReadGraph();
 
   /// True when a walk that arrives by a half-edge comes by its turns from the sharpest to the least, and may take all
   /// of them but for their marks, when it goes round the ring of the far vertex from behind the half-edge's twin to
@@ -85,6 +88,8 @@ class TTurnOrder {
   std::optional<TRoughDirection> GetRoughDirection(TIndex aHalfEdge) const;
   double GetArrivingDirection(const THalfEdge& aArriving) const;
   double GetDirection(const THalfEdge& aHalfEdge, std::int32_t aMode) const;
+  /// REQUIRES: a half-edge in a ring of three or more that is not clear.
+  double LeavingDirection(TIndex aHalfEdge) const { return fLeaving.find(aHalfEdge)->second; }
 
   struct TRingPlace {
     double fDirection;
@@ -94,8 +99,9 @@ class TTurnOrder {
 
   const TVertexGraph& fGraph;
   std::vector<TTurnRecord> fRecords;  // by half-edge
-  std::vector<double> fLeaving;       // the direction of each in a ring of three or more that is not clear
-  std::vector<TRingPlace> fRing;      // of the vertex in hand, in descending order of directions
+  /// The directions of the half-edges in rings of three or more that are not clear: next to none, in most drawings.
+  std::unordered_map<TIndex, double> fLeaving;
+  std::vector<TRingPlace> fRing;  // of the vertex in hand, in descending order of directions
 };
 
 }  // namespace GeometryEngine::detail

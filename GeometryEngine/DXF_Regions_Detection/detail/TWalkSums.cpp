@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "GeometryEngine/DXF_Regions_Utilities/EntityTerms.h"
+#include "GeometryEngine/host/detail/FetchAhead.h"
 
 namespace GeometryEngine::detail {
 
@@ -36,6 +37,11 @@ TWalkSums::TSums TWalkSums::GetTerms(TIndex aHalfEdge) {
   return terms;
 }
 
+// Terms lie scattered in memory.
+[[gnu::always_inline]] inline void TWalkSums::FetchTermsAhead(TIndex aStep) const {
+  if (IsIndexWithin(aStep, fTerms.size())) FetchAhead(&fTerms[At(aStep)]);
+}
+
 double TWalkSums::GetArea(std::span<const TIndex> aPath) {
   double area = 0;
   for (const TIndex h : aPath) area += GetAreaTerm(h);
@@ -49,7 +55,8 @@ TEntityCoordinate TWalkSums::GetCentroid(std::span<const TIndex> aPath) {
 }
 
 TWalkSums::TSums TWalkSums::GetSums(std::span<const TIndex> aSteps) {
-  constexpr std::size_t kFewSteps = 16;  // half-edges for one step
+  constexpr std::size_t kFewSteps = 16;    // half-edges for one step
+  constexpr std::size_t kStepsAhead = 16;  // in which memory answers
   fStepsSummed += aSteps.size();
   if (kFewSteps * fStepsSummed > At(fGraph.HalfEdgeCount())) KeepTerms();
   // Two numbers by themselves are kept in registers; a record that is answered would not be.
@@ -64,7 +71,9 @@ TWalkSums::TSums TWalkSums::GetSums(std::span<const TIndex> aSteps) {
     centroid = centroid - aTerms.fCentroid;
   };
   fPath.clear();
-  for (const TIndex step : aSteps) {
+  for (std::size_t i = 0; i < aSteps.size(); ++i) {
+    if (i + kStepsAhead < aSteps.size()) FetchTermsAhead(aSteps[i + kStepsAhead]);
+    const TIndex step = aSteps[i];
     if (step != kStepBack) {
       const TSums terms = GetTerms(step);
       fPath.push_back(terms);

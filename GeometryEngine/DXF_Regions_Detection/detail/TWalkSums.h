@@ -32,6 +32,8 @@ class TWalkSums {
 
   /// From now on the terms of each half-edge are computed once.
   void KeepTerms();
+  /// Forgets the terms kept so far: the graph has been numbered anew.
+  void ForgetTerms() { fTerms.clear(); }
 
   double GetAreaTerm(TIndex aHalfEdge);
   double GetArea(std::span<const TIndex> aPath);
@@ -47,6 +49,7 @@ class TWalkSums {
   double ComputeArea(TIndex aHalfEdge) const;
   TEntityCoordinate ComputeCentroid(TIndex aHalfEdge) const;
   TSums GetTerms(TIndex aHalfEdge);
+  void FetchTermsAhead(TIndex aStep) const;
 
   const TVertexGraph& fGraph;
   std::size_t fStepsSummed = 0;  // to and fro
