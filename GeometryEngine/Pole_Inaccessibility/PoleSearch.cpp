@@ -97,8 +97,8 @@ int CompareBounds(double aLeft, double aRight) {
 class TPendingCells {
  public:
   void Reserve(std::size_t aCount) {
-    fCells.reserve(aCount + kMostCellsAddedBySplits);
-    fWaiting.reserve(aCount + kMostCellsAddedBySplits);
+    fCells.reserve(aCount + kCellsOfFewSplits);
+    fWaiting.reserve(aCount + kCellsOfFewSplits);
   }
   bool AreThere() const { return !fWaiting.empty(); }
 
@@ -147,7 +147,7 @@ class TPendingCells {
     }
   };
 
-  static constexpr std::size_t kMostCellsAddedBySplits = 4 * (kLargestSplitCount + 1);
+  static constexpr std::size_t kCellsOfFewSplits = 4 * (kSplitsBeforeDoubt + 1);
 
   std::vector<TCell> fCells;       // in the order in which they came
   std::vector<TWaiting> fWaiting;  // a heap

@@ -58,6 +58,9 @@ TPoleOutlines::TPoleOutlines(std::span<const TEntityStorage* const> aChains)
 
 std::vector<TPoleOutlines::TPart> TPoleOutlines::GetParts(std::span<const TEntityStorage* const> aChains) const {
   std::vector<TPart> parts;
+  std::size_t entities = 0;
+  for (const TEntityStorage* chain : aChains) entities += chain->EntityArray().size();
+  parts.reserve(entities);
   for (std::size_t number = 0; number < aChains.size(); ++number) {
     const TEntityStorage& chain = *aChains[number];
     for (TVertexWalk walk(chain.EntityArray(), chain.StartCoordinate()); walk.Next();) {

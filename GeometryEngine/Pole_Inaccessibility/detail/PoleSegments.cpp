@@ -39,6 +39,7 @@ TPoleSegments::TPoleSegments(std::span<const TEntityStorage* const> aChains) {
 bool TPoleSegments::AddChain(const TEntityStorage& aChain) {
   const TCoordinateArray vertices = aChain.GetVertices_Surf(false);
   if (vertices.size() < 2) return false;
+  ReserveFirst(vertices.size());
   const std::size_t before = fCount;
   TEntityCoordinate start = vertices.back();
   for (const TEntityCoordinate& end : vertices) {
@@ -49,6 +50,14 @@ bool TPoleSegments::AddChain(const TEntityStorage& aChain) {
   return fCount - before == vertices.size();
 }
 
+/// The first chain is the only one mostly, or the longest.
+void TPoleSegments::ReserveFirst(std::size_t aSegments) {
+  if (!fGroups.empty()) return;
+  const std::size_t groups = (aSegments + kGroupSize - 1) / kGroupSize;
+  fGroups.reserve(groups);
+  fGroupBoxes.reserve(groups);
+}
+
 void TPoleSegments::FillLastGroup() {
   const std::size_t count = fCount % kGroupSize;
   if (count == 0) return;
@@ -56,7 +65,10 @@ void TPoleSegments::FillLastGroup() {
 }
 
 void TPoleSegments::GroupBoxes() {
+  const std::size_t groups = (fGroupBoxes.size() + kGroupSize - 1) / kGroupSize;
   std::vector<TPlaneBox> whole;
+  whole.reserve(TBlockTree<TPlaneBox>::GetRoom(groups));
+  fBoxes.reserve(groups);
   for (std::size_t i = 0; i < fGroupBoxes.size(); ++i) {
     const std::size_t place = i % kGroupSize;
     if (place == 0) {

@@ -29,6 +29,7 @@ class TPoleSegments {
 
  private:
   bool AddChain(const TEntityStorage& aChain);
+  void ReserveFirst(std::size_t aSegments);
   void FillLastGroup();
   void GroupBoxes();
   void AddSegment(const TEntityCoordinate& aStart, const TEntityCoordinate& aEnd);
