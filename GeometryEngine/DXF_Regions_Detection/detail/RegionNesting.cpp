@@ -9,6 +9,7 @@
 #include "GeometryEngine/DXF_Regions_Detection/detail/TBoxIndex.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/THeightIndex.h"
 #include "GeometryEngine/DXF_Regions_Detection/detail/TRegionOutline.h"
+#include "GeometryEngine/DXF_Regions_TreeClasses/detail/TRegionEntities.h"
 
 namespace GeometryEngine::detail {
 
@@ -25,11 +26,19 @@ class TNesting {
 
   std::vector<TIntegerArray> Find() {
     std::vector<TIntegerArray> nested = FindCandidates();
-    for (std::size_t i = 0; i < nested.size(); ++i) KeepNested(ToIndex(i), nested[i]);
+    for (std::size_t i = 0; i < nested.size(); ++i) {
+      FetchAhead(i + kRegionsAhead, nested);
+      KeepNested(ToIndex(i), nested[i]);
+    }
     return nested;
   }
 
  private:
+  void FetchAhead(std::size_t aContainer, std::span<const TIntegerArray> aCandidates) const {
+    if (aContainer >= aCandidates.size() || aCandidates[aContainer].empty()) return;
+    TRegionEntities(fCoordinateTree, *fRegions[aContainer]).FetchAhead();
+  }
+
   // REQUIRES: candidates in ascending order, each once.
   void KeepNested(TIndex aContainer, TIntegerArray& aCandidates) const {
     if (aCandidates.empty()) return;

@@ -24,8 +24,7 @@ constexpr double kRounding = 1e-12;     // no unit: far above what rounding does
 constexpr double kFlat = 1e-3;          // slope below which an edge reaches far to the side for one tolerance in height
 constexpr double kFlatAngle = 0.06;     // degrees; the same slope, and more
 constexpr double kAngleSlack = 1e-6;    // degrees; above the rounding of angles
-constexpr std::size_t kRegionsAhead = 6;  // whose entities are asked for; as long as memory takes to answer
-constexpr double kMostSagitta = 0.02;     // drawing length units; twice as far as chords stay from their arc, and more
+constexpr double kMostSagitta = 0.02;   // drawing length units; twice as far as chords stay from their arc, and more
 
 bool IsTame(const TEntityCoordinate& aPoint) {
   return std::abs(aPoint.x) < kLargest && std::abs(aPoint.y) < kLargest;
@@ -219,6 +218,11 @@ TRegionReaches GetRegionReaches(const TEntityTree& aRegionTree, const TEntityTre
   const std::span<TTreeNode* const> regions = aRegionTree.RootNode()->Children();
   const double tolerance = ReadLinearTolerance();
   TRegionReaches reaches;
+  std::size_t points = 0;
+  for (const TTreeNode* region : regions) points += TRegionEntities(aCoordinateTree, *region).size();
+  reaches.fPoints.reserve(points);
+  reaches.fFirstPoints.reserve(regions.size() + 1);
+  reaches.fStartPoints.reserve(regions.size());
   reaches.fBoxes.assign(regions.size(), {-kInfinite, kInfinite, -kInfinite, kInfinite});
   const bool isTame = tolerance > 0 && tolerance < kLargest;
   for (std::size_t i = 0; i < regions.size(); ++i) {

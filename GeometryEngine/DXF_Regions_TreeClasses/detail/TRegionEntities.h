@@ -9,6 +9,10 @@
 
 namespace GeometryEngine::detail {
 
+/// For passes over region after region: the entities of so many regions on are asked for, as memory takes that long to
+/// answer.
+inline constexpr std::size_t kRegionsAhead = 6;
+
 /// The entities of a region in the order of travel, from its nodes or from what these are to be made of. An index
 /// outside of the storage stands for an empty entity.
 ///
