@@ -28,7 +28,8 @@ class TGraphWalk {
   static constexpr TIndex kNone = kNotFound;
 
   explicit TGraphWalk(const TVertexGraph& aGraph);
-  /// Forgets all walks and what was marked, but for the marks of the tree: the graph has been numbered anew.
+  /// Forgets all walks and what was marked, but for the marks of the tree: the graph, a regular one, has been numbered
+  /// anew.
   void ReadGraph();
 
   /// Walks from a half-edge on, by the rules of FindNextRegionEntity.
