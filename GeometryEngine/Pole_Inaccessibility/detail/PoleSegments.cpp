@@ -17,6 +17,11 @@ bool IsFinite(const TEntityCoordinate& aPoint) {
   return std::isfinite(aPoint.x) && std::isfinite(aPoint.y);
 }
 
+/// How many groups so many make, the last one full or not.
+std::size_t CountGroups(std::size_t aCount) {
+  return (aCount + kGroupSize - 1) / kGroupSize;
+}
+
 double GetLargest(const TEntityCoordinate& aPoint) {
   return std::max(std::abs(aPoint.x), std::abs(aPoint.y));
 }
@@ -53,7 +58,7 @@ bool TPoleSegments::AddChain(const TEntityStorage& aChain) {
 /// The first chain is the only one mostly, or the longest.
 void TPoleSegments::ReserveFirst(std::size_t aSegments) {
   if (!fGroups.empty()) return;
-  const std::size_t groups = (aSegments + kGroupSize - 1) / kGroupSize;
+  const std::size_t groups = CountGroups(aSegments);
   fGroups.reserve(groups);
   fGroupBoxes.reserve(groups);
 }
@@ -65,7 +70,7 @@ void TPoleSegments::FillLastGroup() {
 }
 
 void TPoleSegments::GroupBoxes() {
-  const std::size_t groups = (fGroupBoxes.size() + kGroupSize - 1) / kGroupSize;
+  const std::size_t groups = CountGroups(fGroupBoxes.size());
   std::vector<TPlaneBox> whole;
   whole.reserve(TBlockTree<TPlaneBox>::GetRoom(groups));
   fBoxes.reserve(groups);
